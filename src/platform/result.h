@@ -1,0 +1,50 @@
+// What an operation gives that can fail: a value, or a sentence that says why there is none.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <variant>
+
+namespace zarvo {
+
+// Why something failed, in words that can be shown to the player ("No such file or directory").
+struct Error {
+  std::string message;
+};
+
+template <typename T>
+class [[nodiscard]] Result {
+ public:
+  Result(T value) : state_(std::move(value)) {}      // NOLINT(google-explicit-constructor)
+  Result(Error error) : state_(std::move(error)) {}  // NOLINT(google-explicit-constructor)
+
+  [[nodiscard]] bool ok() const { return std::holds_alternative<T>(state_); }
+  explicit operator bool() const { return ok(); }
+
+  // Only when ok().
+  T& value() { return std::get<T>(state_); }
+  const T& value() const { return std::get<T>(state_); }
+  T& operator*() { return value(); }
+  const T& operator*() const { return value(); }
+  T* operator->() { return &value(); }
+  const T* operator->() const { return &value(); }
+
+  // Only when not ok().
+  const Error& error() const { return std::get<Error>(state_); }
+
+ private:
+  std::variant<T, Error> state_;
+};
+
+struct Nothing {};
+
+// A Result without a value: `return Success();` or `return Error{"..."};`.
+using Status = Result<Nothing>;
+
+inline Status Success() { return Nothing{}; }
+
+// For a step whose failure is passed over on purpose.
+template <typename T>
+void Ignore(const Result<T>& /*result*/) {}
+
+}  // namespace zarvo

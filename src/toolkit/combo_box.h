@@ -1,0 +1,44 @@
+// A drop-down list with fixed choices.
+#pragma once
+
+#include <QComboBox>
+#include <string>
+#include <string_view>
+
+#include "toolkit/colour.h"
+#include "toolkit/control.h"
+
+namespace zarvo {
+
+// A new selection raises Click inside the statement that sets it; a choice by the player raises it
+// too. The wheel turns the choice only while the box has the focus.
+class ComboBox : public QComboBox, public Control {
+ public:
+  explicit ComboBox(QWidget* parent);
+
+  [[nodiscard]] int ListIndex() const { return currentIndex(); }
+  // A value out of range, but -1, is no change and returns false.
+  bool SetListIndex(int index);
+  [[nodiscard]] int ListCount() const { return count(); }
+  [[nodiscard]] std::string Text() const;
+  [[nodiscard]] std::string List(int index) const;
+  void AddItem(std::string_view text);
+  bool RemoveItem(int index);
+  void Clear();
+  void SetBackColor(Colour colour);
+  void SetForeColor(Colour colour);
+  [[nodiscard]] Colour BackColor() const { return back_colour_; }
+  [[nodiscard]] Colour ForeColor() const { return fore_colour_; }
+
+  Event<> Click;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void ApplyColours();
+  Colour back_colour_ = kSilver;
+  Colour fore_colour_ = kBlack;
+};
+
+}  // namespace zarvo

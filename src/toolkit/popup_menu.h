@@ -1,0 +1,28 @@
+// A menu that pops up at a place of the screen.
+#pragma once
+
+#include <QMenu>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zarvo {
+
+// Its items do nothing when chosen: the menu is a small display. Items are named once, their
+// captions change.
+class PopupMenu {
+ public:
+  // Item names in order; an empty name is a separator.
+  PopupMenu(std::string_view object_name, const std::vector<std::string>& item_names);
+
+  void SetCaption(int item, std::string_view caption);
+  [[nodiscard]] std::string Caption(int item) const;
+  // Returns when the menu has been closed.
+  void ShowAt(QPoint global);
+
+ private:
+  QMenu menu_;
+  std::vector<QAction*> items_;
+};
+
+}  // namespace zarvo

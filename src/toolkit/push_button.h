@@ -1,0 +1,21 @@
+// A button with a caption, for the dialogs.
+#pragma once
+
+#include <QPushButton>
+#include <string>
+
+#include "toolkit/control.h"
+
+namespace zarvo {
+
+class PushButton : public QPushButton, public Control {
+ public:
+  explicit PushButton(QWidget* parent);
+  void SetCaption(std::string_view caption);
+  // Draws it as the one that Enter presses.
+  void SetDefault(bool is_default);
+
+  Event<> Click;
+};
+
+}  // namespace zarvo

@@ -1,0 +1,21 @@
+// A timer that raises a tick at an interval, and stands still while a child process runs.
+#pragma once
+
+#include <QTimer>
+
+#include "toolkit/event.h"
+
+namespace zarvo {
+
+class Timer {
+ public:
+  Timer();
+  // Milliseconds; 0 stops it.
+  void SetInterval(int milliseconds);
+  Event<> Tick;
+
+ private:
+  QTimer timer_;
+};
+
+}  // namespace zarvo

@@ -1,0 +1,82 @@
+// Windows: placed in twips, shown modal or not, and unloaded.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "toolkit/colour.h"
+#include "toolkit/control.h"
+#include "toolkit/picture.h"
+
+namespace zarvo {
+
+enum class WindowFrame {
+  kNone,     // main window and panels: nothing but their own surface
+  kDesktop,  // dialogs: title bar of the desktop, fixed size
+};
+
+// A window has the size given, which the player can't change by its edge. Left and Top are its
+// place on the screen; they follow when the player moves it.
+class Window : public QWidget {
+ public:
+  Window(WindowFrame frame, std::string_view object_name);
+
+  [[nodiscard]] std::string Caption() const;
+  void SetCaption(std::string_view caption);
+
+  // Twips. What was set is what is read until the window is moved or sized by something else.
+  [[nodiscard]] int Left() const;
+  [[nodiscard]] int Top() const;
+  [[nodiscard]] int Width() const;
+  [[nodiscard]] int Height() const;
+  void SetLeft(int twips);
+  void SetTop(int twips);
+  void SetWidth(int twips);
+  void SetHeight(int twips);
+
+  // A picture that fills the window's ground behind the controls.
+  void SetBackground(const Picture& picture);
+
+  void ShowModeless();
+  // Returns when the window has been unloaded. No other window takes input meanwhile.
+  void ShowModal();
+  // Raises Unload; unless a handler refuses, the window goes. Safe inside a handler of the window.
+  // The object stays, hidden, until its owner drops it.
+  void UnloadWindow();
+  [[nodiscard]] bool IsUnloaded() const { return unloaded_; }
+
+  // The left button is down on the surface: the desktop moves the window until it is released.
+  void MoveWithMouse();
+
+  // Into the top-most band of the desktop or out of it, without a change of place, size or focus.
+  void SetAlwaysOnTop(bool on);
+
+  // The button that Enter presses and the one that Escape presses, where no control takes the key.
+  void SetDefaultAction(std::function<void()> action) { default_action_ = std::move(action); }
+  void SetCancelAction(std::function<void()> action) { cancel_action_ = std::move(action); }
+
+  Event<const MouseArgs&> MouseMove;  // over the window's own surface
+  Event<bool&> Unload;                // set the argument to refuse
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Place();
+
+  TwipRect place_;  // as set
+  Picture background_;
+  bool unloaded_ = false;
+  bool unloading_ = false;
+  bool modal_ = false;
+  std::function<void()> default_action_;
+  std::function<void()> cancel_action_;
+};
+
+}  // namespace zarvo
