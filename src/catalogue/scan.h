@@ -1,6 +1,7 @@
 // Which games of the data file the player really has: the scan of a rom folder.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "catalogue/data_file.h"
@@ -8,6 +9,13 @@
 namespace zarvo {
 
 enum class SetType { kSplit, kMerged };
+
+// The marks of a game in the scan file.
+inline constexpr char kFoundMark = 'Y';
+inline constexpr char kMissingMark = 'N';
+
+// The name under which the scan file is written before it takes its place: "Mamescn.tmp".
+std::string ScanTemporary(const EmulatorProfile& profile);
 
 struct ScanOutcome {
   int found = 0;
