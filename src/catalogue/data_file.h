@@ -65,6 +65,8 @@ class RecordReader {
                                    const EmulatorProfile& profile);
   // The next record's line, valid until the next call; false at the end of the file.
   bool Next(std::string_view& line);
+  // True if the file could not be read to its end.
+  [[nodiscard]] bool Failed() const { return lines_.Failed(); }
 
  private:
   explicit RecordReader(LineReader lines) : lines_(std::move(lines)) {}

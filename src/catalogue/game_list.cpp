@@ -137,6 +137,7 @@ void FilterList(DosFiles& files, const AppState& app, const EmulatorProfile& pro
   auto records = RecordReader::Open(files, app, profile);
   if (!records) return;
   const std::string names = KeptNames(*records, PlaceOf(filter), value, list);
+  if (records->Failed()) return;
   const bool written = files.WriteFile(kWorkFile, names).ok();
   const auto work = written ? ReadAll(files, kWorkFile) : Error{};
   Ignore(files.DeleteFile(kWorkFile));

@@ -117,6 +117,7 @@ Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulato
   ScanOutcome outcome;
   outcome.found =
       LookForGames(*records, profile.knows_parents ? sets : SetType::kSplit, archives, text);
+  if (records->Failed()) return Error{"The data file could not be read to its end"};
   outcome.written = EnterFolder(files, app.CfgFolder());
   if (outcome.written) {
     outcome.written = files.ReplaceFile(profile.scan_file, ScanTemporary(profile), text);

@@ -25,7 +25,7 @@ struct ScanOutcome {
 // Looks for the archive of every game in `rom_folder` and writes the answers to `<Emu>.scn` in the
 // folder cfg, a line `"Name;Y"` or `"Name;N"` each, in the order of the data file. If `rom_folder`
 // can't be entered, the look-ups run in the folder cfg. kMerged counts on MAME alone. Fails if the
-// data file can't be read; the old scan file stays then.
+// data file can't be read to its end; the old scan file stays then.
 Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
                              std::string_view rom_folder, SetType sets);
 

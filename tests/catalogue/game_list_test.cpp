@@ -21,10 +21,10 @@ class GameList : public CatalogueTest {
   NameList list_;
 };
 
-class Fill : public GameList {};
-class Filter : public GameList {};
+class FillingAList : public GameList {};
+class FilteringAList : public GameList {};
 
-TEST_F(Fill, EveryStateHoldsItsGames) {
+TEST_F(FillingAList, EveryStateHoldsItsGames) {
   PutData(Header() +                      //
           "alpha;a;O;-;\r\n"              //
           "Beta;b;C;alpha;\r\n"           //
@@ -53,7 +53,7 @@ TEST_F(Fill, EveryStateHoldsItsGames) {
   }
 }
 
-TEST_F(Fill, EndsAtALineThatCantBeCut) {
+TEST_F(FillingAList, EndsAtALineThatCantBeCut) {
   PutData("A;a;O;-;\r\nNo semicolon\r\nB;b;O;-;\r\n");
   EXPECT_EQ(Fill(GameState::kAllSupported), FillResult::kFilled);
   EXPECT_THAT(Listed(), ElementsAre("A"));
@@ -66,7 +66,7 @@ TEST_F(Fill, EndsAtALineThatCantBeCut) {
   }
 }
 
-TEST_F(Fill, WithoutADataFileOnlyAllSupportedEmptiesTheList) {
+TEST_F(FillingAList, WithoutADataFileOnlyAllSupportedEmptiesTheList) {
   list_ = ListOf({"Old"});
   EXPECT_EQ(Fill(GameState::kNeoGeo), FillResult::kNoDataFile);
   EXPECT_THAT(Listed(), ElementsAre("Old"));
@@ -74,14 +74,14 @@ TEST_F(Fill, WithoutADataFileOnlyAllSupportedEmptiesTheList) {
   EXPECT_THAT(Listed(), IsEmpty());
 }
 
-TEST_F(Fill, AHeaderWithoutRecordsEmptiesTheList) {
+TEST_F(FillingAList, AHeaderWithoutRecordsEmptiesTheList) {
   PutData(Header());
   list_ = ListOf({"Old"});
   EXPECT_EQ(Fill(GameState::kClones), FillResult::kFilled);
   EXPECT_THAT(Listed(), IsEmpty());
 }
 
-TEST_F(Fill, HoldsAsManyGamesAsAListCan) {
+TEST_F(FillingAList, HoldsAsManyGamesAsAListCan) {
   std::string bytes;
   for (int game = 0; game < 40000; ++game)
     bytes += "Game " + std::to_string(10000 + game) + ";g;\n";
@@ -91,7 +91,7 @@ TEST_F(Fill, HoldsAsManyGamesAsAListCan) {
   EXPECT_EQ(list_.At(32766), "Game 42766");
 }
 
-TEST_F(Fill, AvailableAndMissingReadTheScanFileAlone) {
+TEST_F(FillingAList, AvailableAndMissingReadTheScanFileAlone) {
   PutScan(
       "\"Zeta;Y\"\r\n\"Beta;N\"\r\n\"alpha;Y\"\n\"\"\r\n\r\n\"\r\n\"No mark\"\r\n\"Lower;y\"\r\n"
       "'Odd;more;Y'\r\n\"Unended;N");
@@ -101,7 +101,7 @@ TEST_F(Fill, AvailableAndMissingReadTheScanFileAlone) {
   EXPECT_THAT(Listed(), ElementsAre("Beta"));
 }
 
-TEST_F(Fill, WithoutAScanFileTheListStaysAsItWas) {
+TEST_F(FillingAList, WithoutAScanFileTheListStaysAsItWas) {
   PutData("A;a;O;-;\r\n");
   list_ = ListOf({"Old"});
   EXPECT_EQ(Fill(GameState::kAvailable), FillResult::kNoScanFile);
@@ -110,13 +110,13 @@ TEST_F(Fill, WithoutAScanFileTheListStaysAsItWas) {
   EXPECT_THAT(Listed(), ElementsAre("Old"));
 }
 
-TEST_F(Fill, TakesAScanFileWhoseReplacementWasCutOff) {
+TEST_F(FillingAList, TakesAScanFileWhoseReplacementWasCutOff) {
   files_.Put(R"(C:\Zarvo\cfg\Mamescn.tmp)", "\"A;Y\"\r\n");
   EXPECT_EQ(Fill(GameState::kAvailable), FillResult::kFilled);
   EXPECT_THAT(Listed(), ElementsAre("A"));
 }
 
-TEST_F(Filter, KeepsTheGamesWithTheValue) {
+TEST_F(FilteringAList, KeepsTheGamesWithTheValue) {
   PutData(Header() + Record("alpha;a;O;-;Action;Sega;1988") +
           Record("Beta;b;O;-;Actions;Sega + Co;1989") + Record("Gamma;g;O;-;Action;SNK;????") +
           Record("Omega;o;O;-;;;"));
@@ -140,7 +140,7 @@ TEST_F(Filter, KeepsTheGamesWithTheValue) {
   EXPECT_FALSE(files_.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
-TEST_F(Filter, TheNeutralItemReadsAndChangesNothing) {
+TEST_F(FilteringAList, TheNeutralItemReadsAndChangesNothing) {
   list_ = ListOf({"Not in the file"});
   Filter(ValueFilter::kGenre, "- Genre");
   Filter(ValueFilter::kManufactor, "- Manufactor");
@@ -150,7 +150,7 @@ TEST_F(Filter, TheNeutralItemReadsAndChangesNothing) {
   EXPECT_THAT(files_.written, IsEmpty());
 }
 
-TEST_F(Filter, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
+TEST_F(FilteringAList, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
   PutData(Record("Ace;1;O;-;Puzzle;x;1980") + "# Bat;\r\n" + Record("Bat II;2;O;-;Action;x;1980") +
           Record("Bat;3;O;-;Puzzle;x;1980") + Record("Cat;4;O;-;Action;x;1980") +
           Record("Dog;5;O;-;Action;x;1980") + "Eel\r\n" + Record("Fox;7;O;-;Action;x;1980"));
@@ -176,7 +176,7 @@ TEST_F(Filter, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
   }
 }
 
-TEST_F(Filter, NamesComeBackFromTheWorkFileWhole) {
+TEST_F(FilteringAList, NamesComeBackFromTheWorkFileWhole) {
   PutData(Record("\"Quoted\";q;O;-;Action;x;1980") +
           Record("Caf\xE9 \x93Z\x94;c;O;-;Action;x;1980"));
   list_ = ListOf({"\"Quoted\"", "Caf\xE9 \x93Z\x94"});
@@ -185,7 +185,7 @@ TEST_F(Filter, NamesComeBackFromTheWorkFileWhole) {
   EXPECT_THAT(files_.written, ElementsAre(R"(c:\zarvo\data\tofilter.tmp)"));
 }
 
-TEST_F(Filter, AFileThatCantBeUsedLeavesTheListAsItWas) {
+TEST_F(FilteringAList, AFileThatCantBeUsedLeavesTheListAsItWas) {
   list_ = ListOf({"A", "B"});
   Filter(ValueFilter::kGenre, "Action");
   EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "no data file";
@@ -193,9 +193,13 @@ TEST_F(Filter, AFileThatCantBeUsedLeavesTheListAsItWas) {
   files_.fail_writes = true;
   Filter(ValueFilter::kGenre, "Action");
   EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "no work file";
+  files_.fail_writes = false;
+  files_.break_off_reads = true;
+  Filter(ValueFilter::kGenre, "Action");
+  EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "a data file that breaks off";
 }
 
-TEST_F(Filter, NarrowsWhatTheScanFound) {
+TEST_F(FilteringAList, NarrowsWhatTheScanFound) {
   PutData(Record("A;a;O;-;Action;x;1980") + Record("B;b;O;-;Puzzle;x;1980") +
           Record("D;d;O;-;Action;x;1980"));
   PutScan("\"A;Y\"\r\n\"B;Y\"\r\n\"C;Y\"\r\n\"D;Y\"\r\n");

@@ -115,8 +115,12 @@ TEST_F(Scan, AScanFileThatCantBeWrittenDoesntSpoilTheCount) {
   EXPECT_EQ(files_.BytesOf(kScanFile), "old");
 }
 
-TEST_F(Scan, WithoutADataFileTheOldAnswersStay) {
+TEST_F(Scan, WithoutAWholeDataFileTheOldAnswersStay) {
   PutScan("old");
+  EXPECT_EQ(Run(SetType::kSplit), -1);
+  EXPECT_EQ(files_.BytesOf(kScanFile), "old");
+  PutData("A;a;\r\nB;b;\r\n");
+  files_.break_off_reads = true;
   EXPECT_EQ(Run(SetType::kSplit), -1);
   EXPECT_EQ(files_.BytesOf(kScanFile), "old");
 }

@@ -29,6 +29,7 @@ class MemoryFiles : public DosFiles {
   }
 
   bool fail_writes = false;
+  bool break_off_reads = false;             // half of a file, then a read error
   std::vector<std::string> written;         // full paths in the order of writing
   mutable std::vector<std::string> opened;  // the paths as they were given
   mutable int folders_listed = 0;
@@ -65,7 +66,8 @@ class MemoryFiles : public DosFiles {
     opened.emplace_back(path);
     const auto found = files_.find(Key(path));
     if (found == files_.end()) return Error{"No such file"};
-    return std::unique_ptr<ByteSource>(std::make_unique<MemorySource>(found->second));
+    return std::unique_ptr<ByteSource>(
+        std::make_unique<MemorySource>(found->second, break_off_reads));
   }
 
   Status WriteFile(std::string_view path, std::string_view bytes) override {
@@ -100,7 +102,10 @@ class MemoryFiles : public DosFiles {
  private:
   class MemorySource : public ByteSource {
    public:
-    explicit MemorySource(std::string bytes) : bytes_(std::move(bytes)) {}
+    MemorySource(std::string bytes, bool fails) : bytes_(std::move(bytes)), fails_(fails) {
+      if (fails_) bytes_.resize(bytes_.size() / 2);
+    }
+    [[nodiscard]] bool Failed() const override { return fails_; }
     std::size_t Read(char* buffer, std::size_t size) override {
       const std::size_t count = std::min(size, bytes_.size() - at_);
       std::memcpy(buffer, bytes_.data() + at_, count);
@@ -110,6 +115,7 @@ class MemoryFiles : public DosFiles {
 
    private:
     std::string bytes_;
+    bool fails_;
     std::size_t at_ = 0;
   };
 
