@@ -28,6 +28,9 @@ struct Work {
   std::function<void()> reset = {};
 };
 
+// Only works whose name holds `part` are measured from now on.
+void MeasureOnly(std::string_view part);
+
 void PrintTableHead();
 
 // Runs both by turns and prints medians of the times, and median and quartiles of the ratio of each
