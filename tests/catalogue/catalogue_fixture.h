@@ -40,6 +40,7 @@ class CatalogueTest : public testing::Test {
 
   static std::vector<std::string> Names(const NameList& list) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(list.Count()));
     for (int i = 0; i < list.Count(); ++i) names.emplace_back(list.At(i));
     return names;
   }

@@ -66,7 +66,7 @@ TEST_F(Scan, LooksThroughTheFolderOnceForAllGames) {
   std::string bytes;
   for (int game = 0; game < 40000; ++game) {
     const std::string number = std::to_string(game);
-    bytes += "Game " + number + ";g" + number + ";O;-;\n";
+    bytes.append("Game ").append(number).append(";g").append(number).append(";O;-;\n");
   }
   PutData(bytes);
   PutRom("g0.zip");
