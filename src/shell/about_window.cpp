@@ -13,16 +13,22 @@ constexpr int kWidth = 4005;
 constexpr int kHeight = 2850;
 constexpr int kMargin = ToTwips(10);
 constexpr int kTextWidth = kWidth - 2 * kMargin;
-constexpr int kLine = ToTwips(14);
+constexpr int kLine = ToTwips(13);
 
-constexpr TwipRect Paragraph(int top_pixels, int lines) {
-  return {kMargin, ToTwips(top_pixels), kTextWidth, lines * kLine};
+// Lines of text under one another, across the window.
+constexpr TwipRect Lines(int top_pixels, int count) {
+  return {kMargin, ToTwips(top_pixels), kTextWidth, count * kLine};
+}
+
+constexpr TwipRect Centred(int top_pixels, int width_pixels, int height_pixels) {
+  const int width = ToTwips(width_pixels);
+  return {(kWidth - width) / 2, ToTwips(top_pixels), width, ToTwips(height_pixels)};
 }
 
 Label* PutLink(QWidget* parent, std::string_view name, const TwipRect& place,
                std::string_view caption) {
   auto* link = PutCaption<Label>(parent, name, place, caption);
-  link->SetForeColor(kPeriwinkle);
+  link->SetForeColor(kLavender);
   link->SetUnderline(true);
   link->SetPressable(true);
   return link;
@@ -47,27 +53,28 @@ AboutWindow::AboutWindow(const AppState& app, AddressOpener open)
 }
 
 void AboutWindow::Build() {
-  const int heading_left = kMargin + ToTwips(52);
-  imgZarvo = Put<ImageBox>(this, "imgZarvo", {kMargin, ToTwips(8), ToTwips(42), ToTwips(42)});
+  SetBackground(Picture::FromResource("about_background"));
+  imgZarvo = Put<ImageBox>(this, "imgZarvo", Centred(5, 113, 32));
   imgZarvo->SetPicture(Picture::FromResource("logo"));
-  Label1 = PutCaption<Label>(this, "Label1", {heading_left, ToTwips(12), ToTwips(44), kLine + 30},
+  constexpr int kVersionLeft = kWidth / 2 + ToTwips(9);
+  Label1 = PutCaption<Label>(this, "Label1",
+                             {kMargin, ToTwips(39), kVersionLeft - ToTwips(4) - kMargin, kLine},
                              "Zarvo -");
+  Label1->SetAlign(TextAlign::kRight);
   Label1->SetBold(true);
   lblVersion = Put<Label>(this, "lblVersion",
-                          {heading_left + ToTwips(44), ToTwips(12), ToTwips(60), kLine + 30});
+                          {kVersionLeft, ToTwips(39), kWidth - kMargin - kVersionLeft, kLine});
   lblVersion->SetBold(true);
-  Label2 = PutCaption<Label>(this, "Label2",
-                             {heading_left, ToTwips(30), kWidth - kMargin - heading_left, kLine},
-                             "The Definitive MultiFrontend for Emulators");
-  lblLatestFiles = Put<Label>(this, "lblLatestFiles", Paragraph(58, 2));
+  Label2 =
+      PutCaption<Label>(this, "Label2", Lines(52, 1), "The Definitive MultiFrontend for Emulators");
+  Label2->SetAlign(TextAlign::kCentre);
+  lblLatestFiles = Put<Label>(this, "lblLatestFiles", Lines(68, 2));
   lblLatestFiles->SetWordWrap(true);
-  lblZarvoWeb = PutLink(this, "lblZarvoWeb", Paragraph(87, 1), kHomePage);
-  lblInfoRequest = Put<Label>(this, "lblInfoRequest", Paragraph(108, 2));
+  lblZarvoWeb = PutLink(this, "lblZarvoWeb", Lines(94, 1), kHomePage);
+  lblInfoRequest = Put<Label>(this, "lblInfoRequest", Lines(110, 2));
   lblInfoRequest->SetWordWrap(true);
-  lblEMailMe = PutLink(this, "lblEMailMe", Paragraph(137, 1), kSupportMail);
-  cmdOk = PutCaption<PushButton>(
-      this, "cmdOk", {kWidth - kMargin - ToTwips(70), ToTwips(158), ToTwips(70), ToTwips(24)},
-      "Close");
+  lblEMailMe = PutLink(this, "lblEMailMe", Lines(136, 1), kSupportMail);
+  cmdOk = PutCaption<PushButton>(this, "cmdOk", Centred(160, 76, 23), "Close");
   cmdOk->SetDefault(true);
 }
 
