@@ -22,30 +22,30 @@ enum class OptionKind {
 struct OptionSpec {
   std::string_view name;  // of the control without the emulator's word: "cboScreenRes"
   OptionKind kind = OptionKind::kCheck;
-  std::string_view caption;  // of the check box; of the small label beside a combo or text box
-  std::string_view tool_tip;
-  std::span<const std::string_view> items;  // of a combo
-  int default_value = 0;                    // at panel load, and for a game without a record
-  std::string_view default_text;            // of a text box
-  std::optional<int> preset;  // set when the settings page is entered, before the load
-  bool stored = true;         // a field of the record; else only cleared with it
+  std::string_view caption = {};  // of the check box; of the small label beside a combo or text box
+  std::string_view tool_tip = {};
+  std::span<const std::string_view> items = {};  // of a combo
+  int default_value = 0;                         // at panel load, and for a game without a record
+  std::string_view default_text = {};            // of a text box
+  std::optional<int> preset = {};  // set when the settings page is entered, before the load
+  bool stored = true;              // a field of the record; else only cleared with it
   bool enabled_at_start = true;
-  int most_characters = 0;  // of a text box; 0: no limit
-  TwipRect place;           // on the settings page
-  TwipRect caption_place;   // of the label of a combo or text box
+  int most_characters = 0;      // of a text box; 0: no limit
+  TwipRect place = {};          // on the settings page
+  TwipRect caption_place = {};  // of the label of a combo or text box
 };
 
 // The options of an emulator in the order of their fields in the stored record; those that aren't
 // stored stand last. The rom folder, field 2 of every record, is no row of the table.
 std::span<const OptionSpec> OptionsOf(Emulator emulator);
 
-// Index of an option by its name, which must be one of the emulator's.
+// Index of an option by its name; the count of options if the emulator has none of that name.
 std::size_t OptionIndex(Emulator emulator, std::string_view name);
 
 // What a control of the settings page holds.
 struct OptionValue {
   int number = 0;    // ListIndex or Value
-  std::string text;  // of a text box; of a combo the selected item
+  std::string text;  // of a text box
   bool enabled = true;
 };
 

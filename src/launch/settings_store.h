@@ -22,9 +22,10 @@ enum class LoadOutcome {
   kNothing,   // no store, or an empty line in front of the record: `values` is untouched
 };
 
-// Reads the record of `key` and sets app.SettingsFound and app.SettingsFields. Fields that a record
-// lacks, and fields that aren't numbers where numbers belong, keep the default. A combo index past
-// its items counts as such a field too.
+// Reads the record of `key` and sets app.SettingsFound and app.SettingsFields. Options that a
+// record never holds, and whether an option can be used, stay as `values` has them. Fields that a
+// record lacks, and fields that aren't numbers where numbers belong, keep the default. A combo
+// index past its items counts as such a field too.
 LoadOutcome LoadSettings(DosFiles& files, AppState& app, const EmulatorProfile& profile,
                          std::string_view key, OptionValues& values);
 

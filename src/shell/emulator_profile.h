@@ -11,6 +11,9 @@ namespace zarvo {
 enum class Emulator : std::size_t { kMame, kCallus, kRaine, kSystem16, kM72 };
 inline constexpr std::size_t kEmulatorCount = 5;
 
+// When a launch looks for the game's archive in its rom folder before anything else.
+enum class ArchiveLook { kNever, kInOwnFolder, kAlways };
+
 struct EmulatorProfile {
   Emulator emulator;
   std::string_view word;          // in the names of controls and files: "Mame"
@@ -40,6 +43,11 @@ struct EmulatorProfile {
   bool has_favourites;      // favourites that can be changed, and the clear label
   bool has_recording;       // input record and playback
   bool knows_parents;       // parents, merged sets and the overwrite question with its steps
+
+  bool tests_emulator_first;  // a launch tests the emulator before it looks the game up
+  ArchiveLook archive_look;
+  std::string_view no_emulator_title;  // of the box; empty: the program's title
+  std::string_view no_rom_title;
 };
 
 // In the order MAME, Callus, Raine, System16, M72.
