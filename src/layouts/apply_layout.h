@@ -8,9 +8,9 @@
 
 namespace zarvo {
 
-// Places the main window, or opens a panel that isn't open and places it. Words that are neither
-// are passed over, and so is the place of a panel whose section didn't open.
-void ApplyRecord(const LayoutTools& tools, const LayoutRecord& record);
+// Places the main window, opens the panels that aren't open and places them, record by record. The
+// place of a panel whose section didn't open is passed over.
+void ApplyRecords(const LayoutTools& tools, const std::vector<LayoutRecord>& records);
 
 // Where the main window and the open panels stand now, in the order in which a layout holds them.
 std::vector<LayoutRecord> PresentWindows(const LayoutTools& tools);

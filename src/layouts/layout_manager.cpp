@@ -6,9 +6,6 @@
 namespace zarvo {
 namespace {
 
-constexpr std::string_view kLayoutFile = "layouts.dat";
-constexpr std::string_view kIniFile = "zarvo.ini";
-
 int FindItem(const ComboBox& combo, std::string_view text) {
   for (int i = 0; i < combo.ListCount(); ++i) {
     if (combo.List(i) == text) return i;
@@ -54,7 +51,7 @@ void LayoutManager::Load() {
 }
 
 bool LayoutManager::FillNames() {
-  const auto names = store_.List();
+  const auto names = store_.Names();
   if (!names) return false;
   for (const std::string& name : *names) {
     cboListaLayout->AddItem(name);
@@ -65,13 +62,13 @@ bool LayoutManager::FillNames() {
 
 // False as soon as something can't be read, or names a layout that isn't there.
 bool LayoutManager::LoadSettings() {
-  const auto always_on_top = store_.ReadKey("LayoutAlwaysOnTop =");
+  const auto always_on_top = store_.ReadSwitch(kAlwaysOnTopKey);
   if (!always_on_top) return false;
-  chkAlwaysOnTop->SetValue(*always_on_top == "1");
-  const auto autoload = store_.ReadKey("AutoloadOnStartup =");
+  chkAlwaysOnTop->SetValue(*always_on_top ? 1 : 0);
+  const auto autoload = store_.ReadSwitch(kAutoloadKey);
   if (!autoload) return false;
-  chkEnableAutoload->SetValue(*autoload == "1");
-  const auto default_layout = store_.ReadKey("DefaultLayout =");
+  chkEnableAutoload->SetValue(*autoload ? 1 : 0);
+  const auto default_layout = store_.ReadDefaultLayout();
   if (!default_layout) return false;
   for (int next = 0; cboListaLayout2->Text() != *default_layout; ++next) {
     if (!cboListaLayout2->SetListIndex(next)) return false;
@@ -83,12 +80,14 @@ bool LayoutManager::LoadSettings() {
 void LayoutManager::ShowPanels() {
   lstEmulatori->Clear();
   lstEmulatoriSize->Clear();
-  Ignore(store_.WalkBlock(cboListaLayout->Text(), [this](const LayoutRecord& record) {
-    if (record.word == "MAIN") return;
+  const auto block = store_.ReadBlock(cboListaLayout->Text());
+  if (!block) return;
+  for (const LayoutRecord& record : block->records) {
+    if (record.word == kMainWord) continue;
     lstEmulatori->AddItem(record.word);
-    const std::string_view size = SizeWord(record.place);
+    const std::string_view size = SizeWord(record.width, record.height);
     if (!size.empty()) lstEmulatoriSize->AddItem(size);
-  }));
+  }
 }
 
 void LayoutManager::AskName(NameMode mode, std::string_view name) {
@@ -113,8 +112,8 @@ void LayoutManager::AddLayout(NameDialog& dialog) {
   cboListaLayout2->AddItem(name);
   cboListaLayout->SetListIndex(cboListaLayout->ListCount() - 1);
   cboListaLayout2->SetListIndex(0);
-  if (const Status added = store_.Add(name); !added) {
-    TellFailure(kLayoutFile, added.error());
+  if (const Status added = store_.AddBlock(name); !added) {
+    TellFailure(added.error());
     ShowFile("", default_layout);
     return;
   }
@@ -138,8 +137,8 @@ void LayoutManager::Rename(const std::string& old_name, const std::string& new_n
   MoveToEnd(*cboListaLayout2, old_name, new_name);
   const std::string& new_default = old_default == old_name ? new_name : old_default;
   cboListaLayout2->SetListIndex(FindItem(*cboListaLayout2, new_default));
-  if (const Status renamed = store_.Rename(old_name, new_name); !renamed) {
-    TellFailure(kLayoutFile, renamed.error());
+  if (const Status renamed = store_.RenameBlock(old_name, new_name); !renamed) {
+    TellFailure(renamed.error());
     ShowFile(old_name, old_default);
     return;
   }
@@ -153,8 +152,8 @@ void LayoutManager::RemoveLayout() {
   const std::string default_layout = cboListaLayout2->Text();
   cboListaLayout->RemoveItem(index);
   cboListaLayout2->RemoveItem(index);
-  if (const Status removed = store_.Remove(name); !removed) {
-    TellFailure(kLayoutFile, removed.error());
+  if (const Status removed = store_.RemoveBlock(name); !removed) {
+    TellFailure(removed.error());
     ShowFile(name, default_layout);
     return;
   }
@@ -170,8 +169,8 @@ void LayoutManager::RemoveLayout() {
 void LayoutManager::SaveLayout() {
   const std::string name = cboListaLayout->Text();
   if (name.empty()) return;
-  if (const Status saved = store_.Save(name, PresentWindows(tools_)); !saved) {
-    TellFailure(kLayoutFile, saved.error());
+  if (const Status saved = store_.SaveBlock(name, PresentWindows(tools_)); !saved) {
+    TellFailure(saved.error());
   }
   ShowPanels();
 }
@@ -180,22 +179,24 @@ void LayoutManager::SaveLayout() {
 void LayoutManager::LoadLayout() {
   const std::string name = cboListaLayout->Text();
   if (name.empty()) return;
-  std::vector<LayoutRecord> records;
-  const Status read =
-      store_.WalkBlock(name, [&](const LayoutRecord& record) { records.push_back(record); });
-  if (!read) {
-    TellFailure(kLayoutFile, read.error());
+  const auto block = store_.ReadBlock(name);
+  if (!block) {
+    TellFailure(block.error());
+    return;
+  }
+  if (!block->complete) {
+    TellFailure({"layouts.dat: the layout \"" + name + "\" is damaged"});
     return;
   }
   tools_.sections.CloseOpenPanels();
-  for (const LayoutRecord& record : records) ApplyRecord(tools_, record);
+  ApplyRecords(tools_, block->records);
 }
 
 void LayoutManager::SaveSettings() {
-  const Status saved = store_.SaveIni({.always_on_top = chkAlwaysOnTop->Value(),
-                                       .autoload = chkEnableAutoload->Value(),
+  const Status saved = store_.SaveIni({.always_on_top = chkAlwaysOnTop->Value() == 1,
+                                       .autoload = chkEnableAutoload->Value() == 1,
                                        .default_layout = cboListaLayout2->Text()});
-  if (!saved) TellFailure(kIniFile, saved.error());
+  if (!saved) TellFailure(saved.error());
 }
 
 bool LayoutManager::CanBeName(const NameDialog& dialog) {
@@ -217,8 +218,8 @@ bool LayoutManager::IsTaken(std::string_view name) {
   return false;
 }
 
-void LayoutManager::TellFailure(std::string_view file, const Error& error) {
-  tools_.boxes.Warn(tools_.app.Title(), std::string(file) + "\r" + error.message);
+void LayoutManager::TellFailure(const Error& error) {
+  tools_.boxes.Warn(tools_.app.Title(), error.message);
 }
 
 void LayoutManager::ShowFile(std::string_view selected, std::string_view default_layout) {

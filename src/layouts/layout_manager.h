@@ -64,8 +64,7 @@ class LayoutManager : public Window {
   // Walks `cboListaLayout` from its last item to its first, selecting each; true if it stopped at
   // the item that equals `name`, which the player is then told.
   bool IsTaken(std::string_view name);
-  // Tells the player why a file couldn't be read or written.
-  void TellFailure(std::string_view file, const Error& error);
+  void TellFailure(const Error& error);
   // After a failed write: the combos show what the file holds, with these selected if they can be.
   void ShowFile(std::string_view selected, std::string_view default_layout);
 

@@ -10,12 +10,7 @@ std::unique_ptr<Window> MakeLayoutWindow(const LayoutTools& tools) {
 }
 
 void AutoloadLayout(const LayoutTools& tools) {
-  LayoutStore store(tools.files, tools.app);
-  const auto autoload = store.ReadKey("AutoloadOnStartup =");
-  if (!autoload || *autoload != "1") return;
-  const auto name = store.ReadKey("DefaultLayout =");
-  if (!name || name->empty()) return;
-  Ignore(store.WalkBlock(*name, [&](const LayoutRecord& record) { ApplyRecord(tools, record); }));
+  ApplyRecords(tools, LayoutStore(tools.files, tools.app).AutoloadRecords());
 }
 
 }  // namespace zarvo

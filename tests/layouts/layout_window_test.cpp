@@ -120,8 +120,8 @@ TEST_F(LayoutWindowTest, APanelOfNoKnownSizeStandsWithoutOne) {
 
 TEST_F(LayoutWindowTest, WithoutALayoutOnlyAddDoesAnything) {
   LayoutManager& manager = Open();
-  for (PushButton* button : {manager.cmdRemove, manager.cmdRename, manager.cmdLoadLayout,
-                             manager.cmdSaveLayout}) {
+  for (PushButton* button :
+       {manager.cmdRemove, manager.cmdRename, manager.cmdLoadLayout, manager.cmdSaveLayout}) {
     button->click();
   }
   EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\layouts.dat)"));
@@ -278,10 +278,8 @@ TEST_F(LayoutWindowTest, LoadClosesAllPanelsAndOpensThoseOfTheLayout) {
   EXPECT_THAT(sections_.told, ElementsAre("close all", "main", "open MAME", "open M72"));
   EXPECT_EQ(sections_.main, (TwipRect{.left = 8, .top = 7}));
   EXPECT_THAT(sections_.places,
-              ElementsAre(std::pair(Emulator::kM72, TwipRect{.left = 6,
-                                                             .top = 5,
-                                                             .width = 6345,
-                                                             .height = 4620})));
+              ElementsAre(std::pair(Emulator::kM72,
+                                    TwipRect{.left = 6, .top = 5, .width = 6345, .height = 4620})));
   EXPECT_FALSE(manager.IsUnloaded());
 }
 
@@ -326,7 +324,7 @@ TEST_F(LayoutWindowTest, AFailedWriteIsToldAndTheListsShowTheFile) {
   GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
   LayoutManager& manager = Open();
   const auto expect_box = [&](const char* file) {
-    boxes_.Expect(BoxIcon::kExclamation, std::string(file) + "\rNo space left on device");
+    boxes_.Expect(BoxIcon::kExclamation, std::string(file) + ": No space left on device");
   };
   const auto expect_file_shown = [&](const std::string& selected) {
     EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Evening", "Night"));

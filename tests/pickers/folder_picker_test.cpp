@@ -157,8 +157,8 @@ TEST_F(FolderPickerTest, ALongPathLosesItsMiddleNotItsEnd) {
   ASSERT_EQ(labels.size(), 1);
   auto* path = dynamic_cast<Label*>(labels.front());
   ASSERT_NE(path, nullptr);
-  EXPECT_THAT(path->Caption(), testing::AllOf(testing::StartsWith(R"(C:\Emu\d)"),
-                                              testing::EndsWith(R"(d\roms)")));
+  EXPECT_THAT(path->Caption(),
+              testing::AllOf(testing::StartsWith(R"(C:\Emu\d)"), testing::EndsWith(R"(d\roms)")));
   EXPECT_LT(path->Caption().size(), deep.size());
   EXPECT_EQ(path->ToolTipText(), deep);
 }
