@@ -31,6 +31,7 @@ bool FilePicker::OpenAt(char drive, std::string_view folder) {
   return browser_->OpenAt(drive, folder);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes what the window shows.
 void FilePicker::SetPattern(std::string_view pattern) {
   txtShowFiltri->SetText(pattern);
   filSelExe->SetPattern(pattern);

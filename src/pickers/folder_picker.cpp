@@ -97,6 +97,7 @@ void FolderPicker::Select() {
   UnloadWindow();
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes what the window shows.
 void FolderPicker::ShowCount() { lblCount->SetCaption(std::to_string(filSelDir->ListCount())); }
 
 }  // namespace zarvo
