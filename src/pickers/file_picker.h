@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "pickers/folder_browser.h"
 #include "pickers/picker_panels.h"
 #include "platform/dos_files.h"
 #include "platform/message_boxes.h"
@@ -40,15 +41,16 @@ class FilePicker : public Window {
   PushButton* cmdCancel;
 
  private:
-  void Build();
+  void Build(DosFiles& files);
   void Wire();
   void Accept();
-  void Cancel();
+  void WriteFile(const EmulatorProfile& profile, const std::string& file);
 
-  DosFiles& files_;
   PickerPanels& panels_;
   MessageBoxes& boxes_;
   std::string box_title_;
+  std::unique_ptr<FolderBrowser> browser_;
+  bool accepted_ = false;
 };
 
 }  // namespace zarvo

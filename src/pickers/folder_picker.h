@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "pickers/folder_browser.h"
 #include "pickers/picker_panels.h"
 #include "platform/dos_files.h"
 #include "toolkit/file_lists.h"
@@ -39,13 +40,13 @@ class FolderPicker : public Window {
   PushButton* cmdCancel;
 
  private:
-  void Build();
+  void Build(DosFiles& files);
   void Wire();
   void Select();
   void ShowCount();
 
-  DosFiles& files_;
   PickerPanels& panels_;
+  std::unique_ptr<FolderBrowser> browser_;
 };
 
 }  // namespace zarvo

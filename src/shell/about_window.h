@@ -32,6 +32,9 @@ class AboutWindow : public Window {
   PushButton* cmdOk;
 
  private:
+  void Build();
+  void Wire();
+
   AddressOpener open_;
 };
 
