@@ -86,9 +86,10 @@ void MainWindow::Hover(const EmulatorProfile& profile) {
   Label* const label = selector[static_cast<std::size_t>(profile.emulator)];
   label->SetBackStyle(BackStyle::kOpaque);
   label->SetForeColor(kWhite);
-  const auto header = read_header_(profile);
-  if (!header) return;
-  for (std::size_t i = 0; i < facts.size(); ++i) facts[i]->SetCaption((*header)[i]);
+  const std::vector<std::string> header = read_header_(profile);
+  for (std::size_t i = 0; i < std::min(facts.size(), header.size()); ++i) {
+    facts[i]->SetCaption(header[i]);
+  }
 }
 
 void MainWindow::Turn() {

@@ -27,10 +27,9 @@ struct MainActions {
   std::function<void()> end_program;
 };
 
-// Reads the header of an emulator's data file, without its first characters; nothing on any
-// failure.
-using HeaderReader =
-    std::function<std::optional<std::array<std::string, 17>>(const EmulatorProfile&)>;
+// Reads the header lines of an emulator's data file, each without its first character, as far as
+// the file gives them.
+using HeaderReader = std::function<std::vector<std::string>(const EmulatorProfile&)>;
 
 class MainWindow : public Window, public MainPlace {
  public:
