@@ -8,10 +8,10 @@ packages_ci="clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev"
 # Prints those of the packages named that aren't installed.
 missing_packages() {
   local name installed
-  installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
-    sed -n 's/ installed$//p')
+  # dpkg-query fails if it doesn't know one of them.
+  installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true)
   for name in "$@"; do
-    grep -qxF -- "$name" <<<"$installed" || printf '%s\n' "$name"
+    grep -qxF -- "$name installed" <<<"$installed" || printf '%s\n' "$name"
   done
 }
 
