@@ -22,6 +22,8 @@ class ByteSource {
   virtual ~ByteSource() = default;
   // Reads up to `size` bytes to `buffer`; 0 at the end of the file and after a read error.
   virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+  // True after a read error: what was read isn't the whole file.
+  [[nodiscard]] virtual bool Failed() const { return false; }
 };
 
 struct FolderEntry {
@@ -46,12 +48,15 @@ class DosFiles {
   // True for a plain file, also behind a link; false for folders.
   [[nodiscard]] virtual bool FileExists(std::string_view path) const = 0;
   [[nodiscard]] virtual bool FolderExists(std::string_view path) const = 0;
-  // What the folder holds, in no order, without "." and "..". Names that Windows-1252 can't say
-  // aren't listed. "" is the current folder.
+  // The files and folders in it, in no order, without "." and "..". Names that a path can't say (a
+  // character outside Windows-1252, a control character, one of \ / : * ? " < > |) aren't listed.
+  // "" is the current folder.
   [[nodiscard]] virtual Result<std::vector<FolderEntry>> ListFolder(
       std::string_view path) const = 0;
 
   [[nodiscard]] virtual Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const = 0;
+
+  // All that write or delete refuse a file that the player made read-only.
 
   // Writes a file new; an older one is emptied first. Not safe against a full disk: for work files.
   virtual Status WriteFile(std::string_view path, std::string_view bytes) = 0;
@@ -62,6 +67,7 @@ class DosFiles {
                              std::string_view bytes) = 0;
   // Never overwrites: fails if `to` exists. A copy that breaks off is removed.
   virtual Status CopyFile(std::string_view from, std::string_view to) = 0;
+  // Fails if `to` exists, but for the same file in other letters.
   virtual Status RenameFile(std::string_view from, std::string_view to) = 0;
   virtual Status DeleteFile(std::string_view path) = 0;
   // One folder; its parent must exist. An existing folder is no failure.
@@ -72,7 +78,7 @@ class DosFiles {
   [[nodiscard]] virtual Result<std::string> HostPath(std::string_view path) const = 0;
 };
 
-// The whole content of a file. Fails like Open, and for a file of more than 1 GiB.
+// The whole content of a file. Fails like Open, for a read error and for a file of more than 1 GiB.
 Result<std::string> ReadAll(const DosFiles& files, std::string_view path);
 
 // ReadAll for a file that ReplaceFile writes. If the file is missing and its temporary file was

@@ -21,8 +21,14 @@ class LineReader {
   // The text stays valid until the next call.
   bool Next(std::string_view& line);
 
+  // True if the file could not be read to its end.
+  [[nodiscard]] bool Failed() const { return source_->Failed(); }
+
  private:
+  // Moves what is held to the front of the buffer and reads more; false at the end of the file.
   bool Fill();
+  // Drops what is held and everything up to the next line end.
+  void PassOver();
 
   std::unique_ptr<ByteSource> source_;
   std::unique_ptr<char[]> buffer_;

@@ -1,0 +1,63 @@
+// The host's files behind the DOS world: descriptors that close themselves, and whole writes.
+//
+// Paths here are paths of the host, in the host's bytes.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/result.h"
+
+namespace zarvo {
+
+// The reason for what the last call of the system refused ("No space left on device").
+Error LastError();
+
+// The same for one error number.
+Error SystemError(int number);
+
+class FileHandle {
+ public:
+  explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+  FileHandle(FileHandle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+  FileHandle& operator=(FileHandle&& other) noexcept {
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+  }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle();
+
+  [[nodiscard]] bool ok() const { return descriptor_ >= 0; }
+  [[nodiscard]] int get() const { return descriptor_; }
+  // Some hosts tell only here that a write failed.
+  Status Close();
+
+ private:
+  int descriptor_;
+};
+
+// Opens a plain file for reading; nothing else, since a pipe would never end.
+Result<FileHandle> OpenPlainFile(const std::string& path);
+
+// Up to `size` bytes, 0 at the end of the file, -1 on an error.
+long ReadSome(int descriptor, char* buffer, std::size_t size);
+
+Status WriteAll(int descriptor, std::string_view bytes);
+
+// Creates `path`, which must not exist, with the bytes, and flushes them to the disk if `flush`. A
+// file that couldn't be written whole is removed.
+Status CreateFile(const std::string& path, std::string_view bytes, unsigned mode, bool flush);
+
+// Makes a rename in `folder` last.
+void FlushFolder(const std::string& folder);
+
+// What comes before and behind the last slash of an absolute path.
+std::string HostFolder(const std::string& path);
+std::string HostName(const std::string& path);
+
+// `folder` and `name` with one slash in between.
+std::string JoinHostPath(const std::string& folder, std::string_view name);
+
+}  // namespace zarvo
