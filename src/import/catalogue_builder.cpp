@@ -65,13 +65,15 @@ bool SaysNeoGeo(const Machine& machine) {
          WithoutExtension(BaseName(machine.source)) == kNeoGeo;
 }
 
-// "Zilog Z80 (512)", the chip that most games have.
+// "Zilog Z80 and 12 others", beginning with the chip that is used most.
 std::string MostUsed(const std::map<std::string, int, std::less<>>& chips) {
   const auto most = std::max_element(
       chips.begin(), chips.end(),
       [](const auto& left, const auto& right) { return left.second < right.second; });
   if (most == chips.end()) return "-";
-  return most->first + " and " + std::to_string(chips.size() - 1) + " others";
+  if (chips.size() == 1) return most->first;
+  const std::string others = chips.size() == 2 ? " other" : " others";
+  return most->first + " and " + std::to_string(chips.size() - 1) + others;
 }
 
 }  // namespace
