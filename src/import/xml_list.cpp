@@ -134,7 +134,7 @@ void XmlListReader::OpenedMachine() {
     if (attribute == "ismechanical") machine_.mechanical = yes;
     if (attribute == "runnable") machine_.runnable = value != "no";
   });
-  if (machine_.rom.empty()) failure_ = "a machine without a name";
+  if (failure_.empty() && machine_.rom.empty()) failure_ = "a machine without a name";
   if (scanner_.SelfClosing()) FinishMachine();
 }
 

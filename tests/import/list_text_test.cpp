@@ -25,7 +25,10 @@ TEST(ListText, BecomesAFieldOfTheDataFile) {
       {"another script", "\xE5\x80\x89\xE5\xBA\xAB", "??"},
       {"wide letters", "\xEF\xBC\xA1\xEF\xBC\x9B", "A,"},
       {"Roman numerals", "II \xE2\x85\xA2", "II III"},
-      {"a blank that doesn't break", "a\xC2\xA0" "b", "a b"},
+      {"a blank that doesn't break",
+       "a\xC2\xA0"
+       "b",
+       "a b"},
       {"beyond the first plane", "\xF0\x9F\x8E\xAE", "?"},
       {"not UTF-8: taken as it is", "Pok\xE9mon", "Pok\xE9mon"},
       {"cut UTF-8", "a\xE2\x82", "a\xE2\x82"},
@@ -40,7 +43,10 @@ TEST(ListText, NamesDontLookLikeAnotherKindOfLine) {
       {"comment", "#1 Baseball", "1 Baseball"},
       {"header line", "* Star *", "Star *"},
       {"blank in front", "  # *x", "x"},
-      {"a star of another script", "\xE2\x98\x85" "Stars", "Stars"},
+      {"a star of another script",
+       "\xE2\x98\x85"
+       "Stars",
+       "Stars"},
       {"quotation marks", "The \"Best\"", "The 'Best'"},
       {"nothing left", "#*#", ""},
   };
@@ -51,8 +57,8 @@ TEST(ListText, RomNamesStayInTheirFolder) {
   for (const char* good : {"pacman", "1942", "sf2_ce", "a-b", "x!", "v1.0"}) {
     EXPECT_TRUE(IsUsableRomName(good)) << good;
   }
-  for (const char* bad : {"", "..", ".x", "-x", "a/b", "a\\b", "c:x", "a b", "a*", "a?", "a\"b", "a;b",
-                          "a|b", "a%b", "a$b", "\xE9", "a\nb"}) {
+  for (const char* bad : {"", "..", ".x", "-x", "a/b", "a\\b", "c:x", "a b", "a*", "a?", "a\"b",
+                          "a;b", "a|b", "a%b", "a$b", "\xE9", "a\nb"}) {
     EXPECT_FALSE(IsUsableRomName(bad)) << bad;
   }
 }
