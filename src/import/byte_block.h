@@ -1,0 +1,73 @@
+// Sixteen bytes of the input at a time.
+//
+// A list that an emulator prints about itself has some five million tags in 269 MB, and nearly all
+// of them are passed over. Measured on that list, a general XML library (expat) took 2.3 s where
+// counting the line ends takes 0.024 s; looking at 16 bytes per step is what closes that gap.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+namespace zarvo {
+
+// Bit i of a mask stands for byte i of the block.
+using BlockMask = std::uint32_t;
+inline constexpr std::size_t kBlockSize = 16;
+inline constexpr BlockMask kWholeBlock = 0xFFFF;
+
+// The block in plain C++, for processors without the instructions and to check them against.
+class PlainBlock {
+ public:
+  explicit PlainBlock(const char* bytes) : bytes_(bytes) {}
+  [[nodiscard]] BlockMask Equal(char wanted) const {
+    BlockMask mask = 0;
+    for (std::size_t i = 0; i < kBlockSize; ++i) mask |= BlockMask{bytes_[i] == wanted} << i;
+    return mask;
+  }
+  // Blanks and control characters.
+  [[nodiscard]] BlockMask Blank() const {
+    BlockMask mask = 0;
+    for (std::size_t i = 0; i < kBlockSize; ++i) {
+      mask |= BlockMask{static_cast<unsigned char>(bytes_[i]) <= ' '} << i;
+    }
+    return mask;
+  }
+
+ private:
+  const char* bytes_;
+};
+
+#if defined(__SSE2__)
+class VectorBlock {
+ public:
+  explicit VectorBlock(const char* bytes)
+      : bytes_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes))) {}
+  [[nodiscard]] BlockMask Equal(char wanted) const {
+    return Mask(_mm_cmpeq_epi8(bytes_, _mm_set1_epi8(wanted)));
+  }
+  [[nodiscard]] BlockMask Blank() const {
+    return Mask(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(' ')), bytes_));
+  }
+
+ private:
+  static BlockMask Mask(__m128i bytes) { return static_cast<BlockMask>(_mm_movemask_epi8(bytes)); }
+  __m128i bytes_;
+};
+using Block = VectorBlock;
+#else
+using Block = PlainBlock;
+#endif
+
+inline std::size_t FirstBit(BlockMask mask) {
+  return static_cast<std::size_t>(std::countr_zero(mask));
+}
+
+// Line feeds in `size` bytes.
+std::size_t CountLineFeeds(const char* bytes, std::size_t size);
+
+}  // namespace zarvo

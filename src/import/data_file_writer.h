@@ -1,0 +1,19 @@
+// A finished catalogue on its way to the disk.
+#pragma once
+
+#include <string>
+
+#include "import/catalogue_builder.h"
+#include "platform/result.h"
+
+namespace zarvo {
+
+// Writes the data file to a host path, or to standard output for "-". A plain file gets the new
+// content whole or keeps the old one: the lines go to a new file beside it, are flushed to the disk
+// and take the name in one rename.
+Status WriteDataFile(const CatalogueBuilder& catalogue, const std::string& path);
+
+// What a person wants to know at the end, in lines.
+std::string SummaryText(const ImportSummary& summary);
+
+}  // namespace zarvo

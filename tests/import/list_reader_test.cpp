@@ -1,0 +1,194 @@
+#include "import/list_reader.h"
+
+#include <gmock/gmock.h>
+
+#include "import/byte_block.h"
+#include "import/import_fixture.h"
+#include "import/tag_end.h"
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+using testing::StartsWith;
+
+TEST(ListReader, ReadsTheXmlOfListxml) {
+  const Imported imported = ImportText(TestList("listxml.xml"));
+  ASSERT_EQ(imported.error, "");
+  EXPECT_THAT(
+      imported.games,
+      ElementsAre("Computer;c64;O;-;n/a;Maker;1982;n/a;n/a;n/a;n/a;n/a;c64.cpp;"
+                  "n/a;n/a;n/a;n/a;n/a;n/a;n/a;n/a;",
+                  "empty;empty;O;-;n/a;<unknown>;????;n/a;n/a;n/a;n/a;n/a;n/a;"
+                  "n/a;n/a;n/a;n/a;n/a;n/a;n/a;n/a;",
+                  "Metal Slug;mslug;C;neogeo;n/a;Nazca;1996;Yes;Yes;Yes;n/a;No;x.cpp;"
+                  "n/a;n/a;n/a;n/a;n/a;n/a;n/a;n/a;",
+                  "Metal Slug (bootleg);mslugb;C;neogeo;n/a;bootleg;1996;Partial;Yes;Yes;n/a;No;"
+                  "x.cpp;n/a;n/a;n/a;n/a;n/a;n/a;n/a;n/a;",
+                  "Pac-Man, <Midway> & Co;pacman;C;puckman;n/a;Namco (Midway license);????;No;Near;"
+                  "No;n/a;No;pacman.cpp;n/a;n/a;n/a;n/a;1;2;3;4;",
+                  "Puck 'Man' (Japan set 1);puckman;O;-;n/a;Namco;1980;Yes;Yes;Yes(1);n/a;Yes;"
+                  "pacman.cpp;Zilog Z80;[Zilog Z80];n/a;n/a;Namco;n/a;n/a;n/a;"));
+  EXPECT_THAT(imported.header, ElementsAre("*M.A.M.E.", "*Arcade", "*0.251", "*-", "*Zilog Z80",
+                                           testing::_, "*Raster and vector", "*6", "*3", "*2", "*3",
+                                           "*1980", "*1996", "*3", testing::_, "*-", "*-"));
+  EXPECT_EQ(imported.summary.machines, 12);
+  EXPECT_EQ(imported.summary.originals, 3);
+  EXPECT_EQ(imported.summary.clones, 1);
+  EXPECT_EQ(imported.summary.neo_geo, 2);
+  for (const LeftOut reason : {LeftOut::kBios, LeftOut::kDevice, LeftOut::kMechanical,
+                               LeftOut::kNotRunnable, LeftOut::kUnusableRom, LeftOut::kTwice}) {
+    EXPECT_EQ(imported.Left(reason), 1) << Describe(reason);
+  }
+}
+
+TEST(ListReader, ReadsTheTextOfListinfo) {
+  const Imported imported = ImportText(TestList("listinfo.txt"));
+  ASSERT_EQ(imported.error, "");
+  EXPECT_THAT(imported.games,
+              ElementsAre("Ast\xE9roids;asteroid;C;astdelux;n/a;Atari;1979;No;Yes;No;n/a;No;n/a;"
+                          "n/a;n/a;n/a;n/a;n/a;n/a;n/a;n/a;",
+                          "PuckMan (Japan set 1);puckman;O;-;n/a;Namco;1980;Yes;Near;Yes(1);n/a;"
+                          "Yes;n/a;Z80;[M6802];n/a;n/a;Namco;n/a;n/a;n/a;"));
+  EXPECT_EQ(imported.Left(LeftOut::kBios), 1);
+}
+
+TEST(ListReader, ReadsALogiqxDat) {
+  const Imported imported = ImportText(TestList("logiqx.xml"));
+  ASSERT_EQ(imported.error, "");
+  EXPECT_THAT(imported.games,
+              ElementsAre(StartsWith("Rastan (World);rastan;O;-;n/a;Taito;1987;"),
+                          StartsWith("Rastan (World) (rastanu);rastanu;C;rastan;")));
+  EXPECT_EQ(imported.header[0], "*Raine");
+  EXPECT_EQ(imported.header[2], "*0.64");
+  EXPECT_EQ(imported.header[3], "*2010-01-02");
+}
+
+// Whatever the pieces in which the bytes come, the result is the same.
+TEST(ListReader, DoesntDependOnHowTheBytesCome) {
+  for (const char* name : {"listxml.xml", "listinfo.txt", "logiqx.xml"}) {
+    const std::string list = TestList(name);
+    const Imported whole = ImportText(list);
+    for (const std::size_t piece : {1, 2, 7, 16, 61}) {
+      const Imported pieces = ImportText(list, {}, piece);
+      EXPECT_EQ(pieces.error, "") << name << " " << piece;
+      EXPECT_EQ(pieces.games, whole.games) << name << " " << piece;
+    }
+  }
+}
+
+TEST(ListReader, SaysWhereACutListEnds) {
+  for (const char* name : {"listxml.xml", "listinfo.txt", "logiqx.xml"}) {
+    std::string list = TestList(name);
+    list.erase(list.find_last_not_of('\n') + 1);
+    const bool blocks = std::string_view(name) == "listinfo.txt";
+    for (std::size_t size = 0; size < list.size(); ++size) {
+      const Imported cut = ImportText(std::string_view(list).substr(0, size));
+      // A list of blocks is whole between two blocks.
+      const std::string_view read = std::string_view(list).substr(0, size);
+      const std::size_t last = read.find_last_not_of(" \n");
+      const bool whole =
+          blocks && last != std::string_view::npos && last > 0 && read.substr(last - 1, 2) == "\n)";
+      if (whole) {
+        EXPECT_EQ(cut.error, "") << name << " " << size;
+        continue;
+      }
+      const auto line = 1 + std::count(read.begin(), read.end(), '\n');
+      ASSERT_THAT(cut.error, MatchesRegex("line [0-9]+: .+")) << name << " " << size;
+      EXPECT_LE(std::stol(cut.error.substr(5)), line) << name << " " << size;
+      if (blocks) continue;  // there a text that doesn't end is told by where it begins
+      EXPECT_EQ(std::stol(cut.error.substr(5)), line) << cut.error;
+    }
+  }
+}
+
+TEST(ListReader, RefusesWhatIsNoList) {
+  struct Case {
+    std::string list;
+    std::string error;
+  };
+  const std::string deep = [] {
+    std::string text = "<mame>";
+    for (int i = 0; i < 70; ++i) text += "<a>";
+    return text;
+  }();
+  const Case cases[] = {
+      {"", "line 1: the list is empty"},
+      {"\n \n", "line 3: the list is empty"},
+      {"\xEF\xBB\xBF", "line 1: the list is empty"},
+      {"12 monkeys", "line 1: this is no list of games"},
+      {"hello world", "line 1: \"(\" is expected"},
+      {"game ( name a ) )", "line 1: a block such as"},
+      {"game (\n description \"x\"\n)", "line 3: a game without a name"},
+      {"emulator ( name x )", "line 1: there is no game"},
+      {"<html>", "line 1: <html> is no list of games"},
+      {"<mame></mame>", "there is no machine in the list"},
+      {"<mame>\n<machine/>\n</mame>", "line 2: a machine without a name"},
+      {"<mame>\n<machine name='a'>\n</game>", "line 3: </game>, but <machine> is open"},
+      {"<mame><machine name='a'/></mame>\n</mame>", "line 2: </mame>, but nothing is open"},
+      {"<mame><machine name='a'/></mame>\n<mame>", "line 2: a second list"},
+      {"<mame><machine name='a'/></mame>\nx", "line 2: the list ends in the middle of a tag"},
+      {"x<mame>", "line 1: \"(\" is expected"},
+      {"<mame>\n<machine name='a\n<b'/>", "line 2: \"<\" within the tag <machine>"},
+      {"<mame>\n<machine name=a>", "line 2: a broken attribute in <machine>"},
+      {"<mame>\n<machine name=\"a\"year=\"\">", "line 2: a broken attribute in <machine>"},
+      {"<mame>\n<machine name='&nbsp;'/>", "line 2: an entity that isn't known"},
+      {"<mame><machine name='a'>\n<year>&</year>", "line 2: an entity that isn't known"},
+      {"<mame><machine name='a'><year>&#0;</year>", "line 1: an entity that isn't known"},
+      {"<mame>\n< machine>", "line 2: \"<\" that begins no tag"},
+      {"<mame>\n<!ENTITY a \"b\">", "line 2: a declaration that isn't known here"},
+      {"<mame>\n<!DOCTYPE mame>", "line 2: a document type behind the first tag"},
+      {deep, "line 1: too many elements"},
+      {"<mame>\n<machine name='" + std::string(2 << 20, 'x') + "'/></mame>",
+       "line 1: a tag or text of more than 1 MiB"},
+      {"game ( name \"" + std::string(2 << 20, 'x') + "\" )", "line 1: a text of more than 1 MiB"},
+      {"<\0m\0a\0m\0e\0", "line 1: "},
+  };
+  for (const Case& each : cases) {
+    EXPECT_THAT(ImportText(each.list).error, HasSubstr(each.error)) << each.list.substr(0, 60);
+  }
+}
+
+TEST(ListReader, TakesLongTextsAsFarAsALineHolds) {
+  const auto list = [](std::size_t size) {
+    return "<mame><machine name='a'><description>" + std::string(size, 'x') +
+           "</description></machine></mame>";
+  };
+  const Imported fits = ImportText(list(32000));
+  ASSERT_EQ(fits.games.size(), 1U);
+  EXPECT_LE(fits.games[0].size(), 32767U);
+  const Imported longer = ImportText(list(200000));
+  EXPECT_EQ(longer.error, "");
+  EXPECT_EQ(longer.Left(LeftOut::kLongLine), 1);
+}
+
+// The fast search for the end of a tag against the slow one, at every place within a block.
+TEST(TagEnd, BlocksAndSingleCharactersAgree) {
+  const std::string_view tails[] = {
+      "a=\"1\">x", "a=\">\" b='\"'>x", "a=\">>\"b=\"\">>", "'>'>", ">", "\"<\">", "a=\"1",
+      "",          "\"\"\"\">"};
+  for (const std::string_view tail : tails) {
+    for (std::size_t shift = 0; shift < 40; ++shift) {
+      std::string text = std::string(shift, ' ') + std::string(tail);
+      const std::size_t size = text.size();
+      text.append(64, '\0');
+      const char* const slow = FindTagEndSlowly(text.data(), text.data() + size);
+      EXPECT_EQ(FindTagEnd<Block>(text.data(), text.data() + size), slow) << tail << shift;
+      EXPECT_EQ(FindTagEnd<PlainBlock>(text.data(), text.data() + size), slow) << tail << shift;
+    }
+  }
+}
+
+TEST(InputWindow, CountsLinesInPiecesOfAnySize) {
+  std::string text;
+  for (int i = 0; i < 9000; ++i) text += i % 3 == 0 ? "\n" : "\n.";
+  for (std::size_t size = 0; size < text.size(); size += 997) {
+    const auto counted = std::count(text.begin(), text.begin() + static_cast<long>(size), '\n');
+    EXPECT_EQ(CountLineFeeds(text.data(), size), static_cast<std::size_t>(counted)) << size;
+  }
+}
+
+}  // namespace
+}  // namespace zarvo

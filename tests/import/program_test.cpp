@@ -1,0 +1,90 @@
+// The built program, as a script sees it.
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "import/import_fixture.h"
+
+namespace zarvo {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+
+class ImportProgram : public testing::Test {
+ protected:
+  ImportProgram() {
+    std::string pattern = (fs::temp_directory_path() / "zarvo-import-XXXXXX").string();
+    folder_ = ::mkdtemp(pattern.data());
+  }
+  ~ImportProgram() override { fs::remove_all(folder_); }
+
+  // Runs `zarvo-import` with the words of a shell's line and gives its exit status.
+  int Run(const std::string& words) {
+    const std::string line =
+        "cd " + folder_.string() + " && " + ZARVO_IMPORT_PROGRAM + " " + words + " 2>errors.txt";
+    const int status = std::system(line.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+  [[nodiscard]] std::string Said() const { return ReadBytes((folder_ / "errors.txt").string()); }
+  [[nodiscard]] std::string Output() const { return ReadBytes((folder_ / "out.dat").string()); }
+  [[nodiscard]] std::ptrdiff_t FileCount() const {
+    return std::distance(fs::directory_iterator(folder_), fs::directory_iterator());
+  }
+
+  fs::path folder_;
+  const std::string list_ = std::string(ZARVO_IMPORT_LISTS) + "/listxml.xml";
+};
+
+TEST_F(ImportProgram, WritesTheFileAndASummary) {
+  ASSERT_EQ(Run("-o out.dat " + list_), 0) << Said();
+  EXPECT_THAT(Output(), testing::StartsWith("*M.A.M.E.\r\n*Arcade\r\n*0.251\r\n"));
+  EXPECT_THAT(Output(), testing::EndsWith("Namco;n/a;n/a;n/a;\r\n"));
+  EXPECT_THAT(Said(), HasSubstr("6 games of 12 entries in the list\n"));
+  EXPECT_THAT(Said(), HasSubstr("1 left out: devices\n"));
+  EXPECT_EQ(FileCount(), 2);
+  const std::string file = Output();
+  ASSERT_EQ(Run("--quiet < " + list_ + " > out.dat"), 0);
+  EXPECT_EQ(Output(), file);
+  EXPECT_EQ(Said(), "");
+}
+
+TEST_F(ImportProgram, ABrokenListLeavesTheOldFile) {
+  std::ofstream(folder_ / "out.dat") << "old";
+  std::ofstream(folder_ / "cut.xml") << TestList("listxml.xml").substr(0, 2000);
+  EXPECT_EQ(Run("-o out.dat cut.xml"), 1);
+  EXPECT_THAT(Said(), MatchesRegex("zarvo-import: cut.xml, line [0-9]+: .*ends inside.*\n"));
+  EXPECT_EQ(Output(), "old");
+  EXPECT_EQ(FileCount(), 3);
+  EXPECT_EQ(Run("-o out.dat nothing.xml"), 1);
+  EXPECT_THAT(Said(), HasSubstr("can't read nothing.xml"));
+  EXPECT_EQ(Run("-o out.dat ."), 1);
+  EXPECT_EQ(Output(), "old");
+}
+
+TEST_F(ImportProgram, StatusTellsWrongUseFromAFailedWrite) {
+  EXPECT_EQ(Run("--nonsense"), 2);
+  EXPECT_EQ(Run("-o nowhere/out.dat " + list_), 3);
+  EXPECT_THAT(Said(), HasSubstr("can't write nowhere/out.dat: No such file"));
+  EXPECT_EQ(Run("-o . " + list_), 3);
+  EXPECT_EQ(Run(list_ + " > /dev/full"), 3);
+  EXPECT_EQ(Run("--help > out.dat"), 0);
+  EXPECT_THAT(Output(), testing::StartsWith("Usage: zarvo-import"));
+}
+
+TEST_F(ImportProgram, ALinkAndADeviceStayWhatTheyAre) {
+  std::ofstream(folder_ / "real.dat") << "old";
+  fs::create_symlink("real.dat", folder_ / "out.dat");
+  ASSERT_EQ(Run("-q -o out.dat " + list_), 0) << Said();
+  EXPECT_TRUE(fs::is_symlink(folder_ / "out.dat"));
+  EXPECT_THAT(Output(), testing::StartsWith("*M.A.M.E."));
+  EXPECT_EQ(Run("-q -o /dev/null " + list_), 0);
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+}  // namespace
+}  // namespace zarvo
