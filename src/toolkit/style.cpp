@@ -11,6 +11,11 @@
 #include "toolkit/colour.h"
 #include "toolkit/drawing.h"
 #include "toolkit/list_access.h"
+#include "toolkit/picture.h"
+
+// The drawings lie in a library, which the linker would leave out; this call stands outside of every
+// namespace, as the resource system asks.
+static void LinkPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace zarvo {
 namespace {
@@ -113,6 +118,16 @@ QPalette CabinetPalette() {
   return palette;
 }
 
+// Drawn here, so that the desktop needs no plug-in for drawings.
+QIcon AppIcon() {
+  QIcon icon;
+  const Picture drawing = Picture::FromResource("app_icon");
+  for (const int size : {16, 32, 48, 128}) {
+    icon.addPixmap(drawing.ToPixmap(QSize(size, size), 1));
+  }
+  return icon;
+}
+
 }  // namespace
 
 QColor Faded(const QColor& colour) {
@@ -180,13 +195,14 @@ void PrepareApplication() {
 }
 
 void DressUp(QApplication& application) {
+  LinkPictures();
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
   font.setStyleHint(QFont::SansSerif);
   QApplication::setStyle(new CabinetStyle);
   QApplication::setPalette(CabinetPalette());
   QApplication::setFont(font);
-  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/app_icon.svg")));
+  QGuiApplication::setWindowIcon(AppIcon());
   application.setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
 }
