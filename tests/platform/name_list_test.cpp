@@ -8,6 +8,7 @@ namespace {
 
 std::vector<std::string> Names(const NameList& list) {
   std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(list.Count()));
   for (int index = 0; index < list.Count(); ++index) names.emplace_back(list.At(index));
   return names;
 }
