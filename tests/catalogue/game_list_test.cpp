@@ -153,7 +153,8 @@ TEST_F(FilteringAList, TheNeutralItemReadsAndChangesNothing) {
 TEST_F(FilteringAList, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
   PutData(Record("Ace;1;O;-;Puzzle;x;1980") + "# Bat;\r\n" + Record("Bat II;2;O;-;Action;x;1980") +
           Record("Bat;3;O;-;Puzzle;x;1980") + Record("Cat;4;O;-;Action;x;1980") +
-          Record("Dog;5;O;-;Action;x;1980") + "Eel\r\n" + Record("Fox;7;O;-;Action;x;1980"));
+          Record("Dog;5;O;-;Action;x;1980") + "Eel\r\n" + Record("Fox;7;O;-;Action;x;1980") +
+          Record("Gnu Z;8;O;-;Action;x;1980") + Record("Gnu A;9;O;-;Action;x;1980"));
   const struct {
     std::string_view what;
     StringList list, kept;
@@ -167,6 +168,7 @@ TEST_F(FilteringAList, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
       {"a name whose record lies behind is lost, and all after it", {"Cat", "Ace", "Dog"}, {"Cat"}},
       {"twice the same name needs two records", {"Dog", "Dog", "Fox"}, {"Dog"}},
       {"a record without the field passes no filter", {"Eel", "Fox"}, {"Fox"}},
+      {"what the file has unsorted comes back sorted", {"Gnu", "Gnu A"}, {"Gnu A", "Gnu Z"}},
       {"case matters", {"cat", "Dog"}, {}},
   };
   for (const auto& walk : kWalks) {
@@ -194,7 +196,7 @@ TEST_F(FilteringAList, AFileThatCantBeUsedLeavesTheListAsItWas) {
   Filter(ValueFilter::kGenre, "Action");
   EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "no work file";
   files_.fail_writes = false;
-  files_.break_off_reads = true;
+  files_.breaks_off = "Mame.dat";
   Filter(ValueFilter::kGenre, "Action");
   EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "a data file that breaks off";
 }

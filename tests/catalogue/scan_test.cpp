@@ -97,7 +97,7 @@ TEST_F(Scan, ShortRecordsGetALineWithWhatTheyHave) {
 TEST_F(Scan, AFolderThatCantBeEnteredIsLookedForInCfg) {
   PutData("A;a;\r\nB;b;\r\n");
   files_.Put(R"(C:\Zarvo\cfg\b.zip)", "");
-  for (const auto* folder : {"", R"(C:\Gone)", R"(Q:\Roms)"}) {
+  for (const auto* folder : {"", R"(C:\Gone)", R"(D:\Gone)", R"(Q:\Roms)"}) {
     EXPECT_EQ(Run(SetType::kSplit, folder), 1) << folder;
   }
   EXPECT_EQ(files_.BytesOf(kScanFile), "\"A;N\"\r\n\"B;Y\"\r\n");
@@ -120,7 +120,7 @@ TEST_F(Scan, WithoutAWholeDataFileTheOldAnswersStay) {
   EXPECT_EQ(Run(SetType::kSplit), -1);
   EXPECT_EQ(files_.BytesOf(kScanFile), "old");
   PutData("A;a;\r\nB;b;\r\n");
-  files_.break_off_reads = true;
+  files_.breaks_off = "Mame.dat";
   EXPECT_EQ(Run(SetType::kSplit), -1);
   EXPECT_EQ(files_.BytesOf(kScanFile), "old");
 }

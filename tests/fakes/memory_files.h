@@ -16,7 +16,8 @@
 
 namespace zarvo {
 
-// One drive C. Folders are those of the files put there, and those made.
+// Drives C and D. Folders are those of the files put there, and those made. A drive that becomes
+// current begins in its root.
 class MemoryFiles : public DosFiles {
  public:
   // Full path.
@@ -29,13 +30,16 @@ class MemoryFiles : public DosFiles {
   }
 
   bool fail_writes = false;
-  bool break_off_reads = false;             // half of a file, then a read error
-  std::vector<std::string> written;         // full paths in the order of writing
+  std::string breaks_off;            // bare name of a file: half is read, then an error comes
+  std::vector<std::string> written;  // full paths in the order of writing
   mutable std::vector<std::string> opened;  // the paths as they were given
   mutable int folders_listed = 0;
 
   Status ChangeDrive(char letter) override {
-    return FoldCase(static_cast<unsigned char>(letter)) == 'c' ? Success() : Error{"No such drive"};
+    const std::string drive{static_cast<char>(FoldCase(static_cast<unsigned char>(letter))), ':'};
+    if (drive != "c:" && drive != "d:") return Error{"No such drive"};
+    if (!current_.starts_with(drive)) current_ = drive;
+    return Success();
   }
   Status ChangeFolder(std::string_view path) override {
     if (!FolderExists(path)) return Error{"No such folder"};
@@ -43,7 +47,7 @@ class MemoryFiles : public DosFiles {
     return Success();
   }
   [[nodiscard]] std::string CurrentFolder() const override { return current_; }
-  [[nodiscard]] std::vector<char> Drives() const override { return {'C'}; }
+  [[nodiscard]] std::vector<char> Drives() const override { return {'C', 'D'}; }
 
   [[nodiscard]] bool FileExists(std::string_view path) const override { return Has(path); }
   [[nodiscard]] bool FolderExists(std::string_view path) const override {
@@ -67,7 +71,7 @@ class MemoryFiles : public DosFiles {
     const auto found = files_.find(Key(path));
     if (found == files_.end()) return Error{"No such file"};
     return std::unique_ptr<ByteSource>(
-        std::make_unique<MemorySource>(found->second, break_off_reads));
+        std::make_unique<MemorySource>(found->second, path == breaks_off));
   }
 
   Status WriteFile(std::string_view path, std::string_view bytes) override {
