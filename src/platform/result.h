@@ -21,11 +21,14 @@ class [[nodiscard]] Result {
   [[nodiscard]] bool ok() const { return std::holds_alternative<T>(state_); }
   explicit operator bool() const { return ok(); }
 
-  // Only when ok().
-  T& value() { return std::get<T>(state_); }
-  const T& value() const { return std::get<T>(state_); }
-  T& operator*() { return value(); }
-  const T& operator*() const { return value(); }
+  // Only when ok(). A result that is about to go hands its value out, so that
+  // `for (... : List().value())` is safe.
+  T& value() & { return std::get<T>(state_); }
+  const T& value() const& { return std::get<T>(state_); }
+  T value() && { return std::get<T>(std::move(state_)); }
+  T& operator*() & { return value(); }
+  const T& operator*() const& { return value(); }
+  T operator*() && { return std::move(*this).value(); }
   T* operator->() { return &value(); }
   const T* operator->() const { return &value(); }
 

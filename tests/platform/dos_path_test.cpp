@@ -1,0 +1,158 @@
+#include "platform/dos_path.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(DosPath, JoinsWithOneBackslash) {
+  EXPECT_EQ(JoinPath("C:\\", "a"), "C:\\a");
+  EXPECT_EQ(JoinPath("C:\\Emu", "a"), "C:\\Emu\\a");
+  EXPECT_EQ(JoinPath("C:", "a"), "C:\\a");
+  EXPECT_EQ(JoinPath("", "a"), "a");
+}
+
+TEST(DosPath, TakesFolderAndNameApart) {
+  struct Case {
+    const char* path;
+    const char* folder;
+    const char* name;
+  };
+  const Case cases[] = {
+      {"C:\\Emu\\Mame.exe", "C:\\Emu", "Mame.exe"},
+      {"C:\\Mame.exe", "C:\\", "Mame.exe"},
+      {"\\Mame.exe", "\\", "Mame.exe"},
+      {"Emu\\Mame.exe", "Emu", "Mame.exe"},
+      {"Mame.exe", "", "Mame.exe"},
+      {"C:\\Emu\\", "C:\\Emu", ""},
+      {"", "", ""},
+  };
+  for (const auto& [path, folder, name] : cases) {
+    EXPECT_EQ(ParentFolder(path), folder) << path;
+    EXPECT_EQ(FileName(path), name) << path;
+  }
+}
+
+TEST(DosPath, ADriveIsALetterAndAColon) {
+  EXPECT_EQ(DriveLetter("c:\\emu"), 'C');
+  EXPECT_EQ(DriveLetter("Z:"), 'Z');
+  for (const char* path : {"", "C", "\\C:", "1:\\", "[:", "\xE9:\\"}) {
+    EXPECT_EQ(DriveLetter(path), 0) << path;
+  }
+}
+
+TEST(DosPath, ComponentsNeverClimbAboveTheRoot) {
+  EXPECT_THAT(PathComponents("C:\\Emu\\\\Mame\\.\\roms\\"), ElementsAre("Emu", "Mame", "roms"));
+  EXPECT_THAT(PathComponents("Emu/Mame"), ElementsAre("Emu", "Mame"));
+  EXPECT_THAT(PathComponents("C:\\Emu\\..\\Zarvo"), ElementsAre("Zarvo"));
+  EXPECT_THAT(PathComponents("C:\\..\\..\\etc\\..\\..\\a"), ElementsAre("a"));
+  EXPECT_THAT(PathComponents("C:\\..\\/..\\"), IsEmpty());
+  EXPECT_THAT(PathComponents("...\\.. "), ElementsAre("...", ".. "));
+}
+
+TEST(DosPath, KnowsWhatDosCanName) {
+  for (const char* name : {"A", "MAME.EXE", "12345678.123", "m72", "PUCKMA~1.ZIP", "a_b-c!.$&#"}) {
+    EXPECT_TRUE(IsDosName(name)) << name;
+  }
+  for (const char* name :
+       {"",     ".",          "..",  ".cfg",    "a.",   "123456789", "a.1234", "a.b.c",
+        "a b",  "a.b ",       "a+b", "a,b",     "a;b",  "a=b",       "a[b",    "a:b",
+        "a\\b", "a/b",        "a*",  "a?",      "a\"b", "a|b",       "a<b",    "100%",
+        "\x01", "Pok\xE9mon", "con", "AUX.txt", "lpt1", "Com9.x"}) {
+    EXPECT_FALSE(IsDosName(name)) << name;
+  }
+}
+
+TEST(DosPath, KnowsNamesThatCannotLeadElsewhere) {
+  for (const char* name : {"puckman", "1942", "neo-geo", "a.b.c", "street_fighter_2", "com", "com0",
+                           "contra", "caf\xE9", ".hidden", "a~1", "a+b#"}) {
+    EXPECT_TRUE(IsPlainName(name)) << name;
+  }
+  for (const char* name : {"",
+                           ".",
+                           "..",
+                           "...",
+                           "a\\b",
+                           "a/b",
+                           "..\\a",
+                           "C:a",
+                           "a*",
+                           "a?",
+                           "\"a\"",
+                           "'a'",
+                           "`a`",
+                           "a b",
+                           "a\xA0"
+                           "b",
+                           "a\tb",
+                           "a\nb",
+                           "a|b",
+                           "a>b",
+                           "a<b",
+                           "a&b",
+                           "a;b",
+                           "$a",
+                           "%a%",
+                           "a^b",
+                           "a!b",
+                           "(a)",
+                           "{a}",
+                           "[a]",
+                           "a=b",
+                           "a,b",
+                           "@a",
+                           "-a",
+                           "con",
+                           "NUL.zip",
+                           "\x7F",
+                           "\x81"}) {
+    EXPECT_FALSE(IsPlainName(name)) << name;
+  }
+  EXPECT_FALSE(IsPlainName(std::string_view("a\0b", 3)));
+}
+
+TEST(DosPath, PatternsMatchAsInAFileList) {
+  struct Case {
+    const char* name;
+    const char* patterns;
+    bool matches;
+  };
+  const Case cases[] = {
+      {"puckman.zip", "*.zip", true},
+      {"PUCKMAN.ZIP", "*.zip", true},
+      {"pok\xC9.zip", "POK\xE9.*", true},
+      {"puckman.zip", "puckman.zip;pacman.zip", true},
+      {"pacman.zip", "puckman.zip; pacman.zip", true},
+      {"pacman.zip", ";;pacman.zip;", true},
+      {"pacmania.zip", "pacman.zip", false},
+      {"pacman.zip2", "*.zip", false},
+      {"readme", "*.*", true},
+      {"readme", "*.", false},
+      {"a.zip", "?.zip", true},
+      {".zip", "?.zip", false},
+      {"ab.zip", "?.zip", false},
+      {"aXbXb.zip", "a*b.zip", true},
+      {"abc", "a**c*", true},
+      {"abc", "*b", false},
+      {"", "*", true},
+      {"", "?", false},
+      {"a", "", false},
+      {"a", " ; ", false},
+  };
+  for (const auto& [name, patterns, matches] : cases) {
+    EXPECT_EQ(MatchesPattern(name, patterns), matches) << name << " " << patterns;
+  }
+}
+
+TEST(DosPath, APatternOfManyStarsEndsSoon) {
+  std::string pattern;
+  for (int count = 0; count < 200; ++count) pattern += "*a";
+  EXPECT_FALSE(MatchesPattern(std::string(20000, 'a') + "b", pattern));
+}
+
+}  // namespace
+}  // namespace zarvo

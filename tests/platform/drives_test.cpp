@@ -1,0 +1,124 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fakes/temp_drive.h"
+#include "platform/dos_world.h"
+
+namespace zarvo {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Pair;
+
+TEST(DriveTable, ReadsLettersAndFolders) {
+  const auto drives = DosWorld::ParseDrives(
+      "\xEF\xBB\xBF; my drives\r\n"
+      "C = ..\r\n"
+      "\r\n"
+      "  d=/mnt/cd rom/ ; the disc\n"
+      "\tE\t=\troms/./arcade//\n"
+      "Y = /",
+      "/home/me/dos/Zarvo");
+  ASSERT_TRUE(drives.ok()) << drives.error().message;
+  EXPECT_THAT(*drives, ElementsAre(Pair('C', "/home/me/dos"), Pair('D', "/mnt/cd rom"),
+                                   Pair('E', "/home/me/dos/Zarvo/roms/arcade"), Pair('Y', "/")));
+}
+
+TEST(DriveTable, AMessageNamesTheLineThatIsWrong) {
+  struct Case {
+    std::string text;
+    const char* line;
+    const char* word;
+  };
+  const Case cases[] = {
+      {"C = /a\n\n; x\nD /b\n", "Line 4", "D /b"},
+      {"C: = /a", "Line 1", "C: = /a"},
+      {"CD = /a", "Line 1", "CD = /a"},
+      {"1 = /a", "Line 1", "1 = /a"},
+      {"= /a", "Line 1", "= /a"},
+      {"C =", "Line 1", "C ="},
+      {"C = ; nothing", "Line 1", "C ="},
+      {"C = /a\nc = /b", "Line 2", "drive C"},
+      {std::string("C = /a\0b", 8), "Line 1", "C = /a"},
+  };
+  for (const auto& [text, line, word] : cases) {
+    const auto drives = DosWorld::ParseDrives(text, "/p");
+    ASSERT_FALSE(drives.ok()) << text;
+    EXPECT_THAT(drives.error().message, AllOf(HasSubstr(line), HasSubstr(word)));
+  }
+  EXPECT_THAT(DosWorld::ParseDrives("; none\n", "/p").error().message, HasSubstr("no drive"));
+}
+
+TEST(ProgramFolder, WithoutATableCIsTheFolderAboveAndHTheHost) {
+  const TempDrive drive;
+  const auto world = DosWorld::ForProgramFolder((drive.root() / "Zarvo").string());
+  ASSERT_TRUE(world.ok()) << world.error().message;
+  EXPECT_EQ(world->CurrentFolder(), "C:\\Zarvo");
+  EXPECT_THAT(world->Drives(), ElementsAre('C', 'H'));
+  EXPECT_EQ(world->HostPath("\\emu").value(), drive.Host("C:\\Emu"));
+  EXPECT_EQ(world->DriveFolder('H').value(), "/");
+}
+
+TEST(ProgramFolder, TheTableInItSaysWhatTheDrivesAre) {
+  TempDrive drive;
+  drive.Write("C:\\Zarvo\\Drives.INI", "D = ..\nE = ../Emu\n");
+  const auto world = DosWorld::ForProgramFolder((drive.root() / "Zarvo/").string());
+  ASSERT_TRUE(world.ok()) << world.error().message;
+  EXPECT_EQ(world->CurrentFolder(), "D:\\Zarvo");
+  EXPECT_EQ(world->HostPath("E:\\a").value(), drive.Host("C:\\Emu\\a"));
+}
+
+TEST(ProgramFolder, ATableThatIsWrongOrDoesNotReachItIsSaid) {
+  TempDrive drive;
+  const std::string folder = (drive.root() / "Zarvo").string();
+  const std::pair<const char*, const char*> cases[] = {
+      {"C = /\n?\n", "Line 2"}, {"C = ../Emu\n", "No drive reaches"}, {"", "no drive"}};
+  for (const auto& [table, message] : cases) {
+    drive.Write("C:\\Zarvo\\drives.ini", table);
+    const auto world = DosWorld::ForProgramFolder(folder);
+    ASSERT_FALSE(world.ok()) << table;
+    EXPECT_THAT(world.error().message, HasSubstr(message));
+  }
+}
+
+TEST(DosPathOf, TheLongestMatchingFolderTellsTheDrive) {
+  const DosWorld world(
+      {{'C', "/home/me/dos"}, {'D', "/home/me/dos/Roms"}, {'E', "/home/me"}, {'H', "/"}});
+  const std::pair<const char*, const char*> cases[] = {
+      {"/home/me/dos/Emu/Mame", "C:\\Emu\\Mame"},
+      {"/home/me/dos", "C:\\"},
+      {"/home/me/dos/Roms/a.zip", "D:\\a.zip"},
+      {"/home/me/dos/Roms2/a.zip", "C:\\Roms2\\a.zip"},
+      {"/home/me/dosbox", "E:\\dosbox"},
+      {"/home/me/dos/../x/", "E:\\x"},
+      {"/home/you", "H:\\home\\you"},
+      {"/", "H:\\"},
+      {"/home/me/caf\xC3\xA9", "E:\\caf\xE9"},
+  };
+  for (const auto& [host, dos] : cases) {
+    const auto path = world.DosPathOf(host);
+    ASSERT_TRUE(path.ok()) << host;
+    EXPECT_EQ(*path, dos);
+  }
+}
+
+TEST(DosPathOf, WhatNoDriveCanSayFails) {
+  const DosWorld world({{'C', "/home/me"}});
+  for (const char* path :
+       {"/home", "/home/men", "/home/me/ゲーム", "/home/me/a\\b", "home/me", ""}) {
+    EXPECT_FALSE(world.DosPathOf(path).ok()) << path;
+  }
+}
+
+TEST(DosPathOf, ADriveBehindALinkIsRecognised) {
+  TempDrive drive;
+  std::filesystem::create_directory_symlink(drive.root() / "Emu", drive.root() / "link");
+  const DosWorld world({{'C', (drive.root() / "link").string()}, {'H', "/"}});
+  EXPECT_EQ(world.DosPathOf((drive.root() / "Emu/Mame").string()).value(), "C:\\Mame");
+  EXPECT_EQ(world.DosPathOf((drive.root() / "link/Mame").string()).value(), "C:\\Mame");
+}
+
+}  // namespace
+}  // namespace zarvo
