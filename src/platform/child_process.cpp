@@ -133,7 +133,7 @@ Status CheckDosNames(std::string_view path) {
 // A name that nobody can foresee, in the folder for files of one session.
 std::string NewConfigurationPath() {
   const char* const session = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
-  const bool has_session = session != nullptr && access(session, W_OK) == 0;
+  const bool has_session = session != nullptr && *session == '/' && access(session, W_OK) == 0;
   std::random_device random;
   const std::uint64_t number = (std::uint64_t{random()} << 32) | random();
   return JoinHostPath(has_session ? session : "/tmp", "zarvo-" + std::to_string(number) + ".conf");

@@ -6,6 +6,7 @@ namespace zarvo {
 namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{1} << 30;
+constexpr std::size_t kFirstPiece = std::size_t{64} * 1024;
 
 }  // namespace
 
@@ -15,7 +16,7 @@ Result<std::string> ReadAll(const DosFiles& files, std::string_view path) {
   std::string bytes;
   std::size_t used = 0;
   for (;;) {
-    if (used == bytes.size()) bytes.resize(std::max<std::size_t>(64 * 1024, used * 2));
+    if (used == bytes.size()) bytes.resize(std::max(kFirstPiece, used * 2));
     const std::size_t read = (*source)->Read(bytes.data() + used, bytes.size() - used);
     if (read == 0) break;
     used += read;
@@ -28,9 +29,13 @@ Result<std::string> ReadAll(const DosFiles& files, std::string_view path) {
 
 Result<std::string> ReadReplaceable(DosFiles& files, std::string_view path,
                                     std::string_view temporary) {
-  if (!files.FileExists(path) && files.FileExists(temporary)) {
-    const Status renamed = files.RenameFile(temporary, path);
-    if (!renamed) return renamed.error();
+  if (files.FileExists(temporary)) {
+    if (files.FileExists(path)) {
+      Ignore(files.DeleteFile(temporary));
+    } else {
+      const Status renamed = files.RenameFile(temporary, path);
+      if (!renamed) return renamed.error();
+    }
   }
   return ReadAll(files, path);
 }

@@ -82,7 +82,8 @@ class DosFiles {
 Result<std::string> ReadAll(const DosFiles& files, std::string_view path);
 
 // ReadAll for a file that ReplaceFile writes. If the file is missing and its temporary file was
-// left behind by a run that was cut off, the temporary file takes its place first.
+// left behind by a run that was cut off, the temporary file takes its place first; beside a file
+// that is there it is deleted.
 Result<std::string> ReadReplaceable(DosFiles& files, std::string_view path,
                                     std::string_view temporary);
 

@@ -113,13 +113,13 @@ std::string BehindLinks(const std::string& host_path) {
 }
 
 Status CopyBytes(int from, int to) {
-  constexpr std::size_t kChunk = 256 * 1024;
+  constexpr std::size_t kChunk = std::size_t{256} * 1024;
   const auto buffer = std::make_unique_for_overwrite<char[]>(kChunk);
   for (;;) {
     const long count = ReadSome(from, buffer.get(), kChunk);
     if (count < 0) return LastError();
     if (count == 0) return Success();
-    const Status written = WriteAll(to, {buffer.get(), static_cast<std::size_t>(count)});
+    Status written = WriteAll(to, {buffer.get(), static_cast<std::size_t>(count)});
     if (!written) return written;
   }
 }
@@ -161,7 +161,9 @@ Result<std::string> DosWorld::HostPath(std::string_view path) const {
   if (drive == drives_.end()) return NoDrive(full.front());
 
   const std::vector<std::string> components = PathComponents(full);
-  if (!std::all_of(components.begin(), components.end(), IsSayable)) return SystemError(EINVAL);
+  for (const std::string& component : components) {
+    if (!IsSayable(component)) return Error{'"' + component + "\" can't be the name of a file"};
+  }
   std::string exact = drive->second;
   for (const std::string& component : components) exact = JoinHostPath(exact, ToUtf8(component));
   if (IsTaken(exact)) return exact;
@@ -253,12 +255,12 @@ Result<std::unique_ptr<ByteSource>> DosWorld::Open(std::string_view path) const 
 Status DosWorld::WriteFile(std::string_view path, std::string_view bytes) {
   const auto host = HostPath(path);
   if (!host) return host.error();
-  const Status writable = CheckWritable(*host);
+  Status writable = CheckWritable(*host);
   if (!writable) return writable;
   FileHandle file(
       open(host->c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
   if (!file.ok()) return LastError();
-  const Status written = WriteAll(file.get(), bytes);
+  Status written = WriteAll(file.get(), bytes);
   return written ? file.Close() : written;
 }
 
@@ -271,11 +273,11 @@ Status DosWorld::ReplaceFile(std::string_view path, std::string_view temporary,
   const std::string target = BehindLinks(*named);
   const std::string fresh =
       target == *named ? *beside : JoinHostPath(HostFolder(target), HostName(*beside));
-  const Status writable = CheckWritable(target);
+  Status writable = CheckWritable(target);
   if (!writable) return writable;
 
   if (unlink(fresh.c_str()) != 0 && errno != ENOENT) return LastError();
-  const Status written = CreateFile(fresh, bytes, kNewFileMode, true);
+  Status written = CreateFile(fresh, bytes, kNewFileMode, true);
   if (!written) return written;
   const mode_t old_mode = ModeOf(target);
   if ((old_mode != 0 && chmod(fresh.c_str(), old_mode & 07777) != 0) ||
@@ -321,7 +323,7 @@ Status DosWorld::RenameFile(std::string_view from, std::string_view to) {
 Status DosWorld::DeleteFile(std::string_view path) {
   const auto host = HostPath(path);
   if (!host) return host.error();
-  const Status writable = CheckWritable(*host);
+  Status writable = CheckWritable(*host);
   if (!writable) return writable;
   return unlink(host->c_str()) == 0 ? Success() : Status(LastError());
 }

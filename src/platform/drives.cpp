@@ -30,6 +30,8 @@ std::string ForMessage(std::string_view host_text) {
   return ascii;
 }
 
+std::string Quoted(std::string_view host_text) { return '"' + ForMessage(host_text) + '"'; }
+
 Error LineError(int line, const std::string& what) {
   return Error{"Line " + std::to_string(line) + " of " + std::string(kDrivesFile) + " " + what};
 }
@@ -97,8 +99,8 @@ Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
 
     const auto drive = ParseDrive(line);
     if (!drive) {
-      return LineError(number, "isn't understood: \"" + ForMessage(line) +
-                                   "\". A line has a drive letter, an equals sign and a folder, "
+      return LineError(number, "isn't understood: " + Quoted(line) +
+                                   ". A line has a drive letter, an equals sign and a folder, "
                                    "like C = /home/me/dos");
     }
     const auto [letter, folder] = *drive;
@@ -129,6 +131,7 @@ Result<DosWorld> DosWorld::ForProgramFolder(const std::string& program_folder) {
 
 Result<std::string> DosWorld::DosPathOf(const std::string& host_path) const {
   const std::string path = Normal(host_path);
+  if (!path.starts_with('/')) return Error{Quoted(path) + " isn't a full path."};
   const std::string real_path = Real(path);
   std::optional<std::string> best;
   std::size_t longest = 0;
@@ -144,7 +147,7 @@ Result<std::string> DosWorld::DosPathOf(const std::string& host_path) const {
     best = std::string(1, letter) + ":\\";
     for (const std::string& component : PathComponents(*said)) *best = JoinPath(*best, component);
   }
-  if (!best) return Error{"No drive reaches the folder " + ForMessage(path) + "."};
+  if (!best) return Error{"No drive reaches " + Quoted(path) + "."};
   return *best;
 }
 

@@ -6,7 +6,7 @@
 namespace zarvo {
 namespace {
 
-constexpr std::size_t kBufferSize = 128 * 1024;
+constexpr std::size_t kBufferSize = std::size_t{256} * 1024;
 // A line and its CR: with more than this in the buffer and no LF, the line is too long.
 constexpr std::size_t kLongestHeld = kLongestLine + 1;
 static_assert(kBufferSize > 2 * kLongestHeld);

@@ -23,9 +23,9 @@ class [[nodiscard]] Result {
 
   // Only when ok(). A result that is about to go hands its value out, so that
   // `for (... : List().value())` is safe.
-  T& value() & { return std::get<T>(state_); }
-  const T& value() const& { return std::get<T>(state_); }
-  T value() && { return std::get<T>(std::move(state_)); }
+  [[nodiscard]] T& value() & { return std::get<T>(state_); }
+  [[nodiscard]] const T& value() const& { return std::get<T>(state_); }
+  [[nodiscard]] T value() && { return std::get<T>(std::move(state_)); }
   T& operator*() & { return value(); }
   const T& operator*() const& { return value(); }
   T operator*() && { return std::move(*this).value(); }
@@ -33,7 +33,7 @@ class [[nodiscard]] Result {
   const T* operator->() const { return &value(); }
 
   // Only when not ok().
-  const Error& error() const { return std::get<Error>(state_); }
+  [[nodiscard]] const Error& error() const { return std::get<Error>(state_); }
 
  private:
   std::variant<T, Error> state_;

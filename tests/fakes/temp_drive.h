@@ -51,7 +51,7 @@ class TempDrive {
   [[nodiscard]] bool Exists(std::string_view dos_path) const {
     return files_.FileExists(dos_path) || files_.FolderExists(dos_path);
   }
-  void MakeFolder(std::string_view dos_path) {
+  void MakeFolder(std::string_view dos_path) const {
     std::filesystem::create_directories(Host(dos_path));
   }
   [[nodiscard]] std::filesystem::path Host(std::string_view dos_path) const {

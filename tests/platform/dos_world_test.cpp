@@ -266,6 +266,7 @@ TEST(ReadReplaceable, ALeftoverTemporaryFileTakesThePlaceOfAMissingStore) {
 
   drive.Write("cfg\\Mameset.tmp", "torn");
   EXPECT_EQ(ReadReplaceable(files, "cfg\\MAME.SET", "cfg\\Mameset.tmp").value(), "left over");
+  EXPECT_FALSE(drive.Exists("cfg\\Mameset.tmp"));
 }
 
 TEST(CopyFile, NeverOverwritesAndLeavesNoPart) {

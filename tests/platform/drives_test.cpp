@@ -110,6 +110,7 @@ TEST(DosPathOf, WhatNoDriveCanSayFails) {
        {"/home", "/home/men", "/home/me/ゲーム", "/home/me/a\\b", "home/me", ""}) {
     EXPECT_FALSE(world.DosPathOf(path).ok()) << path;
   }
+  EXPECT_FALSE(DosWorld({{'H', "/"}}).DosPathOf("").ok()) << "no path at all isn't the root";
 }
 
 TEST(DosPathOf, ADriveBehindALinkIsRecognised) {
