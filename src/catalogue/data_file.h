@@ -1,15 +1,15 @@
 // The data file of an emulator, `<Emu>.dat` in the folder Data: a header of 17 lines that begin
-// with
-// "*", then one game a line, 21 fields each closed by a semicolon, sorted by name.
+// with "*", then one game a line, 21 fields each closed by a semicolon, sorted by name.
 //
 // Nothing of it is held in memory: every question opens the file and reads from its first line.
 #pragma once
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/dos_files.h"
 #include "platform/line_reader.h"
@@ -53,7 +53,6 @@ struct GameRecord {
 };
 
 inline constexpr int kHeaderLines = 17;
-using DataHeader = std::array<std::string, kHeaderLines>;
 
 // Cuts the first field off `rest` and its semicolon with it; nothing if no semicolon is left.
 std::optional<std::string_view> CutField(std::string_view& rest);
@@ -66,20 +65,24 @@ class RecordReader {
                                    const EmulatorProfile& profile);
   // The next record's line, valid until the next call; false at the end of the file.
   bool Next(std::string_view& line);
+  // True if the file could not be read to its end.
+  [[nodiscard]] bool Failed() const { return lines_.Failed(); }
 
  private:
   explicit RecordReader(LineReader lines) : lines_(std::move(lines)) {}
   LineReader lines_;
 };
 
-// The first record whose name is `name` exactly; nothing if there is none or no file.
+// The first record whose name is `name` exactly; nothing if there is none or no file. An empty name
+// is no name.
 std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app,
                                      const EmulatorProfile& profile, std::string_view name);
 
-// The 17 header lines, each without its first character; nothing if the first line that is neither
-// blank nor a comment doesn't begin with "*", or the file ends inside the header.
-std::optional<DataHeader> ReadHeader(DosFiles& files, const AppState& app,
-                                     const EmulatorProfile& profile);
+// The header lines, each without its first character: kHeaderLines, fewer if the file ends inside
+// the header, none if there is no file or the first line that is neither blank nor a comment
+// doesn't begin with "*".
+std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app,
+                                    const EmulatorProfile& profile);
 
 // What a panel's load finds for its total.
 struct DataTotal {

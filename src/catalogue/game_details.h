@@ -20,7 +20,8 @@ struct DetailRow {
 std::span<const DetailRow> DetailRows();  // all but lblInfoSamples, in the order of the fields
 
 // The caption of a detail label for a record, or nothing if the label keeps its text: "YES" and
-// "NO" for the original, ".zip" behind the rom file, else the field itself.
+// "NO" for the original, ".zip" behind the rom file, else the field itself. A field that a cut
+// record lacks is shown empty.
 std::optional<std::string> DetailText(const GameRecord& record, Field field);
 
 // "Available" or "Not needed".
@@ -31,7 +32,8 @@ std::string_view SamplesText(const GameRecord& record);
 std::vector<std::string> GameListText(DosFiles& files, const EmulatorProfile& profile,
                                       std::string_view emulator_folder, std::string_view name);
 
-// A key text of a help page. Rows with an empty `key` are headings.
+// A key text of a help page. Rows with an empty `key` are headings; the first row of M72 names the
+// columns of its table.
 struct KeyRow {
   std::string_view key;
   std::string_view text;

@@ -32,8 +32,9 @@ enum class FillResult {
   kNoScanFile,  // the list is as it was
 };
 
-// Refills `list`, sorted, with the names of one state. Ends at a record without a semicolon, with
-// the names added so far. kAvailable and kMissing read the scan file alone.
+// Refills `list`, sorted, with the names of one state. A record without a semicolon, or with too
+// few for the test of the state, ends it with the names added so far. kAvailable and kMissing read
+// the scan file alone.
 FillResult FillList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
                     GameState state, NameList& list);
 

@@ -1,6 +1,7 @@
 // Which games of the data file the player really has: the scan of a rom folder.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "catalogue/data_file.h"
@@ -8,6 +9,13 @@
 namespace zarvo {
 
 enum class SetType { kSplit, kMerged };
+
+// The marks of a game in the scan file.
+inline constexpr char kFoundMark = 'Y';
+inline constexpr char kMissingMark = 'N';
+
+// The name under which the scan file is written before it takes its place: "Mamescn.tmp".
+std::string ScanTemporary(const EmulatorProfile& profile);
 
 struct ScanOutcome {
   int found = 0;
@@ -17,7 +25,7 @@ struct ScanOutcome {
 // Looks for the archive of every game in `rom_folder` and writes the answers to `<Emu>.scn` in the
 // folder cfg, a line `"Name;Y"` or `"Name;N"` each, in the order of the data file. If `rom_folder`
 // can't be entered, the look-ups run in the folder cfg. kMerged counts on MAME alone. Fails if the
-// data file can't be read; the old scan file stays then.
+// data file can't be read to its end; the old scan file stays then.
 Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
                              std::string_view rom_folder, SetType sets);
 

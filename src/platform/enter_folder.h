@@ -1,17 +1,18 @@
-// The first step of a routine that opens its files by their bare names.
+// How a routine gets to the folder of the file that it opens by its bare name.
 #pragma once
 
 #include <string_view>
 
 #include "platform/dos_files.h"
-#include "platform/dos_path.h"
 
 namespace zarvo {
 
-// Makes the drive and the folder of `folder`, a full path, the current ones.
+// Makes the drive that `folder` begins with current, then `folder`. A drive that can't be made
+// current is passed over; fails if the folder can't be entered.
 inline Status EnterFolder(DosFiles& files, std::string_view folder) {
-  const Status changed = files.ChangeDrive(DriveLetter(folder));
-  return changed ? files.ChangeFolder(folder) : changed;
+  if (folder.empty()) return Error{"No folder is given"};
+  Ignore(files.ChangeDrive(folder.front()));
+  return files.ChangeFolder(folder);
 }
 
 }  // namespace zarvo

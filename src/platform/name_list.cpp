@@ -1,10 +1,28 @@
 #include "platform/name_list.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "platform/text.h"
 
 namespace zarvo {
+namespace {
+
+// LessNoCase, quicker for names that begin alike, as neighbours in a list do.
+bool SortsBefore(std::string_view left, std::string_view right) {
+  std::uint64_t left_word = 0;
+  std::uint64_t right_word = 0;
+  while (left.size() >= sizeof left_word && right.size() >= sizeof right_word) {
+    std::memcpy(&left_word, left.data(), sizeof left_word);
+    std::memcpy(&right_word, right.data(), sizeof right_word);
+    if (left_word != right_word) break;
+    left.remove_prefix(sizeof left_word);
+    right.remove_prefix(sizeof right_word);
+  }
+  return LessNoCase(left, right);
+}
+
+}  // namespace
 
 std::string_view NameList::At(int index) const {
   const Entry& entry = entries_[static_cast<std::size_t>(index)];
@@ -48,7 +66,7 @@ void NameList::Clear() {
 void NameList::Sort() {
   const std::string_view text = text_;
   const auto before = [text](const Entry& left, const Entry& right) {
-    return LessNoCase(text.substr(left.offset, left.size), text.substr(right.offset, right.size));
+    return SortsBefore(text.substr(left.offset, left.size), text.substr(right.offset, right.size));
   };
   if (std::is_sorted(entries_.begin(), entries_.end(), before)) return;
   std::stable_sort(entries_.begin(), entries_.end(), before);

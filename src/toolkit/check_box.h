@@ -19,15 +19,20 @@ class CheckBox : public QCheckBox, public Control {
   // Any value but 0 counts as 1.
   void SetValue(int value);
   void SetCaption(std::string_view caption);
-  [[nodiscard]] std::string Caption() const;
+  [[nodiscard]] std::string Caption() const { return caption_; }
   void SetForeColor(Colour colour);
   void SetBold(bool bold);
   [[nodiscard]] Colour ForeColor() const { return fore_colour_; }
 
   Event<> Click;
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] bool hitButton(const QPoint& point) const override;
+
  private:
-  Colour fore_colour_ = kMoon;
+  Colour fore_colour_ = kInk;
+  std::string caption_;
 };
 
 // One of a group: those with the same parent exclude each other.
@@ -40,6 +45,13 @@ class OptionButton : public QRadioButton, public Control {
   void SetCaption(std::string_view caption);
 
   Event<> Click;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] bool hitButton(const QPoint& point) const override;
+
+ private:
+  std::string caption_;
 };
 
 }  // namespace zarvo

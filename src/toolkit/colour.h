@@ -34,4 +34,8 @@ inline constexpr Colour kNight{0x3A1F14};      // window ground
 inline constexpr Colour kDeepNight{0x26130C};  // lists and pages
 inline constexpr Colour kMoon{0xF2E6DE};       // text on the ground
 
+// The pages of a panel: a lit card in the dark cabinet, with dark text.
+inline constexpr Colour kCard{0xEDD8D0};
+inline constexpr Colour kInk{0x3A1F14};
+
 }  // namespace zarvo

@@ -34,9 +34,10 @@ class ComboBox : public QComboBox, public Control {
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void showPopup() override;
 
  private:
-  void ApplyColours();
   Colour back_colour_ = kSilver;
   Colour fore_colour_ = kBlack;
 };

@@ -17,7 +17,7 @@ enum class MouseButton { kNone = 0, kLeft = 1, kRight = 2, kMiddle = 4 };
 struct MouseArgs {
   MouseButton button = MouseButton::kNone;  // of a move: the button held, left before the others
   int shift = 0;                            // shift state, see keys.h
-  QPoint global;                            // place of the pointer on the screen, in pixels
+  QPoint global{};                          // place of the pointer on the screen, in pixels
 };
 
 struct KeyArgs {
@@ -53,7 +53,8 @@ class Control {
   void SetVisible(bool visible) { widget_->setVisible(visible); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
-  [[nodiscard]] std::string ToolTipText() const;
+  // Shown literally.
+  [[nodiscard]] const std::string& ToolTipText() const { return tool_tip_; }
   void SetToolTipText(std::string_view text);
 
   // The name under which scripts find the widget, and the name that a screen reader says.
@@ -66,8 +67,12 @@ class Control {
   Event<const KeyArgs&> KeyDown;
 
  protected:
+  // Which events of the widget are raised from here; a class that needs another order raises the
+  // others itself.
+  enum class Watch { kAll, kMouse, kToolTip };
+
   // `widget` is the object itself; it outlives this part only while it is destroyed.
-  explicit Control(QWidget* widget);
+  explicit Control(QWidget* widget, Watch watch = Watch::kAll);
 
  private:
   class Watcher;
@@ -76,12 +81,18 @@ class Control {
   QWidget* widget_;
   TwipRect place_;
   bool enabled_ = true;
+  std::string tool_tip_;
   std::unique_ptr<Watcher> watcher_;
 };
+
+// The mouse button and shift state of an event.
+MouseArgs MouseArgsOf(const QMouseEvent& event);
 
 // Windows-1252 to the toolkit's text and back. A carriage return becomes a line break. Characters
 // that Windows-1252 doesn't have become "?" on the way back.
 QString ToQt(std::string_view text);
+// The same for captions in which "&" would mark a key.
+QString ToQtCaption(std::string_view text);
 std::string FromQt(const QString& text);
 
 }  // namespace zarvo

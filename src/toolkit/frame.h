@@ -28,12 +28,15 @@ class Frame : public QWidget, public Control {
   explicit Frame(QWidget* parent);
   void SetCaption(std::string_view caption);
   [[nodiscard]] std::string Caption() const { return caption_; }
+  // Light letters, for a frame on the ground of a window.
+  void SetOnDarkGround(bool dark) { ground_is_dark_ = dark; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   std::string caption_;
+  bool ground_is_dark_ = false;
 };
 
 }  // namespace zarvo

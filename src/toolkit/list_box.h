@@ -1,7 +1,8 @@
 // A list of names with one selection, in one or several columns.
 #pragma once
 
-#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QElapsedTimer>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,8 +13,6 @@
 
 namespace zarvo {
 
-class DragSession;
-
 // Shows a NameList. Rows are of one height and painted on demand, so that 32,767 entries cost no
 // more than ten. With one column it scrolls up and down; with more, entries run down the first
 // column and on at the head of the next, and it scrolls sideways.
@@ -21,7 +20,7 @@ class DragSession;
 // The selection raises Click inside the statement that sets it to a new value; a press of the left
 // or middle button on an entry selects it and raises Click, also if it was selected already. The
 // right button selects nothing. Typing finds the next entry that begins so.
-class ListBox : public QAbstractItemView, public Control {
+class ListBox : public QAbstractScrollArea, public Control {
  public:
   explicit ListBox(QWidget* parent);
   ~ListBox() override;
@@ -58,31 +57,45 @@ class ListBox : public QAbstractItemView, public Control {
   // The icon of the drag that runs.
   void SetDragIcon(const Picture& icon);
 
-  // QAbstractItemView:
-  [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
-  void scrollTo(const QModelIndex& index, ScrollHint hint) override;
-  [[nodiscard]] QModelIndex indexAt(const QPoint& point) const override;
+  // Only from a KeyDown handler: neither the list nor its window acts on this key.
+  void SwallowKey() { swallow_ = true; }
+
+  // Place of an entry within the viewport, in pixels, and the entry at a place, or -1.
+  [[nodiscard]] QRect EntryRect(int index) const;
+  [[nodiscard]] int EntryAt(QPoint point) const;
 
  protected:
-  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-  [[nodiscard]] int horizontalOffset() const override;
-  [[nodiscard]] int verticalOffset() const override;
-  [[nodiscard]] bool isIndexHidden(const QModelIndex& index) const override;
-  void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags flags) override;
-  [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
-  void updateGeometries() override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  struct Private;
-  std::unique_ptr<Private> d_;
+  void UpdateScrollBars();
+  void ScrollTo(int index);
+  void Show(int index);
+  void Choose(int index);
+  bool MoveByKey(int key);
+  void Search(const QString& typed);
+  [[nodiscard]] int RowsPerPage() const;
+  [[nodiscard]] int ColumnWidth() const;
+  void PaintEntry(QPainter& painter, int index, const QRect& rect);
+
+  NameList items_;
+  int index_ = -1;
+  int columns_ = 1;
+  bool sorted_ = false;
+  bool swallow_ = false;
+  std::string typed_;
+  QElapsedTimer typed_at_;
 };
 
 // A control over which a drag is reported and on which it can be dropped.

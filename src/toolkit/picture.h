@@ -28,6 +28,8 @@ class Picture {
   static Result<Picture> FromFile(const DosFiles& files, std::string_view path, int longest_side);
 
   [[nodiscard]] bool IsEmpty() const { return !drawing_ && image_.isNull(); }
+  // In pixels: what the drawing was made for, or the size of the image.
+  [[nodiscard]] QSize NaturalSize() const;
   // Stretched to the whole of `target`, smooth at every scale factor.
   void Draw(QPainter& painter, const QRectF& target) const;
   // As pixels, for cursors and icons.

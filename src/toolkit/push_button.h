@@ -16,6 +16,13 @@ class PushButton : public QPushButton, public Control {
   void SetDefault(bool is_default);
 
   Event<> Click;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  std::string caption_;
+  bool is_default_ = false;
 };
 
 }  // namespace zarvo

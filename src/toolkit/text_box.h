@@ -25,6 +25,7 @@ class TextBox : public QLineEdit, public Control {
  protected:
   // KeyDown runs before the box sees the key; a handler that swallows it calls SwallowKey.
   void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  public:
   // Only from a KeyDown handler: the box doesn't see this key.

@@ -1,6 +1,7 @@
 // Windows: placed in twips, shown modal or not, and unloaded.
 #pragma once
 
+#include <QEventLoop>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -35,7 +36,7 @@ class Window : public QWidget {
   void SetWidth(int twips);
   void SetHeight(int twips);
 
-  // A picture that fills the window's ground behind the controls.
+  // A picture on the window's ground behind the controls, in its own size from the top left.
   void SetBackground(const Picture& picture);
 
   void ShowModeless();
@@ -68,15 +69,22 @@ class Window : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void Place();
+  void ApplyPlace();
+  void ApplySize();
+  void BringOnScreen();
 
   TwipRect place_;  // as set
   Picture background_;
   bool unloaded_ = false;
   bool unloading_ = false;
-  bool modal_ = false;
+  QEventLoop* loop_ = nullptr;  // of ShowModal
   std::function<void()> default_action_;
   std::function<void()> cancel_action_;
 };
+
+// How many modal windows and boxes have been shown so far; a handler that finds it changed knows
+// that the mouse was let go meanwhile.
+int ModalCount();
+void CountModal();
 
 }  // namespace zarvo

@@ -1,0 +1,244 @@
+#include "panel/emulator_panel.h"
+
+#include "catalogue/game_details.h"
+#include "launch/settings_store.h"
+#include "panel/panel_rules.h"
+#include "platform/dos_path.h"
+
+namespace zarvo {
+namespace {
+
+// A panel stands this far to the right of the main window's left edge.
+constexpr int kDockDistance = 3450;
+
+}  // namespace
+
+void EmulatorPanel::LoadCfg(bool paths_only) {
+  const CfgFields cfg = ReadCfg(tools_.files, tools_.app, profile_);
+  if (cfg.exe_path) picConf->txtOptExePath->SetText(*cfg.exe_path);
+  if (cfg.rom_path) {
+    picConf->txtOptRomPath->SetText(*cfg.rom_path);
+    tools_.app.RomPathOf(profile_.emulator) = *cfg.rom_path;
+  }
+  if (cfg.snap_path) picConf->txtOptSnap->SetText(*cfg.snap_path);
+  if (cfg.snap_format) picConf->SetSnapFormat(*cfg.snap_format);
+  if (cfg.emulator_folder) lblOptHide = *cfg.emulator_folder;
+  if (paths_only) return;
+  if (cfg.layout_word) sizes->lblRidimen = *cfg.layout_word;
+  if (cfg.favourites && profile_.has_favourites) favourites->SetEntries(*cfg.favourites);
+}
+
+void EmulatorPanel::SaveCfg() {
+  tools_.app.RomPathOf(profile_.emulator) = picConf->txtOptRomPath->Text();
+  Report(tools_, WriteCfg(tools_.files, tools_.app, profile_,
+                          {.exe_path = picConf->txtOptExePath->Text(),
+                           .rom_path = picConf->txtOptRomPath->Text(),
+                           .snap_path = picConf->txtOptSnap->Text(),
+                           .snap_format = picConf->SnapFormat(),
+                           .emulator_folder = lblOptHide,
+                           .layout_word = sizes->lblRidimen,
+                           .favourites = favourites->EntriesBackwards()}));
+}
+
+void EmulatorPanel::SaveSettings(std::string_view key) {
+  Report(tools_,
+         zarvo::SaveSettings(tools_.files, tools_.app, profile_, key, picSettings->Values()));
+}
+
+void EmulatorPanel::SaveAndMarkClosed() {
+  SaveCfg();
+  SaveSettings(lblRomSettings->Caption());
+  tools_.app.ShowWord(profile_.emulator) = "NO";
+  closed_ = true;
+}
+
+void EmulatorPanel::Exit() {
+  SaveAndMarkClosed();
+  UnloadWindow();
+}
+
+void EmulatorPanel::Dock() {
+  SetTop(tools_.main.MainTop());
+  SetLeft(tools_.main.MainLeft() + kDockDistance);
+}
+
+void EmulatorPanel::Enter() {
+  if (games->lstRom != nullptr) games->Fill(GameState::kAllSupported);
+  if (favourites->lstPref->ListCount() > 0) {
+    favourites->lstPref->SetListIndex(0);
+  } else {
+    if (RulesOf(profile_.emulator).shown_before_first_game) ShowModeless();
+    if (games->lstRom != nullptr) games->lstRom->SetListIndex(0);
+  }
+  games->ShowCount();
+  if (!tools_.files.FileExists(JoinPath(tools_.app.CfgFolder(), profile_.cfg_file))) {
+    tools_.boxes.Inform(tools_.app.Title(), tools_.app.messages.MsgNoCfgFile);
+    ShowConfiguration();
+  }
+  tools_.app.ShowWord(profile_.emulator) = "SI";
+  ShowModeless();
+}
+
+void EmulatorPanel::ShowConfiguration() {
+  for (Control* const page : {static_cast<Control*>(picSnap), static_cast<Control*>(picSettings),
+                              static_cast<Control*>(picInfo), static_cast<Control*>(picHelp)}) {
+    page->SetVisible(false);
+  }
+  picConf->Control::SetVisible(true);
+}
+
+bool EmulatorPanel::FindRom(std::string_view game) {
+  const auto record = FindRecord(tools_.files, tools_.app, profile_, game);
+  if (record && record->field_count > static_cast<int>(Field::kRomFile)) {
+    RomFile = (*record)[Field::kRomFile];
+  }
+  if (record && record->field_count > static_cast<int>(Field::kCloneOf)) {
+    ParentFile = (*record)[Field::kCloneOf];
+    return true;
+  }
+  tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgRomNotInDataFile);
+  if (profile_.has_favourites) favourites->RemoveUnknown();
+  return false;
+}
+
+void EmulatorPanel::ShowPage(Page page) {
+  picSnap->imgSnap->SetVisible(page == Page::kSnapshot);
+  picSnap->Control::SetVisible(page == Page::kSnapshot);
+  picSettings->Control::SetVisible(page == Page::kSettings);
+  picInfo->Control::SetVisible(page == Page::kInfo);
+  picHelp->Control::SetVisible(page == Page::kHelp);
+  picConf->Control::SetVisible(page == Page::kConfiguration);
+}
+
+void EmulatorPanel::EnterSnapshotPage() {
+  SaveSettings(lblRomSettings->Caption());
+  ShowPage(Page::kSnapshot);
+  picSnap->HideLabels();
+  SnapPath = picConf->txtOptSnap->Text();
+  const int cycles = cycles_;
+  FindRom(lblRomSettings->Caption());
+  if (cycles == cycles_) ShowPictureOfRom();
+}
+
+void EmulatorPanel::EnterInfoPage() {
+  SaveSettings(lblRomSettings->Caption());
+  ShowPage(Page::kInfo);
+  ShowInfo();
+}
+
+void EmulatorPanel::EnterHelpPage() {
+  SaveSettings(lblRomSettings->Caption());
+  ShowPage(Page::kHelp);
+  ShowGameList();
+}
+
+void EmulatorPanel::EnterConfigurationPage() {
+  SaveSettings(lblRomSettings->Caption());
+  ShowPage(Page::kConfiguration);
+}
+
+void EmulatorPanel::EnterSettingsPage() {
+  if (picSettings->Visible()) return;
+  ShowPage(Page::kSettings);
+  const std::string& rom_path = tools_.app.RomPathOf(profile_.emulator);
+  picSettings->txtRomPath->SetText(rom_path.empty() ? profile_.default_rom_folder : rom_path);
+  picSettings->ApplyPresets();
+  const std::string key = FirstGame();
+  lblRomSettings->SetCaption(key);
+  const LoadOutcome outcome = LoadGame(key);
+  if (outcome == LoadOutcome::kRecord && picSettings->txtRomPath->Text().empty()) {
+    picSettings->txtRomPath->SetText(picConf->txtOptRomPath->Text());
+  }
+}
+
+std::string EmulatorPanel::FirstGame() {
+  const std::string caption = lblRomSettings->Caption();
+  if (!caption.empty()) return caption;
+  ListBox* const list = favourites->lstPref->ListCount() > 0 || games->lstRom == nullptr
+                            ? favourites->lstPref
+                            : games->lstRom;
+  list->SetListIndex(0);
+  return list->Text();
+}
+
+void EmulatorPanel::OnSelected(const ListBox* list) {
+  const bool guarded = list == games->lstRom && profile_.has_filters;
+  if (guarded && games->lblFilterHide == "FREE") return;
+  ++cycles_;
+  const std::string name = list->Text();
+  if (picSnap->imgSnap->Visible()) {
+    ShowSnapshotOf(name);
+  } else if (picSettings->Visible()) {
+    SelectOnSettingsPage(name);
+  } else if (picInfo->Visible()) {
+    MoveCaption(name);
+    ShowInfo();
+  } else if (picHelp->Visible()) {
+    MoveCaption(name);
+    ShowGameList();
+  } else if (picConf->Visible()) {
+    MoveCaption(name);
+  }
+}
+
+void EmulatorPanel::SelectOnSettingsPage(const std::string& name) {
+  const std::string caption = lblRomSettings->Caption();
+  if (!caption.empty()) SaveSettings(caption);
+  if (!MoveCaption(name)) LoadGame(name);
+}
+
+void EmulatorPanel::ShowSnapshotOf(const std::string& name) {
+  picSnap->HideLabels();
+  const int cycles = cycles_;
+  FindRom(name);
+  // An unknown favourite has gone, and its neighbour stands on the page by now.
+  if (cycles != cycles_) return;
+  const bool moved = MoveCaption(name);
+  if (!ShowPictureOfRom() && !moved) LoadGame(name);
+}
+
+bool EmulatorPanel::ShowPictureOfRom() {
+  const std::string format = picConf->SnapFormat();
+  std::string extension;
+  if (format == "GIF") extension = ".gif";
+  if (format == "JPG") extension = ".jpg";
+  if (format == "BMP") extension = ".bmp";
+  return picSnap->ShowPicture(tools_.files, SnapPath, RomFile + extension);
+}
+
+void EmulatorPanel::ShowInfo() {
+  const auto record = FindRecord(tools_.files, tools_.app, profile_, lblRomSettings->Caption());
+  if (record && record->field_count == kFieldCount) picInfo->ShowRecord(*record);
+}
+
+void EmulatorPanel::ShowGameList() {
+  if (!profile_.has_game_list_text) return;
+  picHelp->SetLines(GameListText(tools_.files, profile_, lblOptHide, lblRomSettings->Caption()));
+}
+
+// The controls always belong to the game in the caption: whenever it moves, that game's record is
+// loaded. Returns whether it moved.
+bool EmulatorPanel::MoveCaption(const std::string& name) {
+  if (name == lblRomSettings->Caption()) return false;
+  lblRomSettings->SetCaption(name);
+  if (LoadGame(name) == LoadOutcome::kNothing) {
+    picSettings->Apply(DefaultValues(profile_, tools_.app.RomPathOf(profile_.emulator)));
+  }
+  return true;
+}
+
+LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {
+  OptionValues values = picSettings->Values();
+  const LoadOutcome outcome = LoadSettings(tools_.files, tools_.app, profile_, key, values);
+  if (outcome != LoadOutcome::kNothing) picSettings->Apply(values);
+  return outcome;
+}
+
+void EmulatorPanel::ApplyToAll() {
+  if (!tools_.boxes.Ask(tools_.app.Title(), tools_.app.messages.MsgApplyDefaults)) return;
+  const Status saved = SaveAsDefault(tools_.files, tools_.app, profile_, picSettings->Values());
+  Report(tools_, saved);
+  if (saved.ok()) tools_.boxes.Inform(tools_.app.Title(), tools_.app.messages.MsgDefaultsSaved);
+}
+
+}  // namespace zarvo

@@ -1,0 +1,103 @@
+#include "panel/info_page.h"
+
+#include <array>
+
+#include "panel/control_names.h"
+#include "panel/page_parts.h"
+
+namespace zarvo {
+namespace {
+
+// Where the value of a field stands: its row on the page and the width of its caption, in twips.
+struct RowPlace {
+  Field field;
+  TwipRect place;
+  int caption_width;
+};
+
+constexpr int kRow = 195;
+
+constexpr TwipRect LeftRow(int top, int row) { return {150, top + row * kRow, 1680, kRow}; }
+constexpr TwipRect RightRow(int top, int row) { return {2085, top + row * kRow, 1680, kRow}; }
+
+constexpr int kGeneralTop = 240;
+constexpr int kEmulationTop = 1230;
+constexpr int kChipsTop = 2730;
+
+constexpr int kWide = 690;
+constexpr int kNarrow = 600;
+
+constexpr std::array<RowPlace, kFieldCount> kRows = {{
+    {Field::kName, {150, kGeneralTop, 3555, kRow}, kWide},
+    {Field::kRomFile, LeftRow(kEmulationTop, 0), kWide},
+    {Field::kOC, LeftRow(kEmulationTop, 3), kWide},
+    {Field::kCloneOf, LeftRow(kEmulationTop, 4), kWide},
+    {Field::kGenre, {150, kGeneralTop + 2 * kRow, 3555, kRow}, kWide},
+    {Field::kMadeBy, {150, kGeneralTop + kRow, 2580, kRow}, kWide},
+    {Field::kYear, {2790, kGeneralTop + kRow, 945, kRow}, 450},
+    {Field::kPlayable, RightRow(kEmulationTop, 0), kWide},
+    {Field::kColors, RightRow(kEmulationTop, 1), kWide},
+    {Field::kSound, RightRow(kEmulationTop, 2), kWide},
+    {Field::kHiScore, RightRow(kEmulationTop, 3), kWide},
+    {Field::kCocktail, RightRow(kEmulationTop, 4), kWide},
+    {Field::kDriver, LeftRow(kEmulationTop, 2), kWide},
+    {Field::kCpu1, LeftRow(kChipsTop, 0), kNarrow},
+    {Field::kCpu2, LeftRow(kChipsTop, 1), kNarrow},
+    {Field::kCpu3, LeftRow(kChipsTop, 2), kNarrow},
+    {Field::kCpu4, LeftRow(kChipsTop, 3), kNarrow},
+    {Field::kSound1, RightRow(kChipsTop, 0), kNarrow},
+    {Field::kSound2, RightRow(kChipsTop, 1), kNarrow},
+    {Field::kSound3, RightRow(kChipsTop, 2), kNarrow},
+    {Field::kSound4, RightRow(kChipsTop, 3), kNarrow},
+}};
+
+}  // namespace
+
+InfoPage::InfoPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
+  SetName(ControlName(profile, "picInfo"));
+  SetBackColor(kCard);
+  BuildFrames();
+  BuildRows();
+}
+
+void InfoPage::BuildFrames() {
+  MakeFrame(this, {60, 45, 3735, 870}, " General Info:");
+  MakeFrame(this, {60, 1020, 1830, 1260}, " Emulation Info:");
+  MakeFrame(this, {1980, 1020, 1815, 1260}, " Emulation Accuracy:");
+  MakeFrame(this, {60, 2520, 1830, 1095}, " CPU Emulation");
+  MakeFrame(this, {1980, 2520, 1815, 1095}, " Sound Emulation");
+}
+
+void InfoPage::BuildRows() {
+  labels_.resize(kFieldCount);
+  for (const DetailRow& row : DetailRows()) {
+    for (const RowPlace& where : kRows) {
+      if (where.field != row.field) continue;
+      labels_[static_cast<std::size_t>(row.field)] =
+          Row(where.place, where.caption_width, row.caption, row.label);
+    }
+  }
+  lblInfoSamples = Row(LeftRow(kEmulationTop, 1), kWide, "Samples:", "lblInfoSamples");
+}
+
+Label* InfoPage::Row(const TwipRect& place, int caption_width, std::string_view caption,
+                     std::string_view name) {
+  MakeCaption(this, {place.left, place.top, caption_width, place.height}, caption);
+  Label* const value = MakeCaption(
+      this, {place.left + caption_width, place.top, place.width - caption_width, place.height}, "");
+  value->SetName(name);
+  value->SetBold(true);
+  return value;
+}
+
+Label* InfoPage::FieldLabel(Field field) const { return labels_[static_cast<std::size_t>(field)]; }
+
+void InfoPage::ShowRecord(const GameRecord& record) {
+  for (const DetailRow& row : DetailRows()) {
+    const auto text = DetailText(record, row.field);
+    if (text) FieldLabel(row.field)->SetCaption(*text);
+  }
+  lblInfoSamples->SetCaption(SamplesText(record));
+}
+
+}  // namespace zarvo

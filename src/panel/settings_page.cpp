@@ -1,0 +1,119 @@
+#include "panel/settings_page.h"
+
+#include "panel/control_names.h"
+#include "panel/page_parts.h"
+
+namespace zarvo {
+
+OptionValue OptionControl::Value() const {
+  OptionValue value;
+  if (combo != nullptr) {
+    value = {.number = combo->ListIndex(), .text = combo->Text(), .enabled = combo->Enabled()};
+  } else if (check != nullptr) {
+    value = {.number = check->Value(), .text = {}, .enabled = check->Enabled()};
+  } else {
+    value = {.number = 0, .text = text->Text(), .enabled = text->Enabled()};
+  }
+  return value;
+}
+
+void OptionControl::Set(const OptionValue& value) const {
+  if (combo != nullptr) {
+    combo->SetListIndex(value.number);
+  } else if (check != nullptr) {
+    check->SetValue(value.number);
+  } else {
+    text->SetText(value.text);
+  }
+}
+
+SettingsPage::SettingsPage(QWidget* parent, const EmulatorProfile& profile)
+    : PictureBox(parent), profile_(profile) {
+  SetName(ControlName(profile, "picSettings"));
+  SetBackColor(kCard);
+  BuildFolderRow();
+  const std::span<const OptionSpec> table = OptionsOf(profile.emulator);
+  options_.reserve(table.size());
+  for (const OptionSpec& spec : table) BuildOption(spec);
+}
+
+void SettingsPage::BuildFolderRow() {
+  txtRomPath = new TextBox(this);
+  txtRomPath->SetName(ControlName(profile_, "txtRomPath"));
+  txtRomPath->SetAccessibleName("Rom folder of this game");
+  txtRomPath->SetReadOnly(true);
+  txtRomPath->SetMaxLength(90);
+  txtRomPath->SetPlace({60, 60, 2250, 255});
+
+  cmdSelDir = MakeButton(this, ButtonKind::kPath, {2340, 60, 465, 255}, "Brow");
+  cmdSelDir->SetName(ControlName(profile_, "cmdSelDir"));
+  cmdSelDir->SetToolTipText(" Choose Univoque Rom Directory ");
+  cmdDirRomDefault = MakeButton(this, ButtonKind::kPath, {2835, 60, 435, 255}, "Def.");
+  cmdDirRomDefault->SetName("cmdDirRomDefault");
+  cmdDirRomDefault->SetToolTipText(" Assign default Rom Directory ");
+  cmdApplytoAll = MakeButton(this, ButtonKind::kBulk, {3315, 60, 480, 255}, "All");
+  cmdApplytoAll->SetName("cmdApplytoAll");
+  cmdApplytoAll->SetToolTipText(" Apply current settings to All Games ");
+}
+
+void SettingsPage::BuildOption(const OptionSpec& spec) {
+  OptionControl control{.spec = &spec};
+  Control* part = nullptr;
+  switch (spec.kind) {
+    case OptionKind::kCombo:
+      part = control.combo = new ComboBox(this);
+      for (const std::string_view item : spec.items) control.combo->AddItem(item);
+      break;
+    case OptionKind::kCheck:
+      part = control.check = new CheckBox(this);
+      control.check->SetForeColor(kBlack);
+      control.check->SetCaption(spec.caption);
+      break;
+    case OptionKind::kText:
+      part = control.text = new TextBox(this);
+      control.text->SetMaxLength(spec.most_characters);
+      break;
+  }
+  if (spec.kind != OptionKind::kCheck) BuildCaption(control);
+  part->SetName(ControlName(profile_, spec.name));
+  part->SetAccessibleName(spec.caption);
+  part->SetToolTipText(spec.tool_tip);
+  part->SetPlace(spec.place);
+  control.Set({.number = spec.default_value, .text = std::string(spec.default_text)});
+  part->SetEnabled(spec.enabled_at_start);
+  options_.push_back(control);
+}
+
+void SettingsPage::BuildCaption(OptionControl& control) {
+  control.caption = MakeCaption(this, control.spec->caption_place, control.spec->caption);
+  if (control.spec->kind == OptionKind::kText) {
+    control.caption->SetToolTipText(control.spec->tool_tip);
+  }
+}
+
+OptionValues SettingsPage::Values() const {
+  OptionValues values{.rom_folder = txtRomPath->Text(), .values = {}};
+  values.values.reserve(options_.size());
+  for (const OptionControl& control : options_) values.values.push_back(control.Value());
+  return values;
+}
+
+void SettingsPage::Apply(const OptionValues& values) {
+  txtRomPath->SetText(values.rom_folder);
+  for (std::size_t i = 0; i < options_.size(); ++i) {
+    const OptionValue& value = values.values[i];
+    if (options_[i].spec->stored || value.number == 0) options_[i].Set(value);
+  }
+}
+
+void SettingsPage::ApplyPresets() {
+  for (const OptionControl& control : options_) {
+    if (control.spec->preset) control.Set({.number = *control.spec->preset, .text = {}});
+  }
+}
+
+const OptionControl& SettingsPage::Option(std::string_view name) const {
+  return options_[OptionIndex(profile_.emulator, name)];
+}
+
+}  // namespace zarvo

@@ -1,0 +1,29 @@
+// Strokes that the controls share, all in vectors so that they are crisp at every scale factor.
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRect>
+#include <QString>
+
+#include "toolkit/label.h"
+
+namespace zarvo {
+
+// A colour as it looks on something that is disabled.
+QColor Faded(const QColor& colour);
+
+// The raised face of a key of the cabinet, or the same pressed down.
+void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pressed);
+
+// The ring round what has the keyboard's focus.
+void DrawFocus(QPainter& painter, const QRect& rect);
+
+// The recessed edge of a box that holds text or a list.
+void DrawSunkenEdge(QPainter& painter, const QRect& rect);
+
+// Text in the middle of the height, elided where it doesn't fit. With `wrap`, over several lines.
+void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
+                 bool wrap);
+
+}  // namespace zarvo

@@ -1,0 +1,56 @@
+#include "toolkit/image_box.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "toolkit/drawing.h"
+
+namespace zarvo {
+
+ImageBox::ImageBox(QWidget* parent) : QWidget(parent), Control(this) {}
+
+void ImageBox::SetPicture(Picture picture) {
+  picture_ = std::move(picture);
+  update();
+}
+
+void ImageBox::SetPressable(bool pressable) {
+  pressable_ = pressable;
+  setFocusPolicy(pressable ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void ImageBox::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  picture_.Draw(painter, QRectF(rect()));
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+void ImageBox::mousePressEvent(QMouseEvent* event) { pressed_ = event->button() == Qt::LeftButton; }
+
+void ImageBox::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const bool click = pressed_ && rect().contains(event->position().toPoint());
+  pressed_ = false;
+  if (click) Click.Raise();
+}
+
+void ImageBox::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) DblClick.Raise();
+}
+
+void ImageBox::keyPressEvent(QKeyEvent* event) {
+  const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                       event->key() == Qt::Key_Enter;
+  if (!pressable_ || !presses || event->isAutoRepeat()) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  MouseDown.Raise({.button = MouseButton::kLeft});
+  Click.Raise();
+  MouseUp.Raise({.button = MouseButton::kLeft});
+}
+
+}  // namespace zarvo

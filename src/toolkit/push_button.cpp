@@ -1,0 +1,35 @@
+#include "toolkit/push_button.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "toolkit/drawing.h"
+
+namespace zarvo {
+
+PushButton::PushButton(QWidget* parent) : QPushButton(parent), Control(this) {
+  setAutoDefault(false);
+  QObject::connect(this, &QPushButton::clicked, this, [this] { Click.Raise(); });
+}
+
+void PushButton::SetCaption(std::string_view caption) {
+  caption_ = caption;
+  setText(ToQtCaption(caption));
+}
+
+void PushButton::SetDefault(bool is_default) {
+  is_default_ = is_default;
+  update();
+}
+
+void PushButton::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor face = (is_default_ ? kSlate : kBluegrey).ToQt();
+  const QColor shown = !isEnabled() ? Faded(face) : underMouse() ? face.lighter(115) : face;
+  DrawKey(painter, rect(), shown, isDown());
+  painter.setPen(isEnabled() ? QColor(Qt::white) : Faded(Qt::white));
+  DrawCaption(painter, rect().adjusted(3, 0, -3, 0), ToQt(caption_), TextAlign::kCentre, false);
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+}  // namespace zarvo

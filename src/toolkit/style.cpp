@@ -1,0 +1,194 @@
+#include "toolkit/style.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOptionSlider>
+
+#include "toolkit/colour.h"
+#include "toolkit/drawing.h"
+#include "toolkit/list_access.h"
+
+namespace zarvo {
+namespace {
+
+constexpr int kScrollBarWidth = 10;
+constexpr int kSmallestSlider = 16;
+
+// Fusion with slim scroll bars in the palette.
+class CabinetStyle : public QProxyStyle {
+ public:
+  CabinetStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_ScrollBarExtent) return kScrollBarWidth;
+    if (metric == PM_ScrollBarSliderMin) return kSmallestSlider;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    if (control != CC_ScrollBar) {
+      return QProxyStyle::subControlRect(control, option, part, widget);
+    }
+    return ScrollBarPart(*static_cast<const QStyleOptionSlider*>(option), part);
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    if (control == CC_ScrollBar) {
+      const auto& bar = *static_cast<const QStyleOptionSlider*>(option);
+      painter->fillRect(bar.rect, kDeepNight.ToQt());
+      const bool held = bar.activeSubControls.testFlag(SC_ScrollBarSlider);
+      painter->setRenderHint(QPainter::Antialiasing);
+      painter->setPen(Qt::NoPen);
+      painter->setBrush((held ? kPeriwinkle : kSlate).ToQt());
+      painter->drawRoundedRect(
+          QRectF(ScrollBarPart(bar, SC_ScrollBarSlider)).adjusted(2, 2, -2, -2), 3, 3);
+    } else {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+  }
+
+ private:
+  // The whole bar is the groove: there are no arrow buttons.
+  static QRect ScrollBarPart(const QStyleOptionSlider& bar, SubControl part) {
+    const bool across = bar.orientation == Qt::Horizontal;
+    const int length = across ? bar.rect.width() : bar.rect.height();
+    const int range = bar.maximum - bar.minimum;
+    const int steps = range + bar.pageStep;
+    const int slider =
+        range <= 0 ? length
+                   : qBound(kSmallestSlider,
+                            static_cast<int>(qint64{length} * bar.pageStep / steps), length);
+    const int place = sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                              length - slider, bar.upsideDown);
+    const auto cut = [&](int from, int size) {
+      return across ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
+                    : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
+    };
+    switch (part) {
+      case SC_ScrollBarSlider:
+        return cut(place, slider);
+      case SC_ScrollBarGroove:
+        return bar.rect;
+      case SC_ScrollBarSubPage:
+        return cut(0, place);
+      case SC_ScrollBarAddPage:
+        return cut(place + slider, length - place - slider);
+      default:
+        return {};
+    }
+  }
+};
+
+QPalette CabinetPalette() {
+  QPalette palette;
+  palette.setColor(QPalette::Window, kNight.ToQt());
+  palette.setColor(QPalette::WindowText, kMoon.ToQt());
+  palette.setColor(QPalette::Base, QColor(0xF4, 0xF6, 0xFB));
+  palette.setColor(QPalette::AlternateBase, QColor(0xE4, 0xE8, 0xF2));
+  palette.setColor(QPalette::Text, kInk.ToQt());
+  palette.setColor(QPalette::Button, kSlate.ToQt());
+  palette.setColor(QPalette::ButtonText, Qt::white);
+  palette.setColor(QPalette::Highlight, kSlate.ToQt());
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(0xF6, 0xF0, 0xDC));
+  palette.setColor(QPalette::ToolTipText, kInk.ToQt());
+  palette.setColor(QPalette::Link, kPeriwinkle.ToQt());
+  palette.setColor(QPalette::PlaceholderText, kSlate.ToQt());
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, Faded(palette.color(QPalette::Active, role)));
+  }
+  return palette;
+}
+
+}  // namespace
+
+QColor Faded(const QColor& colour) {
+  const QColor grey(0x80, 0x84, 0x94);
+  return {(colour.red() + 2 * grey.red()) / 3, (colour.green() + 2 * grey.green()) / 3,
+          (colour.blue() + 2 * grey.blue()) / 3};
+}
+
+void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pressed) {
+  QLinearGradient shine(rect.topLeft(), rect.bottomLeft());
+  shine.setColorAt(pressed ? 1 : 0, face.lighter(118));
+  shine.setColorAt(pressed ? 0 : 1, face.darker(112));
+  painter.fillRect(rect, shine);
+  const QRect edge = rect.adjusted(0, 0, -1, -1);
+  painter.setPen(pressed ? face.darker(160) : face.lighter(145));
+  painter.drawLine(edge.topLeft(), edge.topRight());
+  painter.drawLine(edge.topLeft(), edge.bottomLeft());
+  painter.setPen(pressed ? face.lighter(130) : face.darker(170));
+  painter.drawLine(edge.bottomLeft(), edge.bottomRight());
+  painter.drawLine(edge.topRight(), edge.bottomRight());
+}
+
+void DrawFocus(QPainter& painter, const QRect& rect) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(0xFF, 0xC8, 0x5A), 1));
+  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+}
+
+void DrawSunkenEdge(QPainter& painter, const QRect& rect) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const QRect edge = rect.adjusted(0, 0, -1, -1);
+  painter.setPen(kDeepNight.ToQt());
+  painter.drawLine(edge.topLeft(), edge.topRight());
+  painter.drawLine(edge.topLeft(), edge.bottomLeft());
+  painter.setPen(kSlate.ToQt());
+  painter.drawLine(edge.bottomLeft(), edge.bottomRight());
+  painter.drawLine(edge.topRight(), edge.bottomRight());
+}
+
+void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
+                 bool wrap) {
+  const int across = align == TextAlign::kLeft     ? Qt::AlignLeft
+                     : align == TextAlign::kCentre ? Qt::AlignHCenter
+                                                   : Qt::AlignRight;
+  if (wrap) {
+    painter.drawText(rect, across | Qt::AlignTop | Qt::TextWordWrap, text);
+    return;
+  }
+  const QFontMetrics metrics = painter.fontMetrics();
+  const QString shown = metrics.horizontalAdvance(text) <= rect.width()
+                            ? text
+                            : metrics.elidedText(text, Qt::ElideRight, rect.width());
+  painter.drawText(rect, across | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+}
+
+void PrepareApplication() {
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+  if (wayland && qEnvironmentVariableIsSet("DISPLAY") &&
+      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "xcb");
+  }
+}
+
+void DressUp(QApplication& application) {
+  QFont font(QStringLiteral("Liberation Sans"));
+  font.setPixelSize(11);
+  font.setStyleHint(QFont::SansSerif);
+  QApplication::setStyle(new CabinetStyle);
+  QApplication::setPalette(CabinetPalette());
+  QApplication::setFont(font);
+  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/app_icon.svg")));
+  application.setApplicationName(QStringLiteral("zarvo"));
+  InstallListAccess();
+}
+
+}  // namespace zarvo

@@ -1,0 +1,143 @@
+// DOS files in memory: for tests that make single steps fail, and for fuzzing.
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/dos_files.h"
+#include "platform/text.h"
+
+namespace zarvo {
+
+// One drive C. Folders are those of the files put there, and those made.
+class MemoryFiles : public DosFiles {
+ public:
+  // Full path.
+  void Put(std::string_view path, std::string bytes) { files_[Key(path)] = std::move(bytes); }
+  void PutFolder(std::string_view path) { folders_.insert(Key(path)); }
+  [[nodiscard]] bool Has(std::string_view path) const { return files_.contains(Key(path)); }
+  [[nodiscard]] std::string BytesOf(std::string_view path) const {
+    const auto found = files_.find(Key(path));
+    return found == files_.end() ? "(no file)" : found->second;
+  }
+
+  bool fail_writes = false;
+  bool break_off_reads = false;             // half of a file, then a read error
+  std::vector<std::string> written;         // full paths in the order of writing
+  mutable std::vector<std::string> opened;  // the paths as they were given
+  mutable int folders_listed = 0;
+
+  Status ChangeDrive(char letter) override {
+    return FoldCase(static_cast<unsigned char>(letter)) == 'c' ? Success() : Error{"No such drive"};
+  }
+  Status ChangeFolder(std::string_view path) override {
+    if (!FolderExists(path)) return Error{"No such folder"};
+    current_ = Key(path);
+    return Success();
+  }
+  [[nodiscard]] std::string CurrentFolder() const override { return current_; }
+  [[nodiscard]] std::vector<char> Drives() const override { return {'C'}; }
+
+  [[nodiscard]] bool FileExists(std::string_view path) const override { return Has(path); }
+  [[nodiscard]] bool FolderExists(std::string_view path) const override {
+    const std::string inside = Key(path) + '\\';
+    const auto next = files_.lower_bound(inside);
+    return folders_.contains(Key(path)) ||
+           (next != files_.end() && next->first.starts_with(inside));
+  }
+  [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(std::string_view path) const override {
+    ++folders_listed;
+    if (!path.empty() && !FolderExists(path)) return Error{"No such folder"};
+    const std::string inside = (path.empty() ? current_ : Key(path)) + '\\';
+    std::vector<FolderEntry> entries;
+    for (const auto& [key, bytes] : files_) AddEntry(key, inside, false, entries);
+    for (const std::string& key : folders_) AddEntry(key, inside, true, entries);
+    return entries;
+  }
+
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const override {
+    opened.emplace_back(path);
+    const auto found = files_.find(Key(path));
+    if (found == files_.end()) return Error{"No such file"};
+    return std::unique_ptr<ByteSource>(
+        std::make_unique<MemorySource>(found->second, break_off_reads));
+  }
+
+  Status WriteFile(std::string_view path, std::string_view bytes) override {
+    if (fail_writes) return Error{"The disk is full"};
+    written.push_back(Key(path));
+    Put(path, std::string(bytes));
+    return Success();
+  }
+  Status ReplaceFile(std::string_view path, std::string_view /*temporary*/,
+                     std::string_view bytes) override {
+    return WriteFile(path, bytes);
+  }
+  Status CopyFile(std::string_view from, std::string_view to) override {
+    if (!Has(from) || Has(to)) return Error{"Can't be copied"};
+    return WriteFile(to, BytesOf(from));
+  }
+  Status RenameFile(std::string_view from, std::string_view to) override {
+    const Status copied = CopyFile(from, to);
+    return copied ? DeleteFile(from) : copied;
+  }
+  Status DeleteFile(std::string_view path) override {
+    return files_.erase(Key(path)) == 1 ? Success() : Error{"No such file"};
+  }
+  Status MakeFolder(std::string_view path) override {
+    PutFolder(path);
+    return Success();
+  }
+  [[nodiscard]] Result<std::string> HostPath(std::string_view /*path*/) const override {
+    return Error{"Not on a host"};
+  }
+
+ private:
+  class MemorySource : public ByteSource {
+   public:
+    MemorySource(std::string bytes, bool fails) : bytes_(std::move(bytes)), fails_(fails) {
+      if (fails_) bytes_.resize(bytes_.size() / 2);
+    }
+    [[nodiscard]] bool Failed() const override { return fails_; }
+    std::size_t Read(char* buffer, std::size_t size) override {
+      const std::size_t count = std::min(size, bytes_.size() - at_);
+      std::memcpy(buffer, bytes_.data() + at_, count);
+      at_ += count;
+      return count;
+    }
+
+   private:
+    std::string bytes_;
+    bool fails_;
+    std::size_t at_ = 0;
+  };
+
+  // The full path in lower case, without a backslash at its end.
+  [[nodiscard]] std::string Key(std::string_view path) const {
+    const bool full = path.size() > 1 && path[1] == ':';
+    std::string key = FoldCase(full ? std::string(path) : current_ + '\\' + std::string(path));
+    while (key.ends_with('\\')) key.pop_back();
+    return key;
+  }
+
+  static void AddEntry(std::string_view key, std::string_view inside, bool is_folder,
+                       std::vector<FolderEntry>& entries) {
+    if (!key.starts_with(inside)) return;
+    const std::string_view name = key.substr(inside.size());
+    if (name.find('\\') != std::string_view::npos) return;
+    entries.push_back({.name = std::string(name), .is_folder = is_folder});
+  }
+
+  std::map<std::string, std::string> files_;
+  std::set<std::string> folders_;
+  std::string current_ = "c:";
+};
+
+}  // namespace zarvo
