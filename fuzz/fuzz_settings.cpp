@@ -1,0 +1,69 @@
+// Any bytes as a settings store: a load ends with values that the page can hold, a save keeps the
+// bytes of every other line, and what was saved is loaded again.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+#include "../tests/fakes/memory_files.h"
+#include "launch/option_layout.h"
+#include "launch/settings_store.h"
+#include "platform/text_lines.h"
+
+namespace {
+
+using namespace zarvo;
+
+constexpr std::string_view kKey = "Pac";
+constexpr std::string_view kQuotedKey = "\"Pac\"";
+
+// What a save must not touch; `blank` tells whether an empty line would hide an added record.
+std::string OtherLines(std::string_view store, bool& blank) {
+  std::string others;
+  while (!store.empty()) {
+    const std::string_view line = TakeLine(store);
+    blank = blank || WithoutLineEnd(line).empty();
+    if (!line.starts_with(kQuotedKey)) others += line;
+  }
+  return others;
+}
+
+void CheckValues(const EmulatorProfile& profile, const OptionValues& values) {
+  const auto options = OptionsOf(profile.emulator);
+  for (std::size_t i = 0; i < options.size(); ++i) {
+    const int number = values.values[i].number;
+    const bool unselected = options[i].kind == OptionKind::kCombo && number == -1;
+    if (!InRange(options[i], number) && !unselected) std::abort();
+  }
+}
+
+void CheckEmulator(const EmulatorProfile& profile, const std::string& store) {
+  MemoryFiles files;
+  AppState app;
+  app.ProgramFolder = R"(C:\Zarvo)";
+  const std::string path = app.CfgFolder() + "\\" + std::string(profile.settings_file);
+  files.Put(path, store);
+  OptionValues values = DefaultValues(profile, "C:\\R");
+  LoadSettings(files, app, profile, kKey, values);
+  CheckValues(profile, values);
+
+  const OptionValues defaults = DefaultValues(profile, "C:\\R");
+  if (!SaveSettings(files, app, profile, kKey, defaults)) std::abort();
+  bool blank = false;
+  std::string before = OtherLines(store, blank);
+  const std::string after = OtherLines(files.BytesOf(path), blank);
+  if (after != before && after != before + "\r\n") std::abort();
+  if (blank) return;
+  if (LoadSettings(files, app, profile, kKey, values) != LoadOutcome::kRecord ||
+      RecordLine(profile, kKey, values) != RecordLine(profile, kKey, defaults)) {
+    std::abort();
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string store(reinterpret_cast<const char*>(data), size);
+  CheckEmulator(ProfileOf(Emulator::kMame), store);
+  CheckEmulator(ProfileOf(Emulator::kRaine), store);
+  return 0;
+}
