@@ -26,7 +26,7 @@ class UnflushedWorld : public DosWorld {
   using DosWorld::DosWorld;
   Status ReplaceFile(std::string_view path, std::string_view temporary,
                      std::string_view bytes) override {
-    const Status written = WriteFile(temporary, bytes);
+    Status written = WriteFile(temporary, bytes);
     if (!written) return written;
     Ignore(DeleteFile(path));
     return RenameFile(temporary, path);
@@ -66,7 +66,7 @@ class Site {
       WriteHostFile(root_ / "Roms" / name, "");
     }
   }
-  void PutGames(const std::vector<std::string>& names) {
+  void PutGames(const std::vector<std::string>& names) const {
     WriteHostFile(DataFile(), DataFileText(names));
   }
   [[nodiscard]] std::string DataFile() const { return (root_ / "Zarvo/Data/Mame.dat").string(); }
@@ -91,7 +91,7 @@ class Site {
 
 std::size_t CountEntries(const std::string& host_folder) {
   DIR* const folder = opendir(host_folder.c_str());
-  Check(folder != nullptr, "list the rom folder");
+  if (folder == nullptr) return 0;
   std::size_t count = 0;
   while (readdir(folder) != nullptr) ++count;  // NOLINT(concurrency-mt-unsafe)
   closedir(folder);
