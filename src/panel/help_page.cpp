@@ -20,7 +20,7 @@ struct KeyLayout {
 };
 
 constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
-    {1695, "Game Details", 1, 180, 540, ""},
+    {1440, "Game Details", 1, 180, 570, ""},
     {1410, "Game Details", 2, 192, 600, ""},
     {0, "", 2, 216, 600, ""},
     {1215, "Game Details", 2, 210, 420, ""},
