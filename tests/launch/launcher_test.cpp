@@ -397,6 +397,14 @@ TEST_F(LauncherTest, TheParentInTheOwnFolderIsEnoughForMame) {
   EXPECT_THAT(Archives(), ElementsAre("sf.zip=own"));
 }
 
+TEST_F(LauncherTest, TheSharedRomsOfNeoGeoAreNoGame) {
+  Use(Emulator::kMame);
+  UseOwnFolder();
+  panel_.parent = "neogeo";
+  drive_.Write(own_ + "\\neogeo.zip", "own");
+  EXPECT_EQ(Start(), LaunchEnd::kNoRom);
+}
+
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
   struct Row {
     FileStep step;

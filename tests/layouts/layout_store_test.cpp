@@ -194,7 +194,7 @@ TEST_F(Layouts, AutoloadGivesTheChosenLayoutOrNothing) {
   EXPECT_THAT(store_.AutoloadRecords(), IsEmpty());
   for (const Row& row : rows) {
     drive_.Write(kIni, row.ini);
-    drive_.Write(kLayouts, kThree);
+    drive_.Write(kLayouts, std::string(kThree) + "[]\r\nMAIN,7,7\r\n-\r\n");
     EXPECT_EQ(store_.AutoloadRecords(), row.records) << row.what;
   }
   drive_.Write(kIni, rows[0].ini);
