@@ -9,6 +9,7 @@ from private_desktop import PATIENCE, Overdue, Place, wait_until
 TITLE = "Zarvo v0.1"
 TWIPS_PER_PIXEL = 15
 ROW = 225  # twips of an entry in a list
+DOUBLE_CLICK = 0.5  # seconds; two clicks at one place are two clicks if they are further apart
 
 PANEL_TITLES = {"Mame": "M.A.M.E.", "Callus": "CALLUS", "Raine": "R.A.I.N.E.",
                 "System16": "SYSTEM16", "M72": "M-72"}
@@ -55,6 +56,7 @@ class DrivenZarvo:
         self.wrapper = list(wrapper)
         self.process = None
         self.log = desktop.folder / "zarvo.log"
+        self.clicked = None  # the point of the click made last, and when
 
     def start(self):
         environment = self.desktop.environment | {
@@ -99,8 +101,13 @@ class DrivenZarvo:
                      for base, twips in zip((place.x, place.y), spot))
 
     def click(self, window, spot, times=1, button=1):
+        """Clicks so often at once; what was clicked before at that point counts for itself."""
+        point = self.point(window, spot)
+        if self.clicked and self.clicked[0] == point:
+            time.sleep(max(0, self.clicked[1] + DOUBLE_CLICK - time.monotonic()))
         press = ["click", "--repeat", times, "--delay", 40, button]
-        self.desktop.hands("mousemove", *self.point(window, spot), *press)
+        self.desktop.hands("mousemove", *point, *press)
+        self.clicked = point, time.monotonic()
 
     def hover(self, window, spot):
         self.desktop.hands("mousemove", *self.point(window, spot))

@@ -18,7 +18,7 @@ from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_v
 from dataclasses import dataclass
 from pathlib import Path
 
-PATIENCE = 15  # seconds for anything that is sure to come, also on a busy machine
+PATIENCE = 60  # seconds for anything that is sure to come, also on a busy machine
 GLANCE = 0.01  # seconds between two looks
 
 _VIEWABLE = 2
