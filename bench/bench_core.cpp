@@ -10,6 +10,7 @@
 
 #include "catalogue/game_list.h"
 #include "catalogue/scan.h"
+#include "launch/settings_store.h"
 #include "measure.h"
 #include "platform/dos_world.h"
 #include "synthetic.h"
@@ -71,6 +72,7 @@ class Site {
   }
   [[nodiscard]] std::string DataFile() const { return (root_ / "Zarvo/Data/Mame.dat").string(); }
   [[nodiscard]] std::string ScanFile() const { return (root_ / "Zarvo/cfg/Mame.scn").string(); }
+  [[nodiscard]] std::string StoreFile() const { return (root_ / "Zarvo/cfg/Mame.set").string(); }
   [[nodiscard]] std::string Roms() const { return (root_ / "Roms").string(); }
 
  private:
@@ -175,6 +177,29 @@ bool MeasureScan(Site& site, BarePass& pass, int games, bool flush) {
                   .measured = scan});
 }
 
+// One game's record in a store of all games, against copying the store and flushing the copy.
+bool MeasureSave(Site& site, BarePass& /*pass*/, const std::vector<std::string>& names) {
+  const OptionValues values = DefaultValues(site.mame, R"(C:\Emu\Mame\Roms)");
+  std::string store;
+  for (const std::string& name : names) store += RecordLine(site.mame, name, values) + "\r\n";
+  WriteHostFile(site.StoreFile(), store);
+  return Measure(
+      {.name = "save of one record",
+       .games = static_cast<int>(names.size()),
+       .target = 3,
+       .bare =
+           [&] {
+             const auto bytes = ReadAll(site.world, R"(C:\Zarvo\cfg\Mame.set)");
+             Check(bytes.ok(), "read the store");
+             BareReplace(site.StoreFile() + ".bare", *bytes, true);
+           },
+       .measured =
+           [&] {
+             Check(SaveSettings(site.world, site.app, site.mame, names.back(), values).ok(),
+                   "save a record");
+           }});
+}
+
 bool MeasureAll(Site& site, int games) {
   BarePass pass;
   const auto names = GameNames(games);
@@ -188,6 +213,7 @@ bool MeasureAll(Site& site, int games) {
                         "filter step, all stay");
   good &= MeasureScan(site, pass, games, true);
   good &= MeasureScan(site, pass, games, false);
+  good &= MeasureSave(site, pass, names);
   return good;
 }
 

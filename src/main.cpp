@@ -84,7 +84,8 @@ class Program {
             .show_layouts = [this] { ShowLayouts(); },
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
-            .end_program = [] { QApplication::quit(); }};
+            // Not quit(): that asks every window again, and none closes by being asked.
+            .end_program = [] { QApplication::exit(); }};
   }
 
   LayoutTools ToolsForLayouts() {

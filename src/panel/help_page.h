@@ -23,7 +23,7 @@ class HelpPage : public PictureBox {
  private:
   int BuildList(const EmulatorProfile& profile);
   void BuildKeys(int top, Emulator emulator);
-  void BuildRow(const KeyRow& row, const TwipRect& place, int key_width);
+  void BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator);
 };
 
 }  // namespace zarvo

@@ -181,8 +181,8 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
   Use(Emulator::kMame);
   drive_.Write(own_ + "\\sf2.zip", "own");
   std::filesystem::create_directory_symlink(drive_.Host(own_), drive_.root() / "Link");
-  for (const char* spelling : {"c:\\EMU\\mame\\ROMS", "C:\\Emu\\Mame\\roms\\", "C:/Emu/Mame/roms",
-                               "C:\\Emu\\Mame\\x\\..\\.\\roms", "C:\\Link"}) {
+  for (const char* spelling : {R"(c:\EMU\mame\ROMS)", R"(C:\Emu\Mame\roms\)", "C:/Emu/Mame/roms",
+                               R"(C:\Emu\Mame\x\..\.\roms)", "C:\\Link"}) {
     panel_.options.rom_folder = spelling;
     EXPECT_EQ(Start(), LaunchEnd::kRan) << spelling;
     EXPECT_THAT(archives_, ElementsAre("sf2.zip=own")) << spelling;
@@ -397,6 +397,14 @@ TEST_F(LauncherTest, TheParentInTheOwnFolderIsEnoughForMame) {
   EXPECT_THAT(Archives(), ElementsAre("sf.zip=own"));
 }
 
+TEST_F(LauncherTest, TheSharedRomsOfNeoGeoAreNoGame) {
+  Use(Emulator::kMame);
+  UseOwnFolder();
+  panel_.parent = "neogeo";
+  drive_.Write(own_ + "\\neogeo.zip", "own");
+  EXPECT_EQ(Start(), LaunchEnd::kNoRom);
+}
+
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
   struct Row {
     FileStep step;
@@ -404,9 +412,9 @@ TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
     std::string_view message;
   };
   const std::vector<Row> rows = {
-      {FileStep::kWrite, "lancia.bat", "C:\\Emu\\Mame\\lancia.bat: No space left on device"},
+      {FileStep::kWrite, "lancia.bat", R"(C:\Emu\Mame\lancia.bat: No space left on device)"},
       {FileStep::kChangeFolder, "Mame", "C:\\Emu\\Mame: No space left on device"},
-      {FileStep::kCopy, "sf2.zip", "C:\\Emu\\Mame\\roms\\sf2.zip: No space left on device"}};
+      {FileStep::kCopy, "sf2.zip", R"(C:\Emu\Mame\roms\sf2.zip: No space left on device)"}};
   for (const Row& row : rows) {
     Use(Emulator::kMame);
     drive_.Write("C:\\Mine\\sf2.zip", "mine");
