@@ -13,8 +13,8 @@
 #include "toolkit/list_access.h"
 #include "toolkit/picture.h"
 
-// The drawings lie in a library, which the linker would leave out; this call stands outside of every
-// namespace, as the resource system asks.
+// The drawings lie in a library, which the linker would leave out; this call stands outside of
+// every namespace, as the resource system asks.
 static void LinkPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace zarvo {
