@@ -23,6 +23,15 @@ void PushButton::SetDefault(bool is_default) {
   update();
 }
 
+void PushButton::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter) {
+    QPushButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
+}
+
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor face = (is_default_ ? kSlate : kBluegrey).ToQt();
