@@ -74,6 +74,7 @@ int HelpPage::BuildList(const EmulatorProfile& profile) {
   lstHelp->SetName(ControlName(profile, "lstHelp"));
   lstHelp->SetAccessibleName("Game details");
   lstHelp->SetPlace({kMargin, 240, kPageWidth - 2 * kMargin, layout.list_height});
+  if (profile.emulator == Emulator::kSystem16) SetLines(System16Help());
   return 240 + layout.list_height + 45;
 }
 
@@ -110,7 +111,7 @@ void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, Emulator emula
   if (third_width > 0) cell(place.width - third_width, third_width, row.third);
 }
 
-void HelpPage::SetLines(const std::vector<std::string>& lines) {
+void HelpPage::SetLines(const std::vector<std::string>& lines) const {
   NameList items;
   for (const std::string& line : lines) items.Append(line);
   lstHelp->SetItems(std::move(items));

@@ -10,9 +10,9 @@ from driven_zarvo import FAVOURITES, GAMES, entry
 LINES = {
     "Mame": (" brass -ignorecfg -soundcard 1", " brassj -ignorecfg -soundcard 1"),
     "Callus": (" irongate -resv 640 480 -res 640 480 -frameskip AUTO -sndrate 22050"
-               " -setinput 1 KEY1 -setinput 2 KEY1 -setinput 3 KEY1 -setinput",
+               " -setinput 1 KEY1 -setinput 2 KEY1 -setinput 3 KEY1 -setinp",
                " jade -resv 640 480 -res 640 480 -frameskip AUTO -sndrate 22050"
-               " -setinput 1 KEY1 -setinput 2 KEY1 -setinput 3 KEY1 -setinput 4 K"),
+               " -setinput 1 KEY1 -setinput 2 KEY1 -setinput 3 KEY1 -setinput 4"),
     "Raine": (" -game lantern -nogui -screenmode 0 -screenx 320 -screeny 200 -joystick -1",
               " -game moon -nogui -screenmode 0 -screenx 320 -screeny 200 -joystick -1"),
     "System16": (" orbit -RX 320 -RY 240 -SCANLINES -NOTITLE -SOUNDCARD 0 -R 22050 -JOYTYPE 3",
