@@ -41,9 +41,9 @@ TEST(TabOrderTest, TabGoesThroughThePartsAndOnAPartRowByRow) {
   // Made in the wrong order; the middles of a row differ a little.
   Button(page, "below", {0, 40, 50, 20});
   Button(page, "right", {100, 3, 50, 20});
+  Button(page, "beside the frame", {100, 100, 50, 20});
   auto* const frame = new PictureBox(page);
   frame->setGeometry(0, 80, 90, 60);
-  Button(page, "beside the frame", {100, 100, 50, 20});
   Button(frame, "second in the frame", {0, 30, 50, 20});
   Button(frame, "first in the frame", {0, 0, 50, 20});
   Button(page, "left", {0, 0, 50, 26});
