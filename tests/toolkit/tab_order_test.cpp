@@ -40,7 +40,7 @@ TEST(TabOrderTest, TabGoesThroughThePartsAndOnAPartRowByRow) {
   page->setGeometry(100, 0, 200, 200);
   // Made in the wrong order; the middles of a row differ a little.
   Button(page, "below", {0, 40, 50, 20});
-  Button(page, "right", {100, 3, 50, 20});
+  Button(page, "right", {100, 0, 50, 20});
   Button(page, "beside the frame", {100, 100, 50, 20});
   auto* const frame = new PictureBox(page);
   frame->setGeometry(0, 80, 90, 60);
