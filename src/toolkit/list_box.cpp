@@ -272,6 +272,7 @@ void ListBox::wheelEvent(QWheelEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   swallow_ = false;
+  if (event->isAutoRepeat() && KeyCodeOf(*event) == key::kEnter) return;  // held: it starts once
   KeyDown.Raise({.code = KeyCodeOf(*event), .shift = ShiftStateOf(*event)});
   if (swallow_) {
     event->accept();
