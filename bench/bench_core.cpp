@@ -10,6 +10,7 @@
 
 #include "catalogue/game_list.h"
 #include "catalogue/scan.h"
+#include "launch/settings_store.h"
 #include "measure.h"
 #include "platform/dos_world.h"
 #include "synthetic.h"
@@ -26,7 +27,7 @@ class UnflushedWorld : public DosWorld {
   using DosWorld::DosWorld;
   Status ReplaceFile(std::string_view path, std::string_view temporary,
                      std::string_view bytes) override {
-    const Status written = WriteFile(temporary, bytes);
+    Status written = WriteFile(temporary, bytes);
     if (!written) return written;
     Ignore(DeleteFile(path));
     return RenameFile(temporary, path);
@@ -66,11 +67,12 @@ class Site {
       WriteHostFile(root_ / "Roms" / name, "");
     }
   }
-  void PutGames(const std::vector<std::string>& names) {
+  void PutGames(const std::vector<std::string>& names) const {
     WriteHostFile(DataFile(), DataFileText(names));
   }
   [[nodiscard]] std::string DataFile() const { return (root_ / "Zarvo/Data/Mame.dat").string(); }
   [[nodiscard]] std::string ScanFile() const { return (root_ / "Zarvo/cfg/Mame.scn").string(); }
+  [[nodiscard]] std::string StoreFile() const { return (root_ / "Zarvo/cfg/Mame.set").string(); }
   [[nodiscard]] std::string Roms() const { return (root_ / "Roms").string(); }
 
  private:
@@ -91,7 +93,7 @@ class Site {
 
 std::size_t CountEntries(const std::string& host_folder) {
   DIR* const folder = opendir(host_folder.c_str());
-  Check(folder != nullptr, "list the rom folder");
+  if (folder == nullptr) return 0;
   std::size_t count = 0;
   while (readdir(folder) != nullptr) ++count;  // NOLINT(concurrency-mt-unsafe)
   closedir(folder);
@@ -175,6 +177,29 @@ bool MeasureScan(Site& site, BarePass& pass, int games, bool flush) {
                   .measured = scan});
 }
 
+// One game's record in a store of all games, against copying the store and flushing the copy.
+bool MeasureSave(Site& site, BarePass& /*pass*/, const std::vector<std::string>& names) {
+  const OptionValues values = DefaultValues(site.mame, R"(C:\Emu\Mame\Roms)");
+  std::string store;
+  for (const std::string& name : names) store += RecordLine(site.mame, name, values) + "\r\n";
+  WriteHostFile(site.StoreFile(), store);
+  return Measure(
+      {.name = "save of one record",
+       .games = static_cast<int>(names.size()),
+       .target = 3,
+       .bare =
+           [&] {
+             const auto bytes = ReadAll(site.world, R"(C:\Zarvo\cfg\Mame.set)");
+             Check(bytes.ok(), "read the store");
+             BareReplace(site.StoreFile() + ".bare", *bytes, true);
+           },
+       .measured =
+           [&] {
+             Check(SaveSettings(site.world, site.app, site.mame, names.back(), values).ok(),
+                   "save a record");
+           }});
+}
+
 bool MeasureAll(Site& site, int games) {
   BarePass pass;
   const auto names = GameNames(games);
@@ -188,6 +213,7 @@ bool MeasureAll(Site& site, int games) {
                         "filter step, all stay");
   good &= MeasureScan(site, pass, games, true);
   good &= MeasureScan(site, pass, games, false);
+  good &= MeasureSave(site, pass, names);
   return good;
 }
 

@@ -27,7 +27,7 @@ double MillisecondsOf(const std::function<void()>& work) {
 // The value below which `share` of the values lie.
 double Quantile(std::vector<double> values, double share) {
   std::sort(values.begin(), values.end());
-  return values[static_cast<std::size_t>(share * static_cast<double>(values.size() - 1) + 0.5)];
+  return values[static_cast<std::size_t>(share * static_cast<double>(values.size() - 1))];
 }
 
 }  // namespace

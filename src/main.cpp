@@ -1,6 +1,7 @@
 // Zarvo: wires the DOS world, the windows and the panels together.
 #include <QApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -30,6 +31,35 @@ ClockTime LocalTime() {
           .second = now.time().second()};
 }
 
+// The question about a command line that is longer than DOS hands on.
+std::string LostOptions(const RunPlan& plan) {
+  return "The options of this game are " + std::to_string(plan.lost_characters) +
+         " characters too long for DOS, so that the emulator won't see the last ones.\r"
+         "Turn some options off, or start the game all the same?";
+}
+
+// What the player should know of a run that has ended. An error level counts only where the program
+// ended at once: many programs end with one after a good game.
+Status Judge(const RunOutcome& outcome, qint64 milliseconds) {
+  constexpr qint64 kAtOnce = 5000;
+  if (!outcome.started) {
+    return Error{
+        "The emulator could not be started. Please check that its program, or DOSBox, can "
+        "be run."};
+  }
+  if (outcome.crashed) {
+    return Error{
+        "The emulator was broken off from outside, or it crashed. If that happens again, "
+        "please try other options in section SETTINGS."};
+  }
+  if (milliseconds < kAtOnce && (outcome.program_failed || outcome.exit_code != 0)) {
+    return Error{
+        "The emulator ended at once with an error. Please check the game's options and its "
+        "rom, or start the emulator by hand to read what it says."};
+  }
+  return Success();
+}
+
 // The whole program: its state, and the windows that exist once.
 class Program {
  public:
@@ -54,7 +84,11 @@ class Program {
             .show_layouts = [this] { ShowLayouts(); },
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
+<<<<<<< HEAD
+            // Not quit(): that asks every window again, and none closes by being asked.
+=======
             // Not quit(), which would first ask every open panel to close.
+>>>>>>> wt-paneltests
             .end_program = [] { QApplication::exit(); }};
   }
 
@@ -67,13 +101,19 @@ class Program {
     layouts_->ShowModeless();
   }
 
+  // Runs the batch file of a launch; an error is what the player should know of the run.
   Status RunAndWait() {
     const auto plan = PlanRun(files_, kBatchFile, ThisHost());
     if (!plan.ok()) return plan.error();
+    if (plan->lost_characters > 0 && !boxes_.Ask(app_.Title(), LostOptions(*plan))) {
+      return Success();
+    }
+    QElapsedTimer clock;
+    clock.start();
     WaitingRunner runner;
     const auto outcome = CarryOut(*plan, runner);
     if (!outcome.ok()) return outcome.error();
-    return Success();
+    return Judge(*outcome, clock.elapsed());
   }
 
   AppState app_;

@@ -16,15 +16,40 @@ struct KeyLayout {
   int columns;
   int row_height;
   int key_width;
-  std::string_view heading;  // over the keys
+  int text_size;  // pixels
 };
 
 constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
-    {1695, "Game Details", 1, 180, 540, ""},
-    {1410, "Game Details", 2, 192, 600, ""},
-    {0, "", 2, 216, 600, ""},
-    {1215, "Game Details", 2, 210, 420, ""},
-    {0, "", 1, 195, 1380, ""},
+    {.list_height = 1440,
+     .title = "Game Details",
+     .columns = 1,
+     .row_height = 180,
+     .key_width = 570,
+     .text_size = 11},
+    {.list_height = 1410,
+     .title = "Game Details",
+     .columns = 2,
+     .row_height = 192,
+     .key_width = 495,
+     .text_size = 10},
+    {.list_height = 0,
+     .title = "",
+     .columns = 2,
+     .row_height = 216,
+     .key_width = 495,
+     .text_size = 10},
+    {.list_height = 1500,
+     .title = "Game Details",
+     .columns = 2,
+     .row_height = 210,
+     .key_width = 420,
+     .text_size = 10},
+    {.list_height = 0,
+     .title = "",
+     .columns = 1,
+     .row_height = 195,
+     .key_width = 1380,
+     .text_size = 11},
 }};
 
 constexpr int kMargin = 75;
@@ -38,6 +63,7 @@ HelpPage::HelpPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox
   SetName(ControlName(profile, "picHelp"));
   SetBackColor(kCard);
   BuildKeys(BuildList(profile), profile.emulator);
+  if (profile.emulator == Emulator::kSystem16) SetLines(System16Help());
 }
 
 int HelpPage::BuildList(const EmulatorProfile& profile) {
@@ -62,29 +88,30 @@ void HelpPage::BuildKeys(int top, Emulator emulator) {
     const TwipRect place = {kMargin + (i / in_column) * column_width,
                             top + (i % in_column) * layout.row_height, column_width,
                             layout.row_height};
-    BuildRow(rows[static_cast<std::size_t>(i)], place, layout.key_width);
+    BuildRow(rows[static_cast<std::size_t>(i)], place, emulator);
   }
 }
 
-void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, int key_width) {
+void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator) {
+  const KeyLayout& layout = kLayouts[static_cast<std::size_t>(emulator)];
+  const auto cell = [&](int left, int width, std::string_view text) {
+    Label* const label =
+        MakeCaption(this, {place.left + left, place.top, width, place.height}, text);
+    label->SetTextSize(layout.text_size);
+    return label;
+  };
   if (IsHeading(row)) {
-    MakeCaption(this, place, row.text)->SetBold(true);
+    cell(0, place.width, row.text)->SetBold(true);
     return;
   }
-  MakeCaption(this, {place.left, place.top, key_width, place.height}, row.key)->SetBold(true);
+  const int key_width = layout.key_width;
   const int third_width = row.third.empty() ? 0 : 1050;
-  MakeCaption(
-      this,
-      {place.left + key_width, place.top, place.width - key_width - third_width, place.height},
-      row.text);
-  if (third_width > 0) {
-    MakeCaption(this,
-                {place.left + place.width - third_width, place.top, third_width, place.height},
-                row.third);
-  }
+  cell(0, key_width, row.key)->SetBold(true);
+  cell(key_width, place.width - key_width - third_width, row.text);
+  if (third_width > 0) cell(place.width - third_width, third_width, row.third);
 }
 
-void HelpPage::SetLines(const std::vector<std::string>& lines) {
+void HelpPage::SetLines(const std::vector<std::string>& lines) const {
   NameList items;
   for (const std::string& line : lines) items.Append(line);
   lstHelp->SetItems(std::move(items));

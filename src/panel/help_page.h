@@ -16,14 +16,14 @@ class HelpPage : public PictureBox {
   HelpPage(QWidget* parent, const EmulatorProfile& profile);
 
   // Replaces the content of the list.
-  void SetLines(const std::vector<std::string>& lines);
+  void SetLines(const std::vector<std::string>& lines) const;
 
   ListBox* lstHelp = nullptr;  // nullptr: this panel has keys alone
 
  private:
   int BuildList(const EmulatorProfile& profile);
   void BuildKeys(int top, Emulator emulator);
-  void BuildRow(const KeyRow& row, const TwipRect& place, int key_width);
+  void BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator);
 };
 
 }  // namespace zarvo

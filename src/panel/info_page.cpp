@@ -24,8 +24,8 @@ constexpr int kGeneralTop = 240;
 constexpr int kEmulationTop = 1230;
 constexpr int kChipsTop = 2730;
 
-constexpr int kWide = 690;
-constexpr int kNarrow = 600;
+constexpr int kWide = 765;
+constexpr int kNarrow = 705;
 
 constexpr std::array<RowPlace, kFieldCount> kRows = {{
     {Field::kName, {150, kGeneralTop, 3555, kRow}, kWide},

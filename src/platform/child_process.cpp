@@ -41,7 +41,8 @@ constexpr std::array<Terminal, 12> kTerminals = {{
 
 // What a batch line says.
 struct BatchLine {
-  std::string program;  // a DOS path that exists
+  std::string program;   // a DOS path that exists
+  std::size_t tail = 0;  // characters behind the program
   std::vector<std::string> arguments;
 };
 
@@ -68,7 +69,7 @@ Result<BatchLine> ReadBatchLine(const DosFiles& files, std::string_view batch) {
        end = line.rfind(' ', end - 1)) {
     const std::string_view program = line.substr(0, end);
     if (!program.ends_with(' ') && files.FileExists(program)) {
-      return BatchLine{std::string(program), SplitAtBlanks(line.substr(end))};
+      return BatchLine{std::string(program), line.size() - end, SplitAtBlanks(line.substr(end))};
     }
   }
   return Error{"There is no program " + Quoted(line.substr(0, line.find(' '))) + "."};
@@ -116,7 +117,9 @@ Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line, const H
   for (const std::string& argument : line.arguments) {
     command.arguments.push_back(ToUtf8(argument));
   }
-  return RunPlan{InTerminal(std::move(command), host), {}, {}};
+  RunPlan plan;
+  plan.command = InTerminal(std::move(command), host);
+  return plan;
 }
 
 // The sentence for the first component that DOS can't name, or success.
@@ -139,6 +142,9 @@ std::string NewConfigurationPath() {
   return JoinHostPath(has_session ? session : "/tmp", "zarvo-" + std::to_string(number) + ".conf");
 }
 
+// The file in the emulator's folder that tells of an error level.
+constexpr std::string_view kFailureMark = "ZARVO.ERR";
+
 // DOSBox runs these lines behind the player's own. The drive is the folder that DOSBox is started
 // in: so no host path, whatever characters it holds, stands where DOSBox would take it apart.
 std::string DosBoxConfiguration(const std::string& dos_folder, std::string_view batch) {
@@ -149,6 +155,11 @@ std::string DosBoxConfiguration(const std::string& dos_folder, std::string_view 
   text += drive + ":\n";
   text += "cd " + dos_folder.substr(2) + "\n";
   text += "call " + std::string(batch) + "\n";
+  // An error level is known in here alone.
+  text += "if errorlevel 1 goto failed\n";
+  text += "exit\n";
+  text += ":failed\n";
+  text += "echo failed>" + JoinPath(dos_folder, kFailureMark) + "\n";
   text += "exit\n";
   return text;
 }
@@ -178,6 +189,10 @@ Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, std::st
   RunPlan plan;
   plan.configuration_path = NewConfigurationPath();
   plan.configuration = DosBoxConfiguration(folder, batch);
+  const auto mark = files.HostPath(kFailureMark);
+  if (!mark) return mark.error();
+  plan.failure_mark = *mark;
+  plan.lost_characters = line.tail > kLongestTail ? line.tail - kLongestTail : 0;
   plan.command = {*dosbox, {"-userconf", "-conf", plan.configuration_path}, *drive_folder};
   return plan;
 }
@@ -234,7 +249,11 @@ Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner) {
     return Error{"The configuration of DOSBox can't be written: " + written.error().message};
   }
   const TemporaryFile configuration(plan.configuration_path);
-  return runner.Run(plan.command);
+  unlink(plan.failure_mark.c_str());
+  const TemporaryFile failure_mark(plan.failure_mark);
+  RunOutcome outcome = runner.Run(plan.command);
+  outcome.program_failed = access(plan.failure_mark.c_str(), F_OK) == 0;
+  return outcome;
 }
 
 }  // namespace zarvo

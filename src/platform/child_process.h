@@ -24,7 +24,12 @@ struct RunOutcome {
   bool started = false;
   bool crashed = false;
   int exit_code = 0;
+  // The DOS program ended with an error level. Told by the run of the plan, not by the runner.
+  bool program_failed = false;
 };
+
+// DOS hands a program no more of its command line than this many characters.
+inline constexpr std::size_t kLongestTail = 126;
 
 // Runs one host command and returns when it has ended. A seam: the windows run it while they keep
 // painting, tests record it.
@@ -52,6 +57,11 @@ struct RunPlan {
   // and to delete after it; both empty for a native program.
   std::string configuration;
   std::string configuration_path;
+  // Host path of a file that the run in DOSBox leaves behind if the program ended with an error
+  // level; empty for a native program.
+  std::string failure_mark{};
+  // Characters of the command line that DOS won't hand to the program.
+  std::size_t lost_characters = 0;
 };
 
 // Plans the run of the batch file `batch` in the current folder of `files`. Its one line names the
@@ -63,7 +73,8 @@ struct RunPlan {
 // component longer than 8.3, a blank), no such program.
 Result<RunPlan> PlanRun(const DosFiles& files, std::string_view batch, const HostPrograms& host);
 
-// Carries a plan out: writes its configuration, runs it, deletes the configuration.
+// Carries a plan out: writes its configuration, runs it, deletes the configuration and the mark of
+// a failure.
 Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner);
 
 }  // namespace zarvo

@@ -70,7 +70,7 @@ class MainWindow : public Window, public MainPlace {
   Label* Text(const TwipRect& place, std::string_view caption, Colour colour);
   Label* Command(const TwipRect& place, std::string_view caption, std::string_view name);
   void Wire();
-  void WireCommand(Label* command, Label* neighbour, std::function<void()> action);
+  static void WireCommand(Label* command, Label* neighbour, std::function<void()> action);
   void WireSelector(const EmulatorProfile& profile);
 
   static void ResetCommand(Label* command);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "shell/main_window.h"
+#include "shell/ticker.h"
 
 namespace zarvo {
 namespace {
@@ -112,10 +113,13 @@ void MainWindow::BuildHead() {
   lblVersion = Text({2520, 90, 720, 180}, "", kWhite);
   lblVersion->SetName("lblVersion");
   lblVersion->SetAlign(TextAlign::kRight);
-  lblMiscText = Text({750, 840, 2055, 210}, TickerLines().front(), kPeriwinkle);
+  lblMiscText = new Ticker(this);
   lblMiscText->SetName("lblMiscText");
+  lblMiscText->SetCaption(TickerLines().front());
+  lblMiscText->SetForeColor(kPeriwinkle);
   lblMiscText->SetAlign(TextAlign::kCentre);
-  lblMiscText->SetTextSize(9);
+  lblMiscText->SetTextSize(kNameSize);
+  lblMiscText->SetPlace({750, 840, 2055, 210});
   lblExit = Command({210, 360, 480, 195}, "Exit", "lblExit");
   lblLays = Command({2940, 360, 420, 195}, "Lays", "lblLays");
   lblAbout = Command({2910, 600, 480, 195}, "About", "lblAbout");

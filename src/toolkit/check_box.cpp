@@ -80,7 +80,12 @@ OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this
   });
 }
 
-void OptionButton::SetValue(bool value) { setChecked(value); }
+void OptionButton::SetValue(bool value) {
+  // A button that excludes the others can't be switched off otherwise.
+  setAutoExclusive(value);
+  setChecked(value);
+  setAutoExclusive(true);
+}
 
 void OptionButton::SetCaption(std::string_view caption) {
   caption_ = caption;

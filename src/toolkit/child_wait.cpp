@@ -16,7 +16,10 @@ int running = 0;
 // Drops what the player does while a child runs; nothing of it is delivered later.
 class Deaf : public QObject {
  public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // The toolkit keeps count of the buttons that are down at its windows; only what it makes of
+    // their events for the widgets is dropped.
+    if (watched->isWindowType()) return false;
     switch (event->type()) {
       case QEvent::Close:
       case QEvent::Quit:
@@ -88,6 +91,7 @@ RunOutcome WaitingRunner::Run(const HostCommand& command) {
   child.start();
   if (child.state() != QProcess::NotRunning) loop.exec();
   // What came in while the child ended is still on its way: it belongs to the run.
+  QGuiApplication::sync();
   QCoreApplication::processEvents();
   --running;
   qApp->removeEventFilter(&deaf);

@@ -18,6 +18,8 @@ constexpr int kArrowWidth = 13;  // pixels
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), Control(this) {
   setMaxVisibleItems(20);
+  // The wheel over a box that hasn't the focus mustn't give it the focus and then turn it.
+  setFocusPolicy(Qt::StrongFocus);
   QObject::connect(this, &QComboBox::currentIndexChanged, this, [this] { Click.Raise(); });
 }
 

@@ -56,7 +56,8 @@ class Control::Watcher : public QObject {
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() == QEvent::ToolTip) return ShowToolTip(static_cast<QHelpEvent&>(*event));
-    if (ChildIsRunning() || !control_.Enabled() || watch_ == Watch::kToolTip) return false;
+    if (ChildIsRunning() || !control_.widget_->isEnabled() || watch_ == Watch::kToolTip)
+      return false;
     switch (event->type()) {
       case QEvent::MouseButtonPress:
         control_.MouseDown.Raise(MouseArgsOf(static_cast<QMouseEvent&>(*event)));

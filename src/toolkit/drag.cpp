@@ -59,7 +59,7 @@ void AcceptDrops(QWidget* widget, DropTarget* target) {
 
 void StartDrag(ListBox* source, const Picture& icon) {
   if (Current().source != nullptr) End();
-  Current().source = source;
+  Current() = {.source = source, .over = nullptr};
   QApplication::setOverrideCursor(CursorOf(icon));
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "toolkit/drawing.h"
+#include "toolkit/window.h"
 
 namespace zarvo {
 
@@ -27,11 +28,17 @@ void ImageBox::paintEvent(QPaintEvent* /*event*/) {
   if (hasFocus()) DrawFocus(painter, rect());
 }
 
-void ImageBox::mousePressEvent(QMouseEvent* event) { pressed_ = event->button() == Qt::LeftButton; }
+void ImageBox::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = true;
+  modals_at_press_ = ModalCount();
+}
 
 void ImageBox::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  const bool click = pressed_ && rect().contains(event->position().toPoint());
+  // A press that a box or a move of the window has taken over isn't a click any more.
+  const bool click =
+      pressed_ && modals_at_press_ == ModalCount() && rect().contains(event->position().toPoint());
   pressed_ = false;
   if (click) Click.Raise();
 }

@@ -31,6 +31,7 @@ class ImageBox : public QWidget, public Control {
   Picture picture_;
   bool pressable_ = false;
   bool pressed_ = false;
+  int modals_at_press_ = 0;
 };
 
 }  // namespace zarvo

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "toolkit/drawing.h"
+#include "toolkit/window.h"
 
 namespace zarvo {
 
@@ -95,12 +96,15 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
 void Label::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   pressed_ = true;
+  modals_at_press_ = ModalCount();
   update();
 }
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  const bool click = pressed_ && rect().contains(event->position().toPoint());
+  // A press that a box or a move of the window has taken over isn't a click any more.
+  const bool click =
+      pressed_ && modals_at_press_ == ModalCount() && rect().contains(event->position().toPoint());
   pressed_ = false;
   update();
   if (click) Click.Raise();

@@ -58,6 +58,7 @@ class Label : public QWidget, public Control {
   bool pressable_ = false;
   bool raised_ = false;
   bool pressed_ = false;
+  int modals_at_press_ = 0;
   bool accessible_is_caption_ = false;
 };
 

@@ -18,12 +18,19 @@
 namespace zarvo {
 namespace {
 
-constexpr int kRowHeight = 15;         // pixels
-constexpr qint64 kTypingPause = 1000;  // milliseconds after which typing starts a new word
+constexpr int kRowHeight = 15;          // pixels
+constexpr quint64 kTypingPause = 1000;  // milliseconds after which typing starts a new word
 
 constexpr Colour kRow{0x33190F};
 constexpr Colour kOtherRow{0x3D2216};
 constexpr Colour kText{0xF0DDD2};
+
+// A key that puts down a character, without Ctrl or Alt.
+bool IsTyping(const QKeyEvent& event) {
+  const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  return !event.modifiers().testAnyFlags(commands) && !event.text().isEmpty() &&
+         event.text().front().isPrint();
+}
 
 }  // namespace
 
@@ -157,8 +164,11 @@ void ListBox::UpdateScrollBars() {
     verticalScrollBar()->setPageStep(rows);
     horizontalScrollBar()->setRange(0, 0);
   } else {
+    // The bar itself takes a row; a list that fits without it gets none.
+    const int rows_without_bar = std::max(1, height() / kRowHeight);
+    const bool fits = ListCount() <= rows_without_bar * columns_;
     const int columns = (ListCount() + rows - 1) / rows;
-    horizontalScrollBar()->setRange(0, std::max(0, columns - columns_));
+    horizontalScrollBar()->setRange(0, fits ? 0 : std::max(0, columns - columns_));
     horizontalScrollBar()->setPageStep(columns_);
     verticalScrollBar()->setRange(0, 0);
   }
@@ -214,6 +224,11 @@ void ListBox::PaintEntry(QPainter& painter, int index, const QRect& rect) {
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
+  if (IsDragging(this)) {
+    CancelDrag(this);
+    // A second button breaks the drag off; the only one means that the release got lost.
+    if (event->buttons() != event->button()) return;
+  }
   const MouseArgs args = MouseArgsOf(*event);
   if (event->button() == Qt::RightButton) {
     MouseDown.Raise(args);
@@ -227,6 +242,7 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
 }
 
 void ListBox::mouseMoveEvent(QMouseEvent* event) {
+  if (IsDragging(this) && event->buttons() == Qt::NoButton) CancelDrag(this);
   if (IsDragging(this)) {
     MoveDrag(event->globalPosition().toPoint());
   } else {
@@ -265,8 +281,8 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     MenuKey.Raise(viewport()->mapToGlobal(EntryRect(std::max(index_, 0)).bottomLeft()));
   } else if (MoveByKey(event->key())) {
     event->accept();
-  } else if (!event->text().isEmpty() && event->text().front().isPrint()) {
-    Search(event->text());
+  } else if (IsTyping(*event)) {
+    Search(*event);
   } else {
     QAbstractScrollArea::keyPressEvent(event);
     event->ignore();
@@ -275,8 +291,7 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 
 bool ListBox::MoveByKey(int key) {
   if (ListCount() == 0) return false;
-  const int page = columns_ == 1 ? RowsPerPage() - 1 : columns_ * RowsPerPage();
-  const int column = columns_ == 1 ? 1 : RowsPerPage();
+  const int page = columns_ == 1 ? std::max(1, RowsPerPage() - 1) : columns_ * RowsPerPage();
   int target = index_;
   switch (key) {
     case Qt::Key_Up:
@@ -286,10 +301,10 @@ bool ListBox::MoveByKey(int key) {
       target = index_ + 1;
       break;
     case Qt::Key_Left:
-      target = index_ - column;
+      target = StepSideways(-1);
       break;
     case Qt::Key_Right:
-      target = index_ + column;
+      target = StepSideways(1);
       break;
     case Qt::Key_PageUp:
       target = index_ - page;
@@ -310,11 +325,21 @@ bool ListBox::MoveByKey(int key) {
   return true;
 }
 
+// The entry beside the selected one, which stays where there is none; the last column may be a
+// short one. In one column, the next entry.
+int ListBox::StepSideways(int columns) const {
+  const int rows = RowsPerPage();
+  if (columns_ == 1 || index_ < 0) return index_ + columns;
+  const int column = index_ / rows + columns;
+  if (column < 0 || column > (ListCount() - 1) / rows) return index_;
+  return index_ + columns * rows;
+}
+
 // Typing finds the next entry that begins so; the same letter again steps on.
-void ListBox::Search(const QString& typed) {
-  if (!typed_at_.isValid() || typed_at_.elapsed() > kTypingPause) typed_.clear();
-  typed_at_.start();
-  const std::string letter = FromQt(typed);
+void ListBox::Search(const QKeyEvent& event) {
+  if (event.timestamp() - typed_at_ > kTypingPause) typed_.clear();
+  typed_at_ = event.timestamp();
+  const std::string letter = FromQt(event.text());
   const bool repeated = !typed_.empty() && EqualNoCase(typed_, letter);
   if (!repeated) typed_ += letter;
   const int step = typed_.size() == letter.size() ? 1 : 0;

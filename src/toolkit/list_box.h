@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QAbstractScrollArea>
-#include <QElapsedTimer>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -84,7 +83,8 @@ class ListBox : public QAbstractScrollArea, public Control {
   void Show(int index);
   void Choose(int index);
   bool MoveByKey(int key);
-  void Search(const QString& typed);
+  void Search(const QKeyEvent& event);
+  [[nodiscard]] int StepSideways(int columns) const;
   [[nodiscard]] int RowsPerPage() const;
   [[nodiscard]] int ColumnWidth() const;
   void PaintEntry(QPainter& painter, int index, const QRect& rect);
@@ -95,7 +95,7 @@ class ListBox : public QAbstractScrollArea, public Control {
   bool sorted_ = false;
   bool swallow_ = false;
   std::string typed_;
-  QElapsedTimer typed_at_;
+  quint64 typed_at_ = 0;  // milliseconds, as the events tell
 };
 
 // A control over which a drag is reported and on which it can be dropped.

@@ -8,7 +8,8 @@
 namespace zarvo {
 
 PushButton::PushButton(QWidget* parent) : QPushButton(parent), Control(this) {
-  setAutoDefault(false);
+  // Enter presses the button that has the focus, whichever the window's default is.
+  setAutoDefault(true);
   QObject::connect(this, &QPushButton::clicked, this, [this] { Click.Raise(); });
 }
 
@@ -20,6 +21,15 @@ void PushButton::SetCaption(std::string_view caption) {
 void PushButton::SetDefault(bool is_default) {
   is_default_ = is_default;
   update();
+}
+
+void PushButton::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter) {
+    QPushButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
 }
 
 void PushButton::paintEvent(QPaintEvent* /*event*/) {

@@ -18,6 +18,8 @@ class PushButton : public QPushButton, public Control {
   Event<> Click;
 
  protected:
+  // Enter presses the button that has the focus, as Space does.
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -13,8 +13,8 @@
 #include "toolkit/list_access.h"
 #include "toolkit/picture.h"
 
-// The drawings lie in a library, which the linker would leave out; this call stands outside of every
-// namespace, as the resource system asks.
+// The drawings lie in a library, which the linker would leave out; this call stands outside of
+// every namespace, as the resource system asks.
 static void LinkPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace zarvo {
@@ -194,7 +194,7 @@ void PrepareApplication() {
   }
 }
 
-void DressUp(QApplication& application) {
+void DressUp(QApplication& /*application*/) {
   LinkPictures();
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
@@ -203,7 +203,7 @@ void DressUp(QApplication& application) {
   QApplication::setPalette(CabinetPalette());
   QApplication::setFont(font);
   QGuiApplication::setWindowIcon(AppIcon());
-  application.setApplicationName(QStringLiteral("zarvo"));
+  QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
 }
 

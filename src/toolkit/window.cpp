@@ -33,8 +33,11 @@ class Mover : public QObject {
     if (event->type() == QEvent::MouseButtonRelease) loop_.quit();
     if (event->type() != QEvent::MouseMove) return false;
     const auto& mouse = static_cast<QMouseEvent&>(*event);
-    if (mouse.buttons() == Qt::NoButton) loop_.quit();
-    window_->move(mouse.globalPosition().toPoint() - grip_);
+    if (mouse.buttons() == Qt::NoButton) {
+      loop_.quit();
+    } else {
+      window_->move(mouse.globalPosition().toPoint() - grip_);
+    }
     return true;
   }
 
@@ -109,10 +112,12 @@ void Window::ApplySize() {
 
 void Window::SetBackground(const Picture& picture) {
   background_ = picture;
+  ground_ = {};
   update();
 }
 
 void Window::ShowModeless() {
+  unloaded_ = false;
   BringOnScreen();
   show();
   raise();
@@ -159,6 +164,7 @@ void Window::UnloadWindow() {
 }
 
 void Window::MoveWithMouse() {
+  CountModal();
   if (windowHandle() != nullptr && windowHandle()->startSystemMove()) return;
   Mover(this).Follow();
 }
@@ -171,9 +177,11 @@ void Window::SetAlwaysOnTop(bool on) {
 void Window::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), kNight.ToQt());
-  if (!background_.IsEmpty()) {
-    painter.drawPixmap(0, 0, background_.ToPixmap(background_.NaturalSize(), devicePixelRatioF()));
+  if (background_.IsEmpty()) return;
+  if (ground_.isNull() || ground_.devicePixelRatio() != devicePixelRatioF()) {
+    ground_ = background_.ToPixmap(background_.NaturalSize(), devicePixelRatioF());
   }
+  painter.drawPixmap(0, 0, ground_);
 }
 
 void Window::mouseMoveEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QPixmap>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -75,6 +76,7 @@ class Window : public QWidget {
 
   TwipRect place_;  // as set
   Picture background_;
+  QPixmap ground_;  // the picture in the pixels of the screen
   bool unloaded_ = false;
   bool unloading_ = false;
   QEventLoop* loop_ = nullptr;  // of ShowModal
@@ -82,8 +84,8 @@ class Window : public QWidget {
   std::function<void()> cancel_action_;
 };
 
-// How many modal windows and boxes have been shown so far; a handler that finds it changed knows
-// that the mouse was let go meanwhile.
+// How many modal windows, boxes and moves of windows there were so far; a handler that finds it
+// changed knows that the mouse was let go meanwhile.
 int ModalCount();
 void CountModal();
 

@@ -1,0 +1,52 @@
+// A window on which a test puts single controls, and the player's hand on them. The hand works on
+// the window, so that the toolkit finds the widget, holds the mouse and tells double clicks itself.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace zarvo {
+
+class Stage : public QWidget {
+ public:
+  Stage() { resize(400, 300); }
+
+  // Call it when the controls are there.
+  void Open() {
+    move(100, 100);
+    show();
+    activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+  }
+};
+
+// Presses, releases and moves at a point of a widget; the default is its middle.
+inline QPoint OnWindow(const QWidget* widget, QPoint point) {
+  return widget->mapTo(widget->window(), point.isNull() ? widget->rect().center() : point);
+}
+
+inline void Press(QWidget* widget, QPoint point = {}, Qt::MouseButton button = Qt::LeftButton) {
+  QTest::mousePress(widget->window()->windowHandle(), button, {}, OnWindow(widget, point));
+}
+
+inline void Release(QWidget* widget, QPoint point = {}, Qt::MouseButton button = Qt::LeftButton) {
+  QTest::mouseRelease(widget->window()->windowHandle(), button, {}, OnWindow(widget, point));
+}
+
+inline void MoveTo(QWidget* widget, QPoint point = {}) {
+  QTest::mouseMove(widget->window()->windowHandle(), OnWindow(widget, point));
+}
+
+inline void ClickOn(QWidget* widget, QPoint point = {}, Qt::MouseButton button = Qt::LeftButton) {
+  Press(widget, point, button);
+  Release(widget, point, button);
+}
+
+inline void DoubleClickOn(QWidget* widget, QPoint point = {}) {
+  QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, {}, OnWindow(widget, point));
+}
+
+}  // namespace zarvo
