@@ -46,16 +46,20 @@ class MainWindowTest : public testing::Test {
   RecordedBoxes boxes_;
   std::vector<std::string> told_;
   std::function<void()> on_autoload_ = [] {};
-  MainWindow main_{drive_.files(), app_, boxes_,
-                   [this](const EmulatorProfile& profile) {
-                     return ReadHeader(drive_.files(), app_, profile);
-                   },
-                   {.sections = [this]() -> SectionHost& { return sections_; },
-                    .show_layouts = [this] { told_.emplace_back("layouts"); },
-                    .show_about = [this] { told_.emplace_back("about"); },
-                    .autoload = [this] { on_autoload_(); },
-                    .end_program = [this] { told_.emplace_back("end"); }}};
-  Sections sections_{drive_.files(), app_, boxes_, main_,
+  MainWindow main_{
+      drive_.files(),
+      app_,
+      boxes_,
+      [this](const EmulatorProfile& profile) { return ReadHeader(drive_.files(), app_, profile); },
+      {.sections = [this]() -> SectionHost& { return sections_; },
+       .show_layouts = [this] { told_.emplace_back("layouts"); },
+       .show_about = [this] { told_.emplace_back("about"); },
+       .autoload = [this] { on_autoload_(); },
+       .end_program = [this] { told_.emplace_back("end"); }}};
+  Sections sections_{drive_.files(),
+                     app_,
+                     boxes_,
+                     main_,
                      [](std::string_view /*command_line*/) { return Success(); },
                      [] { return ClockTime{}; }};
 };
@@ -106,12 +110,10 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
 }
 
 TEST_F(MainWindowTest, TheTickerTurnsInARing) {
-  const char* const lines[] = {"What do you want to emulate today?",
-                               "Official Home Page: http://zarvo.example/",
-                               "Thanks to all emu-developers!",
-                               "Thanks to all rom-dumpers!",
-                               "Please support < Zarvo Project > !!",
-                               "---> The Definitive Multifrontend <---"};
+  const char* const lines[] = {
+      "What do you want to emulate today?",  "Official Home Page: http://zarvo.example/",
+      "Thanks to all emu-developers!",       "Thanks to all rom-dumpers!",
+      "Please support < Zarvo Project > !!", "---> The Definitive Multifrontend <---"};
   EXPECT_EQ(main_.lblMiscText->Caption(), lines[5]);
   EXPECT_EQ(main_.lblNumerillo, "1");
   for (int i = 0; i < 6; ++i) {
