@@ -84,11 +84,7 @@ class Program {
             .show_layouts = [this] { ShowLayouts(); },
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
-<<<<<<< HEAD
-            // Not quit(): that asks every window again, and none closes by being asked.
-=======
             // Not quit(), which would first ask every open panel to close.
->>>>>>> wt-paneltests
             .end_program = [] { QApplication::exit(); }};
   }
 
