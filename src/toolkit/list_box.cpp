@@ -257,7 +257,11 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   const int index = EntryAt(event->position().toPoint());
-  if (event->button() != Qt::LeftButton || index < 0) return;
+  if (event->button() != Qt::LeftButton) {
+    MouseDown.Raise(MouseArgsOf(*event));
+    return;
+  }
+  if (index < 0) return;
   if (index != index_) {
     Choose(index);
     return;
