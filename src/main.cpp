@@ -84,7 +84,7 @@ class Program {
             .show_layouts = [this] { ShowLayouts(); },
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
-            // Not quit(): that asks every window again, and none closes by being asked.
+            // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); }};
   }
 

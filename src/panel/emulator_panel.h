@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -124,11 +125,13 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void ShowGameList();
   bool MoveCaption(const std::string& name);
   LoadOutcome LoadGame(std::string_view key);
+  void ApplyDefaults();
   void ApplyToAll();
   void Exit();
 
   // panel_launch.cpp: pickers and start of a game
   void StartSelected(const ListBox* list);
+  void TakeBack();
   void BrowseExecutable();
   void BrowseRomFolder();
   void BrowseSnapFolder();
@@ -152,6 +155,8 @@ class EmulatorPanel : public Window, private LaunchPanel {
   bool closed_ = false;  // saved and counted as closed
   // What the settings page held for the game in the caption while another game is started.
   std::optional<OptionValues> set_aside_;
+  // During a start, which saves the configuration twice: the failure that was told already.
+  std::optional<std::string> told_;
 };
 
 }  // namespace zarvo

@@ -56,7 +56,7 @@ Status FolderList::SetPath(std::string_view path) {
   std::string wanted(path.empty() ? before : path);
   if (wanted.size() == 2 && wanted[1] == ':') {
     // The current folder of a drive is known only to the drive itself.
-    if (const Status changed = files_.ChangeDrive(wanted[0]); !changed.ok()) return changed;
+    if (Status changed = files_.ChangeDrive(wanted[0]); !changed.ok()) return changed;
     wanted = files_.CurrentFolder();
     Ignore(files_.ChangeDrive(before[0]));
   }

@@ -194,7 +194,7 @@ void PrepareApplication() {
   }
 }
 
-void DressUp(QApplication& application) {
+void DressUp(QApplication& /*application*/) {
   LinkPictures();
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
@@ -203,7 +203,7 @@ void DressUp(QApplication& application) {
   QApplication::setPalette(CabinetPalette());
   QApplication::setFont(font);
   QGuiApplication::setWindowIcon(AppIcon());
-  application.setApplicationName(QStringLiteral("zarvo"));
+  QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
 }
 

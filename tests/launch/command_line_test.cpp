@@ -74,7 +74,7 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
     }
   }
 
-  [[nodiscard]] std::string DefaultOf(const std::string& name) const {
+  static std::string DefaultOf(const std::string& name) {
     const OptionSpec& spec = Spec(name);
     return spec.kind == OptionKind::kText ? std::string(spec.default_text)
                                           : std::to_string(spec.default_value);
