@@ -18,9 +18,10 @@ from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_v
 from dataclasses import dataclass
 from pathlib import Path
 
-PATIENCE = 60  # seconds for anything that is sure to come, also on a busy machine
+PATIENCE = 15  # seconds for anything that is sure to come, also on a busy machine
 GLANCE = 0.01  # seconds between two looks
 
+_READY = "ZARVO_DESKTOP_READY"
 _VIEWABLE = 2
 _ALL_PLANES = c_ulong(-1).value
 _Z_PIXMAP = 2
@@ -252,9 +253,9 @@ class Desktop:
         self.environment |= {"DISPLAY": self.display, "HOME": str(self.folder),
                              "XDG_RUNTIME_DIR": str(self.folder), "LC_ALL": "C.UTF-8"}
         self.screen = Screen(self.display)
-        self._run(["openbox", "--sm-disable"])
-        wait_until(lambda: self.screen.longs(self.screen.root, "_NET_SUPPORTING_WM_CHECK"),
-                   "the window manager")
+        # It announces itself before it listens, and a window that comes in between is lost.
+        self._run(["openbox", "--sm-disable", "--startup", f"xprop -root -f {_READY} 32c -set {_READY} 1"])
+        wait_until(lambda: self.screen.longs(self.screen.root, _READY), "the window manager")
 
     def _start_server(self):
         here, there = os.pipe()

@@ -125,4 +125,10 @@ void Label::keyPressEvent(QKeyEvent* event) {
   Click.Raise();
 }
 
+void Label::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) TabbedTo.Raise();
+}
+
 }  // namespace zarvo

@@ -47,6 +47,34 @@ class Mover : public QObject {
   QEventLoop loop_;
 };
 
+// The press of the mouse that the desktop has taken over to move a window. The desktop keeps the
+// release to itself, so that the button still looks held afterwards, up to the next press.
+class TakenPress : public QObject {
+ public:
+  [[nodiscard]] bool Lasts() const { return lasts_; }
+
+  void Begin() {
+    lasts_ = true;
+    qApp->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+      lasts_ = false;
+      qApp->removeEventFilter(this);
+    }
+    return false;
+  }
+
+ private:
+  bool lasts_ = false;
+};
+
+TakenPress& Taken() {
+  static TakenPress taken;
+  return taken;
+}
+
 // A value that was set is what is read, until something else has changed the pixels.
 int ReadBack(int set_twips, int pixels) {
   return ToPixels(set_twips) == pixels ? set_twips : ToTwips(pixels);
@@ -164,9 +192,13 @@ void Window::UnloadWindow() {
 }
 
 void Window::MoveWithMouse() {
+  if (Taken().Lasts()) return;
   CountModal();
-  if (windowHandle() != nullptr && windowHandle()->startSystemMove()) return;
-  Mover(this).Follow();
+  if (windowHandle() != nullptr && windowHandle()->startSystemMove()) {
+    Taken().Begin();
+  } else {
+    Mover(this).Follow();
+  }
 }
 
 void Window::SetAlwaysOnTop(bool on) {
@@ -201,6 +233,17 @@ void Window::keyPressEvent(QKeyEvent* event) {
   } else {
     QWidget::keyPressEvent(event);
   }
+}
+
+// A control that lies outside of a window made small is passed over.
+bool Window::focusNextPrevChild(bool next) {
+  QWidget* const start = focusWidget();
+  while (QWidget::focusNextPrevChild(next)) {
+    const QWidget* const reached = focusWidget();
+    const QRect place(reached->mapTo(this, QPoint()), reached->size());
+    if (reached == start || rect().intersects(place)) return true;
+  }
+  return false;
 }
 
 void Window::closeEvent(QCloseEvent* event) {
