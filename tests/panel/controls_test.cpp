@@ -1,17 +1,18 @@
-// Every control that the panels are told to have, with its texts and its place; the list stands in
-// controls.txt.
+// Every control that the main window and the panels are told to have, with its texts and its place;
+// the list stands in controls.txt.
 #include <fstream>
 #include <sstream>
 
 #include "panel/panel_fixture.h"
+#include "shell/main_window.h"
 
 namespace zarvo {
 namespace {
 
 class ControlsTest : public PanelTest {
  protected:
-  static QList<QWidget*> Named(EmulatorPanel& panel, const std::string& name) {
-    return panel.findChildren<QWidget*>(QString::fromStdString(name));
+  static QList<QWidget*> Named(QWidget& window, const std::string& name) {
+    return window.findChildren<QWidget*>(QString::fromStdString(name));
   }
   static std::string CaptionOf(const QWidget* widget) {
     if (const auto* label = dynamic_cast<const Label*>(widget)) return label->Caption();
@@ -56,19 +57,19 @@ class ControlsTest : public PanelTest {
     const auto& button = dynamic_cast<const QAbstractButton&>(*widget);
     return button.isChecked() == (property == "on") ? "" : "(the other)";
   }
-  static bool SaysSomewhere(EmulatorPanel& panel, const std::string& caption) {
-    const auto widgets = panel.findChildren<QWidget*>();
+  static bool SaysSomewhere(QWidget& window, const std::string& caption) {
+    const auto widgets = window.findChildren<QWidget*>();
     return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
       return '"' + CaptionOf(widget) + '"' == caption;
     });
   }
-  static void Check(EmulatorPanel& panel, const std::string& name, const std::string& property,
+  static void Check(QWidget& window, const std::string& name, const std::string& property,
                     const std::string& expected) {
     if (name == "*") {
-      EXPECT_TRUE(SaysSomewhere(panel, expected));
+      EXPECT_TRUE(SaysSomewhere(window, expected));
       return;
     }
-    const QList<QWidget*> found = Named(panel, name);
+    const QList<QWidget*> found = Named(window, name);
     if (property == "absent") {
       EXPECT_TRUE(found.isEmpty());
       return;
@@ -84,21 +85,26 @@ std::string Replaced(std::string text, std::string_view word) {
   return at == std::string::npos ? text : text.replace(at, 5, word);
 }
 
-TEST_F(ControlsTest, PanelsHaveWhatTheListTells) {
+TEST_F(ControlsTest, WindowsHaveWhatTheListTells) {
+  MainWindow main(files_, app_, boxes_,
+                  [](const EmulatorProfile& /*profile*/) { return std::vector<std::string>(); },
+                  {});
   std::ifstream list(ZARVO_CONTROLS);
   int checked = 0;
   for (std::string line; std::getline(list, line);) {
     if (line.empty() || line.starts_with('#')) continue;
     std::istringstream fields(line);
-    std::string panels, name, property, expected;
-    fields >> panels >> name >> property;
+    std::string windows, name, property, expected;
+    fields >> windows >> name >> property;
     std::getline(fields >> std::ws, expected);
+    SCOPED_TRACE(line);
+    if (windows == "Main") Check(main, name, property, expected);
     for (const EmulatorProfile& profile : Profiles()) {
       const std::string word(profile.word);
-      if (panels != "each" && ("," + panels + ",").find("," + word + ",") == std::string::npos) {
+      if (windows != "each" && ("," + windows + ",").find("," + word + ",") == std::string::npos) {
         continue;
       }
-      SCOPED_TRACE(word + ": " + line);
+      SCOPED_TRACE(word);
       Check(sections_.Panel(profile.emulator), Replaced(name, word), property, expected);
       ++checked;
     }

@@ -62,6 +62,7 @@ TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
                    .autoload = [] {},
                    .end_program = [] {}});
   drive_.Write(R"(C:\Zarvo\cfg\x)", "");
+  ASSERT_TRUE(files_.ChangeFolder(R"(C:\Zarvo)"));
   main.StartUp();
   Visit(main, 8);
   FolderPicker folder_picker(files_, sections_);

@@ -74,7 +74,9 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
     EXPECT_EQ(main_.Top(), 400);
     EXPECT_EQ(main_.Left(), 500);
     EXPECT_EQ(drive_.files().CurrentFolder(), R"(C:\Zarvo)");
-    EXPECT_EQ(main_.Timer1.Interval(), 0);
+    if (autoloads == 1) {
+      EXPECT_EQ(main_.Timer1.Interval(), 0) << "the ticker starts last";
+    }
   };
   bool folders_at_welcome = true;
   boxes_.on_show = [&] {
