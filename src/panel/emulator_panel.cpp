@@ -79,6 +79,7 @@ void EmulatorPanel::Enter() {
     ShowConfiguration();
   }
   tools_.app.ShowWord(profile_.emulator) = "SI";
+  FirstList()->setFocus();
   ShowModeless();
 }
 
@@ -154,12 +155,16 @@ void EmulatorPanel::EnterSettingsPage() {
   }
 }
 
+// The favourites if there are any, else the big list where the panel has one.
+ListBox* EmulatorPanel::FirstList() const {
+  return favourites->lstPref->ListCount() > 0 || games->lstRom == nullptr ? favourites->lstPref
+                                                                          : games->lstRom;
+}
+
 std::string EmulatorPanel::FirstGame() {
-  const std::string caption = lblRomSettings->Caption();
+  std::string caption = lblRomSettings->Caption();
   if (!caption.empty()) return caption;
-  ListBox* const list = favourites->lstPref->ListCount() > 0 || games->lstRom == nullptr
-                            ? favourites->lstPref
-                            : games->lstRom;
+  ListBox* const list = FirstList();
   list->SetListIndex(0);
   return list->Text();
 }

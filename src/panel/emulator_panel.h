@@ -100,6 +100,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void BuildHeader();
   void BuildPageButtons();
   void BuildPages();
+  void OrderControls();
   void Wire();
   void WireLists();
   void WirePageButton(ImageBox* button, int left, std::function<void()> action);
@@ -114,6 +115,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void EnterInfoPage();
   void EnterHelpPage();
   void EnterConfigurationPage();
+  [[nodiscard]] ListBox* FirstList() const;
   std::string FirstGame();
   void OnSelected(const ListBox* list);
   void SelectOnSettingsPage(const std::string& name);

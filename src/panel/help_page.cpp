@@ -74,7 +74,6 @@ int HelpPage::BuildList(const EmulatorProfile& profile) {
   lstHelp->SetName(ControlName(profile, "lstHelp"));
   lstHelp->SetAccessibleName("Game details");
   lstHelp->SetPlace({kMargin, 240, kPageWidth - 2 * kMargin, layout.list_height});
-  if (profile.emulator == Emulator::kSystem16) SetLines(System16Help());
   return 240 + layout.list_height + 45;
 }
 

@@ -34,12 +34,15 @@ class Label : public QWidget, public Control {
   void SetTextSize(int pixels);
   void SetPressable(bool pressable);
   [[nodiscard]] bool Pressable() const { return pressable_; }
+  // What Space and Enter do.
+  void Press() { Click.Raise(); }
   // Draws the raised edge of a button round an opaque back.
   void SetRaised(bool raised);
 
   // Left button released over the label it was pressed on, or Space or Enter on a pressable one.
   Event<> Click;
   Event<> DblClick;
+  Event<> TabbedTo;  // Tab or Shift+Tab has reached it
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -47,6 +50,7 @@ class Label : public QWidget, public Control {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   std::string caption_;
@@ -59,7 +63,6 @@ class Label : public QWidget, public Control {
   bool raised_ = false;
   bool pressed_ = false;
   int modals_at_press_ = 0;
-  bool accessible_is_caption_ = false;
 };
 
 }  // namespace zarvo

@@ -257,7 +257,11 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   const int index = EntryAt(event->position().toPoint());
-  if (event->button() != Qt::LeftButton || index < 0) return;
+  if (event->button() != Qt::LeftButton) {
+    MouseDown.Raise(MouseArgsOf(*event));
+    return;
+  }
+  if (index < 0) return;
   if (index != index_) {
     Choose(index);
     return;
@@ -272,6 +276,7 @@ void ListBox::wheelEvent(QWheelEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   swallow_ = false;
+  if (event->isAutoRepeat() && KeyCodeOf(*event) == key::kEnter) return;  // held: it starts once
   KeyDown.Raise({.code = KeyCodeOf(*event), .shift = ShiftStateOf(*event)});
   if (swallow_) {
     event->accept();

@@ -1,4 +1,4 @@
-// Mouse events on a widget, as the desktop would send them.
+// Mouse events sent to a widget itself, also where it stands on a page that is hidden.
 #pragma once
 
 #include <QApplication>

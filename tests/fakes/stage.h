@@ -13,6 +13,15 @@ namespace zarvo {
 class Stage : public QWidget {
  public:
   Stage() { resize(400, 300); }
+  // A button that a test left down would be down for the next test too.
+  ~Stage() override {
+    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+      const bool down = QGuiApplication::mouseButtons().testFlag(button);
+      if (down) QTest::mouseRelease(windowHandle(), button, {}, QPoint(399, 299));
+    }
+  }
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
 
   // Call it when the controls are there.
   void Open() {
