@@ -75,9 +75,9 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
   }
 
   static std::string DefaultOf(const std::string& name) {
-    const OptionSpec& spec = Spec(name);
-    return spec.kind == OptionKind::kText ? std::string(spec.default_text)
-                                          : std::to_string(spec.default_value);
+    const OptionSpec& declared = Spec(name);
+    return declared.kind == OptionKind::kText ? std::string(declared.default_text)
+                                          : std::to_string(declared.default_value);
   }
 
   // The line of the expectations with every option at its default but one.
