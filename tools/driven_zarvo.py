@@ -61,6 +61,7 @@ class DrivenZarvo:
         self.drive = Path(drive)
         self.scale = scale
         self.wrapper = list(wrapper)
+        self.environment = {}  # beyond that of the desktop
         self.process = None
         self.log = desktop.folder / "zarvo.log"
         self.clicked = None  # the point of the click made last, and when
@@ -68,7 +69,7 @@ class DrivenZarvo:
     def start(self):
         environment = self.desktop.environment | {
             "QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(self.scale),
-            "SDL_VIDEODRIVER": "dummy", "SDL_AUDIODRIVER": "dummy"}
+            "SDL_VIDEODRIVER": "dummy", "SDL_AUDIODRIVER": "dummy"} | self.environment
         with open(self.log, "ab") as log:
             self.process = subprocess.Popen([*self.wrapper, self.program], env=environment,
                                             cwd=self.drive / "Zarvo", stdout=log, stderr=log)
