@@ -1,5 +1,8 @@
 """Zarvo on a private desktop, driven by key and mouse as a player drives it."""
 
+import itertools
+import os
+import signal
 import subprocess
 import time
 from pathlib import Path
@@ -38,6 +41,10 @@ MAME_OPTIONS = {"screen": (3700, 1205), "frames": (3700, 1490), "sound": (5400, 
 LAYOUTS = {"Add": (480, 2030), "Remove": (1520, 2030), "Rename": (2500, 2030),
            "Load": (830, 2440), "Save": (2250, 2440), "autoload": (300, 3135),
            "to load": (1800, 3490), "on top": (300, 4050), "Close": (2450, 4040)}
+
+
+_FOCUS = bytes((0x5A, 0xC8, 0xFF))  # blue, green and red of the frame round what gets the keys
+_SIDE = 8  # pixels, shorter than any side of that frame
 
 
 def entry(first, row):
@@ -112,12 +119,78 @@ class DrivenZarvo:
     def hover(self, window, spot):
         self.desktop.hands("mousemove", *self.point(window, spot))
 
+    def focus_frame(self, window):
+        """The place in the window's pixels of the frame round what gets the keys; None if there is
+        none."""
+        place = self.desktop.screen.place(window.id)
+        pixels = self.desktop.screen.pixels(window=window.id)
+        if not place or not pixels:
+            return None
+        pixel = next((pixels[at:at + 4] for at in self._all(pixels, _FOCUS) if at % 4 == 0), None)
+        start = pixels.find(pixel * _SIDE) if pixel else -1
+        if start < 0:
+            return None
+        y, x = divmod(start // 4, place.width)
+        width = height = 1
+        while pixels[start + 4 * width:start + 4 * width + 4] == pixel:
+            width += 1
+        stride = 4 * place.width
+        while pixels[start + stride * height:start + stride * height + 4] == pixel:
+            height += 1
+        return Place(x, y, width, height)
+
+    @staticmethod
+    def _all(pixels, colour):
+        at = pixels.find(colour)
+        while at >= 0:
+            yield at
+            at = pixels.find(colour, at + 1)
+
+    def tab_to(self, window, spot):
+        """Presses Tab until the frame of the focus stands round the spot."""
+        x, y = (round(twips / TWIPS_PER_PIXEL * self.scale) for twips in spot)
+        for _ in range(80):
+            before = self.focus_frame(window)
+            if before and (before.x <= x < before.x + before.width
+                           and before.y <= y < before.y + before.height):
+                return
+            self.desktop.keys("Tab")
+            try:
+                wait_until(lambda: self.focus_frame(window) != before, "the focus to move", 0.5)
+            except Overdue:
+                pass  # something without a frame has it
+        raise Overdue(f"Tab never came to {spot} in {window.title!r}")
+
     def drag(self, window, start, points):
         """Presses at a spot and lets go at the last of the points, which are pixels of the screen."""
         words = ["mousemove", *self.point(window, start), "mousedown", 1]
         for x, y in points:
-            words += ["mousemove", x, y, "sleep", 0.05]
+            words += ["mousemove", x, y]
         self.desktop.hands(*words, "mouseup", 1)
+
+    def carry(self, window, start, across, down):
+        """Takes hold of a window at a spot and lets it go so many pixels further."""
+        x, y = self.point(window, start)
+        place = self.desktop.screen.place
+        before = place(window.id)
+        goal = before.x + across, before.y + down
+        wiggle = itertools.cycle((20, 22))
+
+        def follows():
+            step = next(wiggle)
+            self.desktop.hands("mousemove", x + step, y + step)
+            return place(window.id) != before
+
+        def arrived():
+            now = place(window.id)
+            return abs(now.x - goal[0]) <= 24 and abs(now.y - goal[1]) <= 24
+
+        self.desktop.hands("mousemove", x, y, "mousedown", 1)
+        wait_until(follows, "the window to follow the mouse")
+        self.desktop.hands("mousemove", x + across, y + down)
+        wait_until(arrived, lambda: f"the window to come from {before} to {goal}; it's at "
+                                    f"{place(window.id)}")
+        self.desktop.hands("mouseup", 1)
 
     def choose(self, window, combo, index, count):
         """Opens a list that drops down, of so many entries, and clicks the one of that index."""
@@ -164,6 +237,6 @@ class DrivenZarvo:
         if self.process is None or self.process.poll() is not None:
             return
         for child in self.children():
-            subprocess.run(["kill", str(child)], stderr=subprocess.DEVNULL)
+            os.kill(child, signal.SIGKILL)
         self.process.terminate()
         self.process.wait(PATIENCE)

@@ -18,7 +18,7 @@ from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_v
 from dataclasses import dataclass
 from pathlib import Path
 
-PATIENCE = 15  # seconds for anything that is sure to come, also on a busy machine
+PATIENCE = 60  # seconds for anything that is sure to come, also on a busy machine
 GLANCE = 0.01  # seconds between two looks
 
 _READY = "ZARVO_DESKTOP_READY"
@@ -155,7 +155,8 @@ class Screen:
         """The pixels as rows of blue, green, red and a byte more; of the whole screen unless told.
         None if the place isn't on the screen."""
         target = self.root if window is None else window
-        place = place or self.place(target)
+        if place is None and (whole := self.place(target)):
+            place = Place(0, 0, whole.width, whole.height)
         image = place and self._x.XGetImage(self._display, target, place.x, place.y, place.width,
                                             place.height, _ALL_PLANES, _Z_PIXMAP)
         if not image:

@@ -162,7 +162,7 @@ ListBox* EmulatorPanel::FirstList() const {
 }
 
 std::string EmulatorPanel::FirstGame() {
-  const std::string caption = lblRomSettings->Caption();
+  std::string caption = lblRomSettings->Caption();
   if (!caption.empty()) return caption;
   ListBox* const list = FirstList();
   list->SetListIndex(0);

@@ -32,7 +32,7 @@ namespace zarvo {
 class EmulatorPanel : public Window, private LaunchPanel {
  public:
   // Creates the panel and runs its load; it isn't shown.
-  EmulatorPanel(const EmulatorProfile& profile, const PanelTools& tools);
+  EmulatorPanel(const EmulatorProfile& profile, PanelTools tools);
   ~EmulatorPanel() override;
 
   [[nodiscard]] const EmulatorProfile& Profile() const { return profile_; }

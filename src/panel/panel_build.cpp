@@ -1,5 +1,6 @@
 // Building and wiring of a panel's controls.
 #include <array>
+#include <utility>
 
 #include "panel/control_names.h"
 #include "panel/emulator_panel.h"
@@ -22,8 +23,10 @@ constexpr TwipRect kButtonSize{0, 0, 705, 315};
 
 }  // namespace
 
-EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, const PanelTools& tools)
-    : Window(WindowFrame::kNone, ControlName(profile, "frm")), profile_(profile), tools_(tools) {
+EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, PanelTools tools)
+    : Window(WindowFrame::kNone, ControlName(profile, "frm")),
+      profile_(profile),
+      tools_(std::move(tools)) {
   Build();
   Wire();
   Load();

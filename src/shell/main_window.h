@@ -56,7 +56,7 @@ class MainWindow : public Window, public MainPlace {
   Label* lblNeoRageX;
   std::array<Label*, 17> facts;  // lblName to lblContrib, in the order of the header
 
-  Timer Timer1;                    // turns the ticker
+  Timer Timer1;  // turns the ticker
 
   // Invisible: the position of the ticker line on show, from 1.
   std::string lblNumerillo = "1";

@@ -51,16 +51,26 @@ FolderList::FolderList(QWidget* parent, DosFiles& files) : ListBox(parent), file
   Ignore(SetPath(""));
 }
 
-Status FolderList::SetPath(std::string_view path) {
-  const std::string before = files_.CurrentFolder();
-  std::string wanted(path.empty() ? before : path);
-  if (wanted.size() == 2 && wanted[1] == ':') {
-    // The current folder of a drive is known only to the drive itself.
-    if (Status changed = files_.ChangeDrive(wanted[0]); !changed.ok()) return changed;
-    wanted = files_.CurrentFolder();
-    Ignore(files_.ChangeDrive(before[0]));
+// The full path of what the player or a file calls a folder: "", "C:", "..", "games\\snap".
+std::string FolderList::FullPath(std::string_view path) {
+  const std::string current = files_.CurrentFolder();
+  const char letter = DriveLetter(path);
+  const std::string_view rest = letter == 0 ? path : path.substr(2);
+  const std::string drive(1, letter == 0 ? current.front() : path.front());
+  if (rest.starts_with('\\') || rest.starts_with('/')) return drive + ":" + std::string(rest);
+  std::string base = current;
+  // The current folder of a drive is known only to the drive itself.
+  if (letter != 0 && files_.ChangeDrive(letter)) {
+    base = files_.CurrentFolder();
+    Ignore(files_.ChangeDrive(current.front()));
+  } else if (letter != 0) {
+    base = drive + ":\\";
   }
-  while (wanted.size() > 3 && wanted.back() == '\\') wanted.pop_back();
+  return JoinPath(base, rest);
+}
+
+Status FolderList::SetPath(std::string_view path) {
+  const std::string wanted = FullPath(path);
   const auto entries = files_.ListFolder(wanted);
   if (!entries.ok()) return entries.error();
 

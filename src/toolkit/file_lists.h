@@ -33,11 +33,13 @@ class FolderList : public ListBox {
   FolderList(QWidget* parent, DosFiles& files);
   [[nodiscard]] std::string Path() const { return path_; }
   // Opens a folder and raises Change if it is another one; "" and "C:" are the current folder of
-  // the current drive and of that drive. Fails if it can't be read.
+  // the current drive and of that drive, and other paths may start there too. Fails if it can't be
+  // read.
   Status SetPath(std::string_view path);
   Event<> Change;
 
  private:
+  [[nodiscard]] std::string FullPath(std::string_view path);
   void OpenEntry(int index);
   DosFiles& files_;
   std::string path_;

@@ -22,6 +22,12 @@ void ImageBox::SetPressable(bool pressable) {
   setFocusPolicy(pressable ? Qt::StrongFocus : Qt::NoFocus);
 }
 
+void ImageBox::Press() {
+  MouseDown.Raise({.button = MouseButton::kLeft});
+  Click.Raise();
+  MouseUp.Raise({.button = MouseButton::kLeft});
+}
+
 void ImageBox::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   picture_.Draw(painter, QRectF(rect()));
@@ -55,9 +61,7 @@ void ImageBox::keyPressEvent(QKeyEvent* event) {
     return;
   }
   event->accept();
-  MouseDown.Raise({.button = MouseButton::kLeft});
-  Click.Raise();
-  MouseUp.Raise({.button = MouseButton::kLeft});
+  Press();
 }
 
 }  // namespace zarvo

@@ -16,6 +16,9 @@ class ImageBox : public QWidget, public Control {
   void SetPicture(Picture picture);
   // As a button it takes the focus, and Space and Enter raise mouse down, click and mouse up.
   void SetPressable(bool pressable);
+  [[nodiscard]] bool Pressable() const { return pressable_; }
+  // What Space and Enter do.
+  void Press();
 
   Event<> Click;
   Event<> DblClick;

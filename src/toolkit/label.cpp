@@ -13,11 +13,10 @@ Label::Label(QWidget* parent) : QWidget(parent), Control(this) {}
 
 void Label::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
+  // A label that was given a name of its own keeps it.
+  const bool named_by_caption = accessibleName() == ToQt(caption_).trimmed();
   caption_ = caption;
-  if (accessibleName().isEmpty() || accessible_is_caption_) {
-    accessible_is_caption_ = true;
-    setAccessibleName(ToQt(caption_).trimmed());
-  }
+  if (named_by_caption) setAccessibleName(ToQt(caption_).trimmed());
   update();
 }
 
@@ -122,7 +121,7 @@ void Label::keyPressEvent(QKeyEvent* event) {
     return;
   }
   event->accept();
-  Click.Raise();
+  Press();
 }
 
 void Label::focusInEvent(QFocusEvent* event) {

@@ -34,6 +34,8 @@ class Label : public QWidget, public Control {
   void SetTextSize(int pixels);
   void SetPressable(bool pressable);
   [[nodiscard]] bool Pressable() const { return pressable_; }
+  // What Space and Enter do.
+  void Press() { Click.Raise(); }
   // Draws the raised edge of a button round an opaque back.
   void SetRaised(bool raised);
 
@@ -61,7 +63,6 @@ class Label : public QWidget, public Control {
   bool raised_ = false;
   bool pressed_ = false;
   int modals_at_press_ = 0;
-  bool accessible_is_caption_ = false;
 };
 
 }  // namespace zarvo

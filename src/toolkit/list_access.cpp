@@ -19,6 +19,7 @@ class EntryAccess : public QAccessibleInterface {
   [[nodiscard]] QAccessibleInterface* parent() const override {
     return QAccessible::queryAccessibleInterface(list_);
   }
+  [[nodiscard]] QWindow* window() const override { return parent()->window(); }
   [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
   [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
     return nullptr;

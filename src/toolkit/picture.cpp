@@ -7,6 +7,7 @@
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace zarvo {
 namespace {
@@ -58,7 +59,8 @@ Result<Picture> Picture::FromFile(const DosFiles& files, std::string_view path, 
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer, FormatOf(*bytes));
   reader.setAutoDetectImageFormat(false);
-  const QSize size = reader.size();
+  // A BMP whose rows run from the top down tells its height as a negative number.
+  const QSize size(reader.size().width(), std::abs(reader.size().height()));
   if (reader.format().isEmpty() || !reader.canRead() || size.isEmpty() ||
       qint64{size.width()} * size.height() > kMostPixels) {
     return Error{"This is no picture that can be shown."};

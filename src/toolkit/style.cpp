@@ -9,6 +9,7 @@
 #include <QStyleOptionSlider>
 
 #include "toolkit/colour.h"
+#include "toolkit/control_access.h"
 #include "toolkit/drawing.h"
 #include "toolkit/list_access.h"
 #include "toolkit/picture.h"
@@ -205,6 +206,7 @@ void DressUp(QApplication& /*application*/) {
   QGuiApplication::setWindowIcon(AppIcon());
   QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
+  InstallControlAccess();
 }
 
 }  // namespace zarvo

@@ -75,7 +75,9 @@ class Scenario(unittest.TestCase):
         traces.mkdir(exist_ok=True)
         self.desktop.picture(traces / f"{self.id()}.png")
         said = self.zarvo.log.read_text(errors="replace") if self.zarvo.log.exists() else ""
-        print(f"{self.id()} left {traces / self.id()}.png\n{said}", file=sys.stderr)
+        ended = self.zarvo.process and self.zarvo.process.poll()
+        print(f"{self.id()} left {traces / self.id()}.png; exit code of the program so far: {ended}; "
+              f"it has said:\n{said}", file=sys.stderr)
 
     def emulator(self, emulator):
         return self.drive / "Emu" / emulator

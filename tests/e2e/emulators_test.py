@@ -17,7 +17,7 @@ LINES = {
               " -game moon -nogui -screenmode 0 -screenx 320 -screeny 200 -joystick -1"),
     "System16": (" orbit -RX 320 -RY 240 -SCANLINES -NOTITLE -SOUNDCARD 0 -R 22050 -JOYTYPE 3",
                  " pend -RX 320 -RY 240 -SCANLINES -NOTITLE -SOUNDCARD 0 -R 22050 -JOYTYPE 3"),
-    "M72": (" rtypej -r 22050", " rtypeu -r 22050"),
+    "M72": (" dbreed -r 22050", " gallop -r 22050"),
 }
 
 

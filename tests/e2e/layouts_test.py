@@ -27,16 +27,7 @@ class Layouts(Scenario):
 
     def move(self, panel, across, down):
         """Moves a panel by its logo, as far as told in pixels."""
-        before = self.place(panel)
-        x, y = self.zarvo.point(panel, PANEL["logo"])
-        steps = [(x + 8, y + 8), (x + across // 2, y + down // 2), (x + across, y + down)]
-        self.zarvo.drag(panel, PANEL["logo"], steps)
-
-        def arrived():
-            place = self.place(panel)
-            return abs(before.x + across - place.x) <= 8 and abs(before.y + down - place.y) <= 8
-
-        wait_until(arrived, lambda: f"the panel to move from {before}; it's at {self.place(panel)}")
+        self.zarvo.carry(panel, PANEL["logo"], across, down)
         dropped = self.place(panel)
         self.desktop.hands("mousemove_relative", 40, 25, "sleep", 0.2)
         self.assertEqual(dropped, self.place(panel), "the panel still follows the mouse")

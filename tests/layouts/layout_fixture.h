@@ -32,12 +32,14 @@ inline std::string Ini(int on_top, int autoload, const std::string& name) {
 
 inline std::vector<std::string> ItemsOf(const ComboBox& combo) {
   std::vector<std::string> items;
+  items.reserve(static_cast<std::size_t>(combo.ListCount()));
   for (int i = 0; i < combo.ListCount(); ++i) items.push_back(combo.List(i));
   return items;
 }
 
 inline std::vector<std::string> ItemsOf(const ListBox& list) {
   std::vector<std::string> items;
+  items.reserve(static_cast<std::size_t>(list.ListCount()));
   for (int i = 0; i < list.ListCount(); ++i) items.emplace_back(list.Items().At(i));
   return items;
 }

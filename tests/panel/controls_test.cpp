@@ -9,7 +9,7 @@
 namespace zarvo {
 namespace {
 
-class NamedControlsTest : public PanelTest {
+class NamedPanelControlsTest : public PanelTest {
  protected:
   static QList<QWidget*> Named(QWidget& window, const std::string& name) {
     return window.findChildren<QWidget*>(QString::fromStdString(name));
@@ -85,7 +85,7 @@ std::string Replaced(std::string text, std::string_view word) {
   return at == std::string::npos ? text : text.replace(at, 5, word);
 }
 
-TEST_F(NamedControlsTest, WindowsHaveWhatTheListTells) {
+TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
   MainWindow main(files_, app_, boxes_,
                   [](const EmulatorProfile& /*profile*/) { return std::vector<std::string>(); },
                   {});
@@ -113,7 +113,7 @@ TEST_F(NamedControlsTest, WindowsHaveWhatTheListTells) {
 }
 
 // A caption that is cut off can't be read: every letter of a check box must fit.
-TEST_F(NamedControlsTest, TheCaptionsOfTheOptionsFit) {
+TEST_F(NamedPanelControlsTest, TheCaptionsOfTheOptionsFit) {
   for (const EmulatorProfile& profile : Profiles()) {
     for (const CheckBox* check : sections_.Panel(profile.emulator).findChildren<CheckBox*>()) {
       QFont font(QStringLiteral("Liberation Sans"));

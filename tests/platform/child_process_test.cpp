@@ -65,7 +65,8 @@ TEST_F(RunTest, ADosProgramRunsInDosBoxFromTheFolderThatIsItsDrive) {
   EXPECT_THAT(plan->command.arguments, ElementsAre("-userconf", "-conf", plan->configuration_path));
   EXPECT_EQ(plan->configuration,
             "[autoexec]\n@echo off\nmount -u C >nul\nmount C . >nul\nC:\ncd \\Emu\\Mame\n"
-            "call lancia.bat\nexit\n");
+            "call lancia.bat\nif errorlevel 1 goto failed\nexit\n"
+            ":failed\necho failed>C:\\Emu\\Mame\\ZARVO.ERR\nexit\n");
   EXPECT_FALSE(fs::exists(plan->configuration_path)) << "planning writes nothing";
   EXPECT_NE(Plan(Host({"dosbox"}))->configuration_path, plan->configuration_path);
 }

@@ -1,0 +1,244 @@
+// Windows: place and size, modal and modeless, unloading, keys, moving with the mouse.
+#include "toolkit/window.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "fakes/stage.h"
+#include "toolkit/desktop_boxes.h"
+#include "toolkit/image_box.h"
+#include "toolkit/list_box.h"
+#include "toolkit/popup_menu.h"
+#include "toolkit/push_button.h"
+#include "toolkit/text_box.h"
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() {
+    window.SetWidth(3000);
+    window.SetHeight(1500);
+  }
+  void Open() {
+    window.ShowModeless();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  Window window{WindowFrame::kNone, "frmTest"};
+  std::vector<std::string> log;
+};
+
+// Runs `play` once the event loop of a modal window or box runs.
+void Meanwhile(const std::function<void()>& play) { QTimer::singleShot(0, qApp, play); }
+
+TEST_F(WindowTest, WhatIsSetIsReadAlsoBetweenPixelsAndShown) {
+  for (const bool shown : {false, true}) {
+    if (shown) Open();
+    for (const int twips : {1507, 1508, 3001, 15, 4620}) {
+      window.SetLeft(twips);
+      window.SetTop(twips + 1);
+      window.SetWidth(twips + 2);
+      window.SetHeight(twips + 3);
+      EXPECT_EQ(window.Left(), twips);
+      EXPECT_EQ(window.Top(), twips + 1);
+      EXPECT_EQ(window.Width(), twips + 2);
+      EXPECT_EQ(window.Height(), twips + 3);
+    }
+  }
+}
+
+TEST_F(WindowTest, SavedAndLoadedAHundredTimesItStaysWhereItIs) {
+  Open();
+  window.SetLeft(1511);
+  window.SetTop(1519);
+  for (int i = 0; i < 100; ++i) {
+    window.SetLeft(window.Left());
+    window.SetTop(window.Top());
+  }
+  EXPECT_EQ(window.Left(), 1511);
+  EXPECT_EQ(window.Top(), 1519);
+}
+
+TEST_F(WindowTest, AMoveByThePlayerIsReadBack) {
+  Open();
+  window.SetLeft(1507);
+  window.SetTop(1508);
+  window.move(33, 77);
+  EXPECT_EQ(window.Left(), 495);
+  EXPECT_EQ(window.Top(), 1155);
+  window.SetLeft(1507);
+  EXPECT_EQ(window.Top(), 1155) << "setting the one doesn't bring back the other";
+  window.move(10, window.y());
+  window.SetTop(1508);
+  EXPECT_EQ(window.Left(), 150);
+}
+
+TEST_F(WindowTest, AWindowWithoutAScreenIsBroughtBack) {
+  window.SetLeft(-150000);
+  window.SetTop(150000);
+  Open();
+  EXPECT_TRUE(window.screen()->geometry().intersects(window.geometry()));
+}
+
+TEST_F(WindowTest, UnloadHidesUnlessRefusedAndIsRaisedOnce) {
+  bool refuse = true;
+  window.Unload.Connect([&](bool& refused) {
+    log.push_back("unload");
+    window.UnloadWindow();  // from inside its own handler
+    refused = refuse;
+  });
+  Open();
+  window.close();
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_FALSE(window.IsUnloaded());
+  refuse = false;
+  window.close();
+  window.UnloadWindow();
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(window.IsUnloaded());
+  EXPECT_THAT(log, ElementsAre("unload", "unload"));
+}
+
+TEST_F(WindowTest, AModalWindowWaitsForItsUnloadAndKeepsTheOthersDeaf) {
+  ImageBox image(&window);
+  image.SetPlace({.left = 0, .top = 0, .width = 1500, .height = 1500});
+  image.Click.Connect([this] { log.push_back("owner"); });
+  Open();
+  Window dialog(WindowFrame::kDesktop, "frmDialog");
+  dialog.SetWidth(1500);
+  dialog.SetHeight(750);
+  const int modals = ModalCount();
+  Meanwhile([&] {
+    EXPECT_TRUE(dialog.isVisible());
+    ClickOn(&image);
+    log.push_back("unloading");
+    dialog.UnloadWindow();
+    log.push_back("unloaded");
+  });
+  dialog.ShowModal();
+  log.push_back("back");
+  EXPECT_THAT(log, ElementsAre("unloading", "unloaded", "back"));
+  EXPECT_NE(ModalCount(), modals);
+  ClickOn(&image);
+  EXPECT_EQ(log.back(), "owner");
+}
+
+TEST_F(WindowTest, EnterAndEscapePressTheWindowsButtonsWhereNoControlTakesThem) {
+  window.SetDefaultAction([this] { log.push_back("default"); });
+  window.SetCancelAction([this] { log.push_back("cancel"); });
+  TextBox text(&window);
+  ListBox list(&window);
+  list.AddItem("folder");
+  PushButton cancel(&window);
+  cancel.Click.Connect([this] { log.push_back("button"); });
+  Open();
+  for (QWidget* widget : std::initializer_list<QWidget*>{&window, &text, &list}) {
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_Return);
+    QTest::keyClick(widget, Qt::Key_Escape);
+    EXPECT_THAT(log, ElementsAre("default", "cancel"));
+    log.clear();
+  }
+  list.KeyDown.Connect([&](const KeyArgs&) { list.SwallowKey(); });
+  QTest::keyClick(&list, Qt::Key_Return);
+  EXPECT_THAT(log, IsEmpty());
+  QTest::keyClick(&cancel, Qt::Key_Return);
+  QTest::keyClick(&cancel, Qt::Key_Escape);
+  EXPECT_THAT(log, ElementsAre("button", "cancel")) << "not the default button";
+}
+
+// The platform of the tests can't move windows, so the window follows by itself.
+TEST_F(WindowTest, FollowsTheMouseUntilTheButtonIsUpWithoutAClick) {
+  ImageBox logo(&window);
+  logo.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 1500});
+  logo.Click.Connect([this] { log.push_back("click"); });
+  logo.MouseMove.Connect([this](const MouseArgs& mouse) {
+    if (mouse.button != MouseButton::kLeft) return;
+    window.MoveWithMouse();
+    log.push_back("moved");
+  });
+  window.SetLeft(3000);
+  window.SetTop(3000);
+  Open();
+  const QPoint grip(50, 50);
+  Press(&logo, grip);
+  QWindow* const handle = window.windowHandle();
+  Meanwhile([&] {
+    QTest::mouseMove(handle, grip + QPoint(30, -20));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, grip);
+  });
+  QTest::mouseMove(handle, grip + QPoint(1, 0));
+  EXPECT_THAT(log, ElementsAre("moved"));
+  EXPECT_NE(window.pos(), QPoint(200, 200));
+  const QPoint place = window.pos();
+  QTest::mouseMove(handle, grip + QPoint(10, 10));
+  EXPECT_EQ(window.pos(), place) << "the button is up";
+}
+
+TEST_F(WindowTest, IsPutOnTopWithoutAChangeOfPlaceOrFocus) {
+  TextBox text(&window);
+  window.SetLeft(1500);
+  window.SetTop(1500);
+  Open();
+  text.setFocus();
+  for (const bool on : {true, false}) {
+    window.SetAlwaysOnTop(on);
+    EXPECT_EQ(window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), on);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(text.hasFocus());
+    EXPECT_EQ(window.pos(), QPoint(100, 100));
+  }
+}
+
+TEST(PopupMenuTest, ShowsItsCaptionsLiterallyAndReturnsWhenClosed) {
+  PopupMenu menu("mnuTest", {"mnuMadeBy", "mnuYear", "", "mnuOC"});
+  menu.SetCaption(0, "R&D <Sega>");
+  menu.SetCaption(3, "Clone");
+  EXPECT_EQ(menu.Caption(0), "R&D <Sega>");
+  bool seen = false;
+  Meanwhile([&] {
+    auto* const popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(popup, nullptr);
+    seen = true;
+    EXPECT_EQ(popup->objectName(), QStringLiteral("mnuTest"));
+    EXPECT_EQ(popup->actions().at(0)->text(), QStringLiteral("R&&D <Sega>"));
+    EXPECT_TRUE(popup->actions().at(2)->isSeparator());
+    QTest::keyClick(popup, Qt::Key_Escape);
+  });
+  menu.ShowAt(QPoint(100, 100));
+  EXPECT_TRUE(seen);
+}
+
+// Shows a box, presses a key on it and tells the answer.
+BoxAnswer AnswerOf(BoxButtons buttons, const std::vector<Qt::Key>& keys) {
+  DesktopBoxes boxes;
+  Meanwhile([&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("Zarvo 0.1"));
+    EXPECT_EQ(box->text(), QStringLiteral("<b>Delete</b>\n& go?"));
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+    for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+  });
+  return boxes.Show(BoxIcon::kExclamation, buttons, "Zarvo 0.1", "<b>Delete</b>\r& go?");
+}
+
+TEST(DesktopBoxesTest, AreAnsweredByKeyboard) {
+  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Return}), BoxAnswer::kYes);
+  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Escape}), BoxAnswer::kNo);
+  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Tab, Qt::Key_Return}), BoxAnswer::kNo);
+  EXPECT_EQ(AnswerOf(BoxButtons::kOk, {Qt::Key_Return}), BoxAnswer::kOk);
+  EXPECT_EQ(AnswerOf(BoxButtons::kOk, {Qt::Key_Escape}), BoxAnswer::kOk);
+}
+
+}  // namespace
+}  // namespace zarvo
