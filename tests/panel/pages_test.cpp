@@ -80,6 +80,17 @@ TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
   }
 }
 
+// Behind an empty line no record is found; the next game must not inherit this one's options.
+TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
+  PutSettings(Emulator::kCallus, "\r\n");
+  EmulatorPanel& panel = OpenConfigured(Emulator::kCallus);
+  Press(panel.imgButSet);
+  Combo(panel, "cboHR")->SetListIndex(4);
+  Press(panel.imgButInfo);
+  PressEntry(panel.games->lstRom, 1);
+  EXPECT_EQ(Combo(panel, "cboHR")->ListIndex(), 10);
+}
+
 TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
   EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
   ListBox* const list = panel.games->lstRom;

@@ -52,6 +52,8 @@ inline std::string DataHead(std::string_view total) {
 class PanelTest : public testing::Test {
  protected:
   PanelTest() {
+    QObject::connect(&watch_, &QTimer::timeout, &watch_, CloseUnexpected);
+    watch_.start(3000);
     app_.ProgramFolder = R"(C:\Zarvo)";
     PutData("Mame", DataHead("200") + Game("Aliens;aliens;O;-;Shooter;Konami;1990") +
                         Game("Aliens (JP);aliensj;C;aliens;Shooter;Konami;1990") +
@@ -205,6 +207,14 @@ class PanelTest : public testing::Test {
       }};
 
  private:
+  // A window that nobody plays would hang the test.
+  static void CloseUnexpected() {
+    auto* const window = dynamic_cast<Window*>(QApplication::activeModalWidget());
+    if (window == nullptr) return;
+    ADD_FAILURE() << "Nobody expected the window " << window->Caption();
+    window->UnloadWindow();
+  }
+
   Status Run(std::string_view command_line) {
     EXPECT_EQ(command_line, "command.com /c lancia.bat");
     const auto batch = ReadAll(files_, "lancia.bat");
@@ -212,6 +222,8 @@ class PanelTest : public testing::Test {
     if (during_run_) during_run_();
     return Success();
   }
+
+  QTimer watch_;
 };
 
 }  // namespace zarvo
