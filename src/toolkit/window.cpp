@@ -68,7 +68,9 @@ void CountModal() { ++modal_count; }
 
 QWidget* DialogOwner() {
   static QPointer<QWidget> owner;
-  if (QWidget* const active = QApplication::activeWindow()) owner = active;
+  // The active window may still be a dialog that was closed just now.
+  QWidget* const active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) owner = active;
   return owner != nullptr && owner->isVisible() ? owner.data() : nullptr;
 }
 
