@@ -1,6 +1,5 @@
 #include "toolkit/desktop_boxes.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 #include "toolkit/control.h"
@@ -11,7 +10,7 @@ namespace zarvo {
 BoxAnswer DesktopBoxes::Show(BoxIcon icon, BoxButtons buttons, std::string_view title,
                              std::string_view text) {
   CountModal();
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(DialogOwner());
   box.setObjectName(QStringLiteral("msgBox"));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(ToQt(title));

@@ -23,8 +23,31 @@ namespace {
 
 constexpr int kScrollBarWidth = 10;
 constexpr int kSmallestSlider = 16;
+constexpr int kBoxSign = 32;
 
-// Fusion with slim scroll bars in the palette.
+// The sign of a message box, large enough to be brought down at every scale factor.
+QIcon BoxSign(bool warning) {
+  constexpr int kSide = 128;
+  QPixmap sign(kSide, kSide);
+  sign.fill(Qt::transparent);
+  QPainter painter(&sign);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor colour = warning ? QColor(0xFF, 0xC8, 0x5A) : kPeriwinkle.ToQt();
+  painter.setPen(QPen(colour, 16, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(colour);
+  if (warning) {
+    painter.drawPolygon(QPolygon({QPoint(64, 14), QPoint(118, 112), QPoint(10, 112)}));
+  } else {
+    painter.drawEllipse(12, 12, 104, 104);
+  }
+  painter.setPen(QPen(kInk.ToQt(), 15, Qt::SolidLine, Qt::RoundCap));
+  const int top = warning ? 46 : 62;
+  painter.drawLine(64, top, 64, top + 30);
+  painter.drawPoint(64, warning ? 102 : 36);
+  return sign;
+}
+
+// Fusion with slim scroll bars and the program's own signs in the palette.
 class CabinetStyle : public QProxyStyle {
  public:
   CabinetStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -32,14 +55,22 @@ class CabinetStyle : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     if (metric == PM_ScrollBarExtent) return kScrollBarWidth;
+    if (metric == PM_MessageBoxIconSize) return kBoxSign;
     if (metric == PM_ScrollBarSliderMin) return kSmallestSlider;
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    if (hint == SH_ComboBox_Popup) return 0;
+    if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    if (icon == SP_MessageBoxWarning) return BoxSign(true);
+    if (icon == SP_MessageBoxInformation) return BoxSign(false);
+    return QProxyStyle::standardIcon(icon, option, widget);
   }
 
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -129,6 +160,16 @@ QIcon AppIcon() {
   return icon;
 }
 
+// Filled, not drawn as lines: so they lie on whole pixels of the screen at every scale factor.
+void DrawEdges(QPainter& painter, const QRect& rect, const QColor& top_left,
+               const QColor& bottom_right) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 1), top_left);
+  painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height()), top_left);
+  painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), bottom_right);
+  painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), bottom_right);
+}
+
 }  // namespace
 
 QColor Faded(const QColor& colour) {
@@ -142,31 +183,17 @@ void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pres
   shine.setColorAt(pressed ? 1 : 0, face.lighter(118));
   shine.setColorAt(pressed ? 0 : 1, face.darker(112));
   painter.fillRect(rect, shine);
-  const QRect edge = rect.adjusted(0, 0, -1, -1);
-  painter.setPen(pressed ? face.darker(160) : face.lighter(145));
-  painter.drawLine(edge.topLeft(), edge.topRight());
-  painter.drawLine(edge.topLeft(), edge.bottomLeft());
-  painter.setPen(pressed ? face.lighter(130) : face.darker(170));
-  painter.drawLine(edge.bottomLeft(), edge.bottomRight());
-  painter.drawLine(edge.topRight(), edge.bottomRight());
+  DrawEdges(painter, rect, pressed ? face.darker(160) : face.lighter(145),
+            pressed ? face.lighter(130) : face.darker(170));
 }
 
 void DrawFocus(QPainter& painter, const QRect& rect) {
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(0xFF, 0xC8, 0x5A), 1));
-  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+  const QColor amber(0xFF, 0xC8, 0x5A);
+  DrawEdges(painter, rect, amber, amber);
 }
 
 void DrawSunkenEdge(QPainter& painter, const QRect& rect) {
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  const QRect edge = rect.adjusted(0, 0, -1, -1);
-  painter.setPen(kDeepNight.ToQt());
-  painter.drawLine(edge.topLeft(), edge.topRight());
-  painter.drawLine(edge.topLeft(), edge.bottomLeft());
-  painter.setPen(kSlate.ToQt());
-  painter.drawLine(edge.bottomLeft(), edge.bottomRight());
-  painter.drawLine(edge.topRight(), edge.bottomRight());
+  DrawEdges(painter, rect, kDeepNight.ToQt(), kSlate.ToQt());
 }
 
 void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,

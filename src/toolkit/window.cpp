@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -17,34 +18,41 @@ namespace {
 
 int modal_count = 0;
 
-// Follows the mouse with a window until the button is released, for desktops that can't do it
-// themselves.
+// The move of a window with the mouse, from its first step to the release of the button. Where the
+// desktop doesn't move it, the window follows the pointer by itself.
 class Mover : public QObject {
  public:
-  explicit Mover(QWidget* window) : window_(window), grip_(QCursor::pos() - window->pos()) {}
-
-  void Follow() {
+  void Start(QWidget* window) {
+    // While the desktop moves the window, and once more before it tells the release, moves with the
+    // button down still come in: a second request would take the next click of the player.
+    if (busy_) return;
+    busy_ = true;
+    const bool by_desktop =
+        window->windowHandle() != nullptr && window->windowHandle()->startSystemMove();
+    window_ = by_desktop ? nullptr : window;
+    grip_ = QCursor::pos() - window->pos();
     qApp->installEventFilter(this);
-    loop_.exec();
-    qApp->removeEventFilter(this);
   }
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::MouseButtonRelease) loop_.quit();
-    if (event->type() != QEvent::MouseMove) return false;
-    const auto& mouse = static_cast<QMouseEvent&>(*event);
-    if (mouse.buttons() == Qt::NoButton) {
-      loop_.quit();
-    } else {
-      window_->move(mouse.globalPosition().toPoint() - grip_);
+    const bool move = event->type() == QEvent::MouseMove;
+    if (move && static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton) {
+      if (window_ == nullptr) return false;
+      window_->move(static_cast<QMouseEvent*>(event)->globalPosition().toPoint() - grip_);
+      return true;
     }
-    return true;
+    if (move || event->type() == QEvent::MouseButtonRelease ||
+        event->type() == QEvent::MouseButtonPress) {
+      qApp->removeEventFilter(this);
+      busy_ = false;
+    }
+    return false;
   }
 
  private:
-  QWidget* window_;
+  bool busy_ = false;
+  QPointer<QWidget> window_;  // that follows by itself
   QPoint grip_;
-  QEventLoop loop_;
 };
 
 // A value that was set is what is read, until something else has changed the pixels.
@@ -57,6 +65,14 @@ int ReadBack(int set_twips, int pixels) {
 int ModalCount() { return modal_count; }
 
 void CountModal() { ++modal_count; }
+
+QWidget* DialogOwner() {
+  static QPointer<QWidget> owner;
+  // A dialog that has just gone may still count as the active window.
+  QWidget* const active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) owner = active;
+  return owner != nullptr && owner->isVisible() ? owner.data() : nullptr;
+}
 
 Window::Window(WindowFrame frame, std::string_view object_name)
     : QWidget(nullptr, frame == WindowFrame::kNone
@@ -134,13 +150,23 @@ void Window::BringOnScreen() {
   if (!seen && !screens.isEmpty()) move(screens.front()->availableGeometry().topLeft());
 }
 
+// Over the middle of its owner, but wholly on the screen.
+void Window::CentreOver(const QWidget& owner) {
+  const QRect room = owner.screen()->availableGeometry();
+  const QPoint place = owner.frameGeometry().center() - rect().center();
+  const int furthest_x = std::max(room.left(), room.right() + 1 - width());
+  const int furthest_y = std::max(room.top(), room.bottom() + 1 - height());
+  move(std::clamp(place.x(), room.left(), furthest_x),
+       std::clamp(place.y(), room.top(), furthest_y));
+}
+
 void Window::ShowModal() {
   CountModal();
   setWindowModality(Qt::ApplicationModal);
   winId();
-  if (const QWidget* const owner = QApplication::activeWindow()) {
+  if (const QWidget* const owner = DialogOwner()) {
     windowHandle()->setTransientParent(owner->windowHandle());
-    move(owner->frameGeometry().center() - rect().center());
+    CentreOver(*owner);
   }
   unloaded_ = false;
   show();
@@ -164,13 +190,16 @@ void Window::UnloadWindow() {
 }
 
 void Window::MoveWithMouse() {
+  static Mover mover;
   CountModal();
-  if (windowHandle() != nullptr && windowHandle()->startSystemMove()) return;
-  Mover(this).Follow();
+  mover.Start(this);
 }
 
 void Window::SetAlwaysOnTop(bool on) {
   winId();
+  // The widget would make the window anew; it only has to know, for the next time it is shown.
+  Qt::WindowFlags flags = windowFlags();
+  overrideWindowFlags(flags.setFlag(Qt::WindowStaysOnTopHint, on));
   windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
 }
 

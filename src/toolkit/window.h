@@ -48,7 +48,7 @@ class Window : public QWidget {
   void UnloadWindow();
   [[nodiscard]] bool IsUnloaded() const { return unloaded_; }
 
-  // The left button is down on the surface: the desktop moves the window until it is released.
+  // The left button is down on the surface: the window moves with the mouse until it is released.
   void MoveWithMouse();
 
   // Into the top-most band of the desktop or out of it, without a change of place, size or focus.
@@ -73,6 +73,7 @@ class Window : public QWidget {
   void ApplyPlace();
   void ApplySize();
   void BringOnScreen();
+  void CentreOver(const QWidget& owner);
 
   TwipRect place_;  // as set
   Picture background_;
@@ -88,5 +89,9 @@ class Window : public QWidget {
 // changed knows that the mouse was let go meanwhile.
 int ModalCount();
 void CountModal();
+
+// The window over which a dialog or box belongs: the active one, or between two boxes, while none
+// is active yet, the owner of the last one. May be nullptr.
+QWidget* DialogOwner();
 
 }  // namespace zarvo

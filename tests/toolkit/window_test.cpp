@@ -131,6 +131,29 @@ TEST_F(WindowTest, AModalWindowWaitsForItsUnloadAndKeepsTheOthersDeaf) {
   EXPECT_EQ(log.back(), "owner");
 }
 
+TEST_F(WindowTest, AModalWindowStandsOverItsOwnerAndOnTheScreen) {
+  Window dialog(WindowFrame::kNone, "frmDialog");
+  dialog.SetWidth(1500);
+  dialog.SetHeight(750);
+  const auto place_over = [&](int left, int top) {
+    window.SetLeft(left);
+    window.SetTop(top);
+    window.ShowModeless();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    QPoint place;
+    Meanwhile([&] {
+      place = dialog.pos();
+      dialog.UnloadWindow();
+    });
+    dialog.ShowModal();
+    return place;
+  };
+  // The owner is 200 x 100 pixels, the dialog 100 x 50.
+  const QPoint off_centre = place_over(3000, 3000) - QPoint(250, 225);
+  EXPECT_LE(off_centre.manhattanLength(), 2);
+  EXPECT_EQ(place_over(-1500, -750), QPoint(0, 0));
+}
+
 TEST_F(WindowTest, EnterAndEscapePressTheWindowsButtonsWhereNoControlTakesThem) {
   window.SetDefaultAction([this] { log.push_back("default"); });
   window.SetCancelAction([this] { log.push_back("cancel"); });
@@ -162,25 +185,27 @@ TEST_F(WindowTest, FollowsTheMouseUntilTheButtonIsUpWithoutAClick) {
   logo.Click.Connect([this] { log.push_back("click"); });
   logo.MouseMove.Connect([this](const MouseArgs& mouse) {
     if (mouse.button != MouseButton::kLeft) return;
+    log.push_back("move");
     window.MoveWithMouse();
-    log.push_back("moved");
   });
   window.SetLeft(3000);
   window.SetTop(3000);
   Open();
-  const QPoint grip(50, 50);
-  Press(&logo, grip);
-  QWindow* const handle = window.windowHandle();
-  Meanwhile([&] {
-    QTest::mouseMove(handle, grip + QPoint(30, -20));
-    QTest::mouseRelease(handle, Qt::LeftButton, {}, grip);
-  });
-  QTest::mouseMove(handle, grip + QPoint(1, 0));
-  EXPECT_THAT(log, ElementsAre("moved"));
-  EXPECT_NE(window.pos(), QPoint(200, 200));
-  const QPoint place = window.pos();
-  QTest::mouseMove(handle, grip + QPoint(10, 10));
-  EXPECT_EQ(window.pos(), place) << "the button is up";
+  const auto move_to = [&](QPoint global) {
+    QTest::mouseMove(window.windowHandle(), window.mapFromGlobal(global));
+    return window.pos();
+  };
+  Press(&logo, {50, 50});
+  move_to({251, 250});
+  const QPoint first = move_to({260, 255});
+  EXPECT_EQ(move_to({360, 235}) - first, QPoint(100, -20));
+  Release(&logo, {50, 50});
+  const QPoint last = window.pos();
+  EXPECT_EQ(move_to({300, 300}), last) << "the button is up";
+  EXPECT_THAT(log, ElementsAre("move")) << "the rest of the moves goes to the window";
+  MoveTo(&logo, {60, 60});
+  ClickOn(&logo, {60, 60});
+  EXPECT_EQ(log.back(), "click");
 }
 
 TEST_F(WindowTest, IsPutOnTopWithoutAChangeOfPlaceOrFocus) {
