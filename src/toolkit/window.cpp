@@ -68,7 +68,7 @@ void CountModal() { ++modal_count; }
 
 QWidget* DialogOwner() {
   static QPointer<QWidget> owner;
-  // The active window may still be a dialog that was closed just now.
+  // A dialog that has just gone may still count as the active window.
   QWidget* const active = QApplication::activeWindow();
   if (active != nullptr && active->isVisible()) owner = active;
   return owner != nullptr && owner->isVisible() ? owner.data() : nullptr;
