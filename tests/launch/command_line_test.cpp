@@ -77,7 +77,7 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
   static std::string DefaultOf(const std::string& name) {
     const OptionSpec& declared = Spec(name);
     return declared.kind == OptionKind::kText ? std::string(declared.default_text)
-                                          : std::to_string(declared.default_value);
+                                              : std::to_string(declared.default_value);
   }
 
   // The line of the expectations with every option at its default but one.
