@@ -84,7 +84,8 @@ class Program {
             .show_layouts = [this] { ShowLayouts(); },
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
-            .end_program = [] { QApplication::quit(); }};
+            // Not quit(), which would first ask every open panel to close.
+            .end_program = [] { QApplication::exit(); }};
   }
 
   LayoutTools ToolsForLayouts() {

@@ -29,6 +29,8 @@ class PlainBlock {
     for (std::size_t i = 0; i < kBlockSize; ++i) mask |= BlockMask{bytes_[i] == wanted} << i;
     return mask;
   }
+  // "<" and ">".
+  [[nodiscard]] BlockMask EitherBracket() const { return Equal('<') | Equal('>'); }
   // Blanks and control characters.
   [[nodiscard]] BlockMask Blank() const {
     BlockMask mask = 0;
@@ -49,6 +51,11 @@ class VectorBlock {
       : bytes_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes))) {}
   [[nodiscard]] BlockMask Equal(char wanted) const {
     return Mask(_mm_cmpeq_epi8(bytes_, _mm_set1_epi8(wanted)));
+  }
+  // The two differ in one bit.
+  [[nodiscard]] BlockMask EitherBracket() const {
+    static_assert(('<' | 2) == '>');
+    return Mask(_mm_cmpeq_epi8(_mm_or_si128(bytes_, _mm_set1_epi8(2)), _mm_set1_epi8('>')));
   }
   [[nodiscard]] BlockMask Blank() const {
     return Mask(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(' ')), bytes_));

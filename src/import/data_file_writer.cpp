@@ -24,8 +24,8 @@ class OutputFile {
   }
 
   // False after the first failure, with errno set.
-  bool Write(std::string_view bytes);
-  bool Flush() { return ::fsync(descriptor_) == 0; }
+  [[nodiscard]] bool Write(std::string_view bytes) const;
+  [[nodiscard]] bool Flush() const { return ::fsync(descriptor_) == 0; }
   bool Close();
   void Keep() { path_.clear(); }
 
@@ -34,7 +34,7 @@ class OutputFile {
   std::string path_;
 };
 
-bool OutputFile::Write(std::string_view bytes) {
+bool OutputFile::Write(std::string_view bytes) const {
   while (!bytes.empty()) {
     const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR) continue;

@@ -99,6 +99,12 @@ void AppendCharacter(char32_t character, std::string& out) {
   }
 }
 
+// Nearly all texts are: printable ASCII that means the same in a data file.
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return c >= ' ' && c <= '~' && c != ';'; });
+}
+
 // One of the bytes 0x80 to 0xFF that stands for itself.
 void AppendForeignByte(unsigned char byte, std::string& out) {
   if (!IsControl(ToUnicode(byte))) AppendByte(byte, out);
@@ -120,6 +126,7 @@ void AppendUtf8(char32_t code_point, std::string& out) {
 }
 
 std::string ToFieldText(std::string_view text) {
+  if (IsPlain(text)) return std::string(TrimBlanks(text));
   std::string field;
   field.reserve(text.size());
   while (!text.empty()) {

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <exception>
 
 #include "import/catalogue_builder.h"
 #include "import/data_file_writer.h"
@@ -103,7 +104,10 @@ int Run(std::span<const std::string> arguments) {
 }  // namespace
 }  // namespace zarvo
 
-int main(int count, char** words) {
+int main(int count, char** words) try {
   const std::vector<std::string> arguments(words + 1, words + count);
   return zarvo::Run(arguments);
+} catch (const std::exception& failure) {
+  std::fprintf(stderr, "zarvo-import: %s\n", failure.what());
+  return zarvo::kNotWritten;
 }

@@ -30,6 +30,8 @@ inline BlockMask OddSince(BlockMask mask) {
   return mask & kWholeBlock;
 }
 
+inline bool IsOdd(BlockMask mask) { return __builtin_parity(mask) != 0; }
+
 // From behind the tag's name to its ">", or to a "<", which no tag may hold, or nullptr if `end`
 // comes first. Up to 15 readable bytes must follow `end`, none of them one of <>"'.
 template <typename AnyBlock = Block>
@@ -38,14 +40,19 @@ const char* FindTagEnd(const char* start, const char* end) {
   for (const char* at = start; at < end; at += kBlockSize) {
     const AnyBlock block(at);
     const BlockMask quotes = block.Equal('"');
-    const BlockMask closes = block.Equal('>');
-    const BlockMask rare = block.Equal('\'') | block.Equal('<');
-    const BlockMask quoted = OddSince(quotes) ^ inside;
-    const BlockMask ends = closes & ~quoted;
-    if ((ends | rare) != 0) {
-      if (ends == 0 || (rare & (ends ^ (ends - 1))) != 0) return FindTagEndSlowly(start, end);
-      return at + FirstBit(ends);
+    const BlockMask stops = block.EitherBracket() | block.Equal('\'');
+    if (stops == 0) {
+      if (IsOdd(quotes)) inside ^= kWholeBlock;
+      continue;
     }
+    const BlockMask quoted = OddSince(quotes) ^ inside;
+    const BlockMask closes = block.Equal('>');
+    const BlockMask ends = closes & ~quoted;
+    const BlockMask rare = stops & ~closes;
+    if (ends == 0 ? rare != 0 : (rare & (ends ^ (ends - 1))) != 0) {
+      return FindTagEndSlowly(start, end);
+    }
+    if (ends != 0) return at + FirstBit(ends);
     inside = (quoted >> (kBlockSize - 1)) != 0 ? kWholeBlock : 0;
   }
   return nullptr;

@@ -81,11 +81,11 @@ void Remember(std::span<const std::string_view> fields, AppState& app) {
 
 // What isn't stored, and what can be used, stay as they are on the page.
 void KeepUnstored(std::span<const OptionSpec> options, const OptionValues& page,
-                  OptionValues& values) {
+                  OptionValues& loaded) {
   if (page.values.size() != options.size()) return;
   for (std::size_t i = 0; i < options.size(); ++i) {
-    if (!options[i].stored) values.values[i] = page.values[i];
-    values.values[i].enabled = page.values[i].enabled;
+    if (!options[i].stored) loaded.values[i] = page.values[i];
+    loaded.values[i].enabled = page.values[i].enabled;
   }
 }
 

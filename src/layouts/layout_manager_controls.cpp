@@ -26,6 +26,20 @@ constexpr TwipRect InRow(int index, int count, int top) {
   return Pixels(kLeft + index * (width + kGap), top, width, kButtonHeight);
 }
 
+Frame* PutFrame(QWidget* parent, std::string_view name, const TwipRect& place,
+                std::string_view caption) {
+  auto* frame = PutCaption<Frame>(parent, name, place, caption);
+  frame->SetOnDarkGround(true);
+  return frame;
+}
+
+CheckBox* PutCheck(QWidget* parent, std::string_view name, const TwipRect& place,
+                   std::string_view caption) {
+  auto* check = PutCaption<CheckBox>(parent, name, place, caption);
+  check->SetForeColor(kMoon);
+  return check;
+}
+
 }  // namespace
 
 void LayoutManager::Build() {
@@ -34,8 +48,7 @@ void LayoutManager::Build() {
   SetHeight(ToTwips(kHeight));
   BuildLayouts();
   BuildDefault();
-  chkAlwaysOnTop =
-      PutCaption<CheckBox>(this, "chkAlwaysOnTop", Pixels(kLeft, 261, 100, 18), "Always on top");
+  chkAlwaysOnTop = PutCheck(this, "chkAlwaysOnTop", Pixels(kLeft, 261, 100, 18), "Always on top");
   cmdOk = PutCaption<PushButton>(
       this, "cmdOk", Pixels(kFrameLeft + kFrameWidth - 72, 258, 72, kButtonHeight), "Close");
 }
@@ -45,8 +58,7 @@ void LayoutManager::BuildLayouts() {
   constexpr int kListHeight = 72;
   constexpr int kEmulatorsWidth = 100;
   constexpr int kSizesLeft = kLeft + kEmulatorsWidth + kGap;
-  Frame4 = PutCaption<Frame>(this, "Frame4", Pixels(kFrameLeft, 4, kFrameWidth, 175),
-                             "Multiple Layouts");
+  Frame4 = PutFrame(this, "Frame4", Pixels(kFrameLeft, 4, kFrameWidth, 175), "Multiple Layouts");
   cboListaLayout =
       Put<ComboBox>(this, "cboListaLayout", Pixels(kLeft, 22, kInnerWidth, kBoxHeight));
   cboListaLayout->SetAccessibleName("Layout");
@@ -66,10 +78,9 @@ void LayoutManager::BuildLayouts() {
 
 void LayoutManager::BuildDefault() {
   constexpr int kLabelWidth = 32;
-  Frame5 =
-      PutCaption<Frame>(this, "Frame5", Pixels(kFrameLeft, 183, kFrameWidth, 69), "Default layout");
-  chkEnableAutoload = PutCaption<CheckBox>(
-      this, "chkEnableAutoload", Pixels(kLeft, 200, kInnerWidth, 18), "Enable Autoload on Stratup");
+  Frame5 = PutFrame(this, "Frame5", Pixels(kFrameLeft, 183, kFrameWidth, 69), "Default layout");
+  chkEnableAutoload = PutCheck(this, "chkEnableAutoload", Pixels(kLeft, 200, kInnerWidth, 18),
+                               "Enable Autoload on Stratup");
   Label1 = PutCaption<Label>(this, "Label1", Pixels(kLeft, 225, kLabelWidth, 14), "Load");
   cboListaLayout2 =
       Put<ComboBox>(this, "cboListaLayout2",

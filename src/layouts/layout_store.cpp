@@ -83,8 +83,9 @@ bool AddRecord(std::string_view line, std::vector<LayoutRecord>& records) {
   if (!is_main && FindProfile(word) == nullptr) return true;
   line.remove_prefix(std::min(line.size(), word.size() + 1));
   auto record = is_main ? ParseMain(line) : ParsePanel(word, line);
-  if (record) records.push_back(*std::move(record));
-  return record.has_value();
+  if (!record) return false;
+  records.push_back(*std::move(record));
+  return true;
 }
 
 std::string LineOf(const LayoutRecord& record) {

@@ -30,14 +30,17 @@ void EmulatorPanel::LoadCfg(bool paths_only) {
 
 void EmulatorPanel::SaveCfg() {
   tools_.app.RomPathOf(profile_.emulator) = picConf->txtOptRomPath->Text();
-  Report(tools_, WriteCfg(tools_.files, tools_.app, profile_,
-                          {.exe_path = picConf->txtOptExePath->Text(),
-                           .rom_path = picConf->txtOptRomPath->Text(),
-                           .snap_path = picConf->txtOptSnap->Text(),
-                           .snap_format = picConf->SnapFormat(),
-                           .emulator_folder = lblOptHide,
-                           .layout_word = sizes->lblRidimen,
-                           .favourites = favourites->EntriesBackwards()}));
+  const Status saved = WriteCfg(tools_.files, tools_.app, profile_,
+                                {.exe_path = picConf->txtOptExePath->Text(),
+                                 .rom_path = picConf->txtOptRomPath->Text(),
+                                 .snap_path = picConf->txtOptSnap->Text(),
+                                 .snap_format = picConf->SnapFormat(),
+                                 .emulator_folder = lblOptHide,
+                                 .layout_word = sizes->lblRidimen,
+                                 .favourites = favourites->EntriesBackwards()});
+  if (saved.ok() || told_ == saved.error().message) return;
+  Report(tools_, saved);
+  if (told_) told_ = saved.error().message;
 }
 
 void EmulatorPanel::SaveSettings(std::string_view key) {
@@ -76,6 +79,7 @@ void EmulatorPanel::Enter() {
     ShowConfiguration();
   }
   tools_.app.ShowWord(profile_.emulator) = "SI";
+  FirstList()->setFocus();
   ShowModeless();
 }
 
@@ -151,12 +155,16 @@ void EmulatorPanel::EnterSettingsPage() {
   }
 }
 
+// The favourites if there are any, else the big list where the panel has one.
+ListBox* EmulatorPanel::FirstList() const {
+  return favourites->lstPref->ListCount() > 0 || games->lstRom == nullptr ? favourites->lstPref
+                                                                          : games->lstRom;
+}
+
 std::string EmulatorPanel::FirstGame() {
-  const std::string caption = lblRomSettings->Caption();
+  std::string caption = lblRomSettings->Caption();
   if (!caption.empty()) return caption;
-  ListBox* const list = favourites->lstPref->ListCount() > 0 || games->lstRom == nullptr
-                            ? favourites->lstPref
-                            : games->lstRom;
+  ListBox* const list = FirstList();
   list->SetListIndex(0);
   return list->Text();
 }
@@ -164,6 +172,7 @@ std::string EmulatorPanel::FirstGame() {
 void EmulatorPanel::OnSelected(const ListBox* list) {
   const bool guarded = list == games->lstRom && profile_.has_filters;
   if (guarded && games->lblFilterHide == "FREE") return;
+  TakeBack();
   ++cycles_;
   const std::string name = list->Text();
   if (picSnap->imgSnap->Visible()) {
@@ -219,12 +228,17 @@ void EmulatorPanel::ShowGameList() {
 // The controls always belong to the game in the caption: whenever it moves, that game's record is
 // loaded. Returns whether it moved.
 bool EmulatorPanel::MoveCaption(const std::string& name) {
-  if (name == lblRomSettings->Caption()) return false;
+  const std::string before = lblRomSettings->Caption();
+  if (name == before) return false;
   lblRomSettings->SetCaption(name);
-  if (LoadGame(name) == LoadOutcome::kNothing) {
-    picSettings->Apply(DefaultValues(profile_, tools_.app.RomPathOf(profile_.emulator)));
-  }
+  // While no game was current the controls held no game's values: start values or presets stay.
+  const LoadOutcome outcome = LoadGame(name);
+  if (outcome == LoadOutcome::kNothing && !before.empty()) ApplyDefaults();
   return true;
+}
+
+void EmulatorPanel::ApplyDefaults() {
+  picSettings->Apply(DefaultValues(profile_, tools_.app.RomPathOf(profile_.emulator)));
 }
 
 LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,7 +32,7 @@ namespace zarvo {
 class EmulatorPanel : public Window, private LaunchPanel {
  public:
   // Creates the panel and runs its load; it isn't shown.
-  EmulatorPanel(const EmulatorProfile& profile, const PanelTools& tools);
+  EmulatorPanel(const EmulatorProfile& profile, PanelTools tools);
   ~EmulatorPanel() override;
 
   [[nodiscard]] const EmulatorProfile& Profile() const { return profile_; }
@@ -99,6 +100,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void BuildHeader();
   void BuildPageButtons();
   void BuildPages();
+  void OrderControls();
   void Wire();
   void WireLists();
   void WirePageButton(ImageBox* button, int left, std::function<void()> action);
@@ -113,6 +115,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void EnterInfoPage();
   void EnterHelpPage();
   void EnterConfigurationPage();
+  [[nodiscard]] ListBox* FirstList() const;
   std::string FirstGame();
   void OnSelected(const ListBox* list);
   void SelectOnSettingsPage(const std::string& name);
@@ -122,11 +125,13 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void ShowGameList();
   bool MoveCaption(const std::string& name);
   LoadOutcome LoadGame(std::string_view key);
+  void ApplyDefaults();
   void ApplyToAll();
   void Exit();
 
   // panel_launch.cpp: pickers and start of a game
   void StartSelected(const ListBox* list);
+  void TakeBack();
   void BrowseExecutable();
   void BrowseRomFolder();
   void BrowseSnapFolder();
@@ -150,6 +155,8 @@ class EmulatorPanel : public Window, private LaunchPanel {
   bool closed_ = false;  // saved and counted as closed
   // What the settings page held for the game in the caption while another game is started.
   std::optional<OptionValues> set_aside_;
+  // During a start, which saves the configuration twice: the failure that was told already.
+  std::optional<std::string> told_;
 };
 
 }  // namespace zarvo

@@ -25,7 +25,7 @@ constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
      .columns = 1,
      .row_height = 180,
      .key_width = 570,
-     .text_size = 11},
+     .text_size = 10},
     {.list_height = 1410,
      .title = "Game Details",
      .columns = 2,
@@ -110,7 +110,7 @@ void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, Emulator emula
   if (third_width > 0) cell(place.width - third_width, third_width, row.third);
 }
 
-void HelpPage::SetLines(const std::vector<std::string>& lines) {
+void HelpPage::SetLines(const std::vector<std::string>& lines) const {
   NameList items;
   for (const std::string& line : lines) items.Append(line);
   lstHelp->SetItems(std::move(items));

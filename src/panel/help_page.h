@@ -16,7 +16,7 @@ class HelpPage : public PictureBox {
   HelpPage(QWidget* parent, const EmulatorProfile& profile);
 
   // Replaces the content of the list.
-  void SetLines(const std::vector<std::string>& lines);
+  void SetLines(const std::vector<std::string>& lines) const;
 
   ListBox* lstHelp = nullptr;  // nullptr: this panel has keys alone
 

@@ -15,10 +15,12 @@ struct RowPlace {
   int caption_width;
 };
 
+constexpr Colour kValue{0x8A3A1E};  // a blue that stands out from the captions
+
 constexpr int kRow = 195;
 
-constexpr TwipRect LeftRow(int top, int row) { return {150, top + row * kRow, 1680, kRow}; }
-constexpr TwipRect RightRow(int top, int row) { return {2085, top + row * kRow, 1680, kRow}; }
+constexpr TwipRect LeftRow(int top, int row) { return {120, top + row * kRow, 1740, kRow}; }
+constexpr TwipRect RightRow(int top, int row) { return {2040, top + row * kRow, 1740, kRow}; }
 
 constexpr int kGeneralTop = 240;
 constexpr int kEmulationTop = 1230;
@@ -86,7 +88,7 @@ Label* InfoPage::Row(const TwipRect& place, int caption_width, std::string_view 
   Label* const value = MakeCaption(
       this, {place.left + caption_width, place.top, place.width - caption_width, place.height}, "");
   value->SetName(name);
-  value->SetBold(true);
+  value->SetForeColor(kValue);
   return value;
 }
 
@@ -95,7 +97,9 @@ Label* InfoPage::FieldLabel(Field field) const { return labels_[static_cast<std:
 void InfoPage::ShowRecord(const GameRecord& record) {
   for (const DetailRow& row : DetailRows()) {
     const auto text = DetailText(record, row.field);
-    if (text) FieldLabel(row.field)->SetCaption(*text);
+    if (!text) continue;
+    FieldLabel(row.field)->SetCaption(*text);
+    FieldLabel(row.field)->SetToolTipText(*text);  // a long one doesn't fit its row
   }
   lblInfoSamples->SetCaption(SamplesText(record));
 }

@@ -1,5 +1,6 @@
 // Building and wiring of a panel's controls.
 #include <array>
+#include <utility>
 
 #include "panel/control_names.h"
 #include "panel/emulator_panel.h"
@@ -8,6 +9,7 @@
 #include "panel/panel_rules.h"
 #include "panel/panel_texts.h"
 #include "toolkit/keys.h"
+#include "toolkit/tab_order.h"
 
 namespace zarvo {
 namespace {
@@ -21,8 +23,10 @@ constexpr TwipRect kButtonSize{0, 0, 705, 315};
 
 }  // namespace
 
-EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, const PanelTools& tools)
-    : Window(WindowFrame::kNone, ControlName(profile, "frm")), profile_(profile), tools_(tools) {
+EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, PanelTools tools)
+    : Window(WindowFrame::kNone, ControlName(profile, "frm")),
+      profile_(profile),
+      tools_(std::move(tools)) {
   Build();
   Wire();
   Load();
@@ -43,6 +47,7 @@ void EmulatorPanel::Build() {
   games = std::make_unique<GameFilters>(this, profile_, tools_);
   sizes = std::make_unique<PanelSizes>(*this, profile_, *games, *favourites);
   menu_ = std::make_unique<ListMenu>(profile_, tools_);
+  OrderControls();
 }
 
 void EmulatorPanel::BuildHeader() {
@@ -130,6 +135,32 @@ void EmulatorPanel::BuildPages() {
                               static_cast<Control*>(picConf)}) {
     page->SetVisible(false);
   }
+}
+
+// Left column, pages, games: the order in which the eye takes the panel in.
+void EmulatorPanel::OrderControls() {
+  OrderTabs({sizes->cmdLarge,
+             sizes->cmdMiddle,
+             sizes->cmdShort,
+             cmdExit,
+             favourites->lblClearFav,
+             sizes->cmdRidimen,
+             favourites->lstPref,
+             imgButSnap,
+             imgButSet,
+             imgButInfo,
+             imgButHelp,
+             imgButOpts,
+             picSnap,
+             picSettings,
+             picInfo,
+             picHelp,
+             picConf,
+             games->cboFilterMisc,
+             games->cboFilterGenre,
+             games->cboFilterManufactor,
+             games->cboFilterYear,
+             games->lstRom});
 }
 
 void EmulatorPanel::Wire() {

@@ -10,16 +10,23 @@ namespace zarvo {
 
 void EmulatorPanel::StartSelected(const ListBox* list) {
   const std::string game = list->Text();
+  told_.emplace();
   SaveCfg();
   // The controls belong to the game in the caption; another one borrows them for the launch.
-  if (game != lblRomSettings->Caption()) set_aside_ = picSettings->Values();
-  LoadGame(game);
+  const bool borrows = game != lblRomSettings->Caption();
+  if (borrows) set_aside_ = picSettings->Values();
+  if (LoadGame(game) == LoadOutcome::kNothing && borrows) ApplyDefaults();
   const LaunchTools tools{
       .files = tools_.files, .boxes = tools_.boxes, .app = tools_.app, .run = tools_.run};
   Launch(profile_, game, *this, tools);
+  TakeBack();
+  told_.reset();
+  if (list == favourites->lstPref && profile_.has_favourites) favourites->ShowCount();
+}
+
+void EmulatorPanel::TakeBack() {
   if (set_aside_) picSettings->Apply(*set_aside_);
   set_aside_.reset();
-  if (list == favourites->lstPref && profile_.has_favourites) favourites->ShowCount();
 }
 
 std::string EmulatorPanel::EmulatorPath() const { return picConf->txtOptExePath->Text(); }
@@ -42,8 +49,7 @@ void EmulatorPanel::ShowEmulatorPicker() {
 }
 
 void EmulatorPanel::ShowRomPicker() {
-  if (set_aside_) picSettings->Apply(*set_aside_);
-  set_aside_.reset();
+  TakeBack();
   const bool snap_page = picSnap->Visible() && !RulesOf(profile_.emulator).no_rom_hides_snap;
   ShowPage(Page::kSettings);
   picSnap->Control::SetVisible(snap_page);

@@ -57,7 +57,7 @@ void PanelSizes::BuildArrow() {
   ShowArrow();
 }
 
-void PanelSizes::ShowArrow() {
+void PanelSizes::ShowArrow() const {
   cmdRidimen->SetPicture(Picture::FromResource(lblRidimen == "down" ? "arrow_up" : "arrow_down"));
 }
 

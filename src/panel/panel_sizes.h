@@ -39,7 +39,7 @@ class PanelSizes {
   void Resize(int width, int height);
   void ArrangeDown(const DownPlaces& places);
   void ArrangeUp();
-  void ShowArrow();
+  void ShowArrow() const;
 
   Window& panel_;
   const EmulatorProfile& profile_;

@@ -34,7 +34,7 @@ SettingsPage::SettingsPage(QWidget* parent, const EmulatorProfile& profile)
   BuildFolderRow();
   const std::span<const OptionSpec> table = OptionsOf(profile.emulator);
   options_.reserve(table.size());
-  for (const OptionSpec& spec : table) BuildOption(spec);
+  for (const OptionSpec& declared : table) BuildOption(declared);
 }
 
 void SettingsPage::BuildFolderRow() {
@@ -56,38 +56,38 @@ void SettingsPage::BuildFolderRow() {
   cmdApplytoAll->SetToolTipText(" Apply current settings to All Games ");
 }
 
-void SettingsPage::BuildOption(const OptionSpec& spec) {
-  OptionControl control{.spec = &spec};
+void SettingsPage::BuildOption(const OptionSpec& declared) {
+  OptionControl control{.declared = &declared};
   Control* part = nullptr;
-  switch (spec.kind) {
+  switch (declared.kind) {
     case OptionKind::kCombo:
       part = control.combo = new ComboBox(this);
-      for (const std::string_view item : spec.items) control.combo->AddItem(item);
+      for (const std::string_view item : declared.items) control.combo->AddItem(item);
       break;
     case OptionKind::kCheck:
       part = control.check = new CheckBox(this);
       control.check->SetForeColor(kBlack);
-      control.check->SetCaption(spec.caption);
+      control.check->SetCaption(declared.caption);
       break;
     case OptionKind::kText:
       part = control.text = new TextBox(this);
-      control.text->SetMaxLength(spec.most_characters);
+      control.text->SetMaxLength(declared.most_characters);
       break;
   }
-  if (spec.kind != OptionKind::kCheck) BuildCaption(control);
-  part->SetName(ControlName(profile_, spec.name));
-  part->SetAccessibleName(spec.caption);
-  part->SetToolTipText(spec.tool_tip);
-  part->SetPlace(spec.place);
-  control.Set({.number = spec.default_value, .text = std::string(spec.default_text)});
-  part->SetEnabled(spec.enabled_at_start);
+  if (declared.kind != OptionKind::kCheck) BuildCaption(control);
+  part->SetName(ControlName(profile_, declared.name));
+  part->SetAccessibleName(declared.caption);
+  part->SetToolTipText(declared.tool_tip);
+  part->SetPlace(declared.place);
+  control.Set({.number = declared.default_value, .text = std::string(declared.default_text)});
+  part->SetEnabled(declared.enabled_at_start);
   options_.push_back(control);
 }
 
 void SettingsPage::BuildCaption(OptionControl& control) {
-  control.caption = MakeCaption(this, control.spec->caption_place, control.spec->caption);
-  if (control.spec->kind == OptionKind::kText) {
-    control.caption->SetToolTipText(control.spec->tool_tip);
+  control.caption = MakeCaption(this, control.declared->caption_place, control.declared->caption);
+  if (control.declared->kind == OptionKind::kText) {
+    control.caption->SetToolTipText(control.declared->tool_tip);
   }
 }
 
@@ -102,13 +102,13 @@ void SettingsPage::Apply(const OptionValues& values) {
   txtRomPath->SetText(values.rom_folder);
   for (std::size_t i = 0; i < options_.size(); ++i) {
     const OptionValue& value = values.values[i];
-    if (options_[i].spec->stored || value.number == 0) options_[i].Set(value);
+    if (options_[i].declared->stored || value.number == 0) options_[i].Set(value);
   }
 }
 
 void SettingsPage::ApplyPresets() {
   for (const OptionControl& control : options_) {
-    if (control.spec->preset) control.Set({.number = *control.spec->preset, .text = {}});
+    if (control.declared->preset) control.Set({.number = *control.declared->preset, .text = {}});
   }
 }
 

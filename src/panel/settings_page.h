@@ -16,7 +16,7 @@ namespace zarvo {
 
 // The control of one option; one of the three pointers is set.
 struct OptionControl {
-  const OptionSpec* spec = nullptr;
+  const OptionSpec* declared = nullptr;
   ComboBox* combo = nullptr;
   CheckBox* check = nullptr;
   TextBox* text = nullptr;
@@ -49,7 +49,7 @@ class SettingsPage : public PictureBox {
 
  private:
   void BuildFolderRow();
-  void BuildOption(const OptionSpec& spec);
+  void BuildOption(const OptionSpec& declared);
   void BuildCaption(OptionControl& control);
 
   const EmulatorProfile& profile_;

@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kWidth = 3945;
 constexpr int kHeight = 4050;
+constexpr int kFilesWidth = ToTwips(140);  // recordings have long names
 constexpr std::string_view kPrograms = "*.exe";
 constexpr std::string_view kRecordings = "*.inp";
 
@@ -48,7 +49,7 @@ bool FilePicker::ChooseRecording(std::string_view folder) {
 }
 
 void FilePicker::Build(DosFiles& files) {
-  const PickerPlaces at(kWidth, kHeight);
+  const PickerPlaces at(kWidth, kHeight, kFilesWidth);
   drvSelExe = Put<DriveList>(this, "drvSelExe", at.drive, files);
   drvSelExe->SetAccessibleName("Drive");
   dirSelExe = Put<FolderList>(this, "dirSelExe", at.folders, files);
@@ -63,6 +64,7 @@ void FilePicker::Build(DosFiles& files) {
   cmdOk->SetDefault(true);
   cmdCancel = PutCaption<PushButton>(this, "cmdCancel", at.cancel, "Cancel");
   browser_ = std::make_unique<FolderBrowser>(*drvSelExe, *dirSelExe, *filSelExe, *lblPath);
+  filSelExe->setFocus();
 }
 
 void FilePicker::Wire() {

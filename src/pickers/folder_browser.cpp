@@ -25,18 +25,18 @@ void ShowPath(Label& label, const std::string& path) {
 
 }  // namespace
 
-PickerPlaces::PickerPlaces(int window_width, int window_height) {
-  const int column = ToTwips((window_width - 3 * kMargin) / 2 / kTwipsPerPixel);
-  const int right = 2 * kMargin + column;
-  const int right_end = right + column;
+PickerPlaces::PickerPlaces(int window_width, int window_height, int files_width) {
+  const int right_end = window_width - kMargin;
+  const int right = right_end - files_width;
+  const int left_width = right - 2 * kMargin;
   const int buttons_top = window_height - ToTwips(10) - kButtonHeight;
   const int path_top = buttons_top - ToTwips(9) - kLineHeight;
   const int lists_top = kMargin + kBoxHeight + ToTwips(6);
   const int lists_height = path_top - ToTwips(5) - lists_top;
-  drive = {kMargin, kMargin, column, kBoxHeight};
-  pattern = {right, kMargin, column, kBoxHeight};
-  folders = {kMargin, lists_top, column, lists_height};
-  files = {right, lists_top, column, lists_height};
+  drive = {kMargin, kMargin, left_width, kBoxHeight};
+  pattern = {right, kMargin, files_width, kBoxHeight};
+  folders = {kMargin, lists_top, left_width, lists_height};
+  files = {right, lists_top, files_width, lists_height};
   path = {kMargin, path_top, right_end - kMargin, kLineHeight};
   cancel = {right_end - kButtonWidth, buttons_top, kButtonWidth, kButtonHeight};
   accept = {cancel.left - kMargin - kButtonWidth, buttons_top, kButtonWidth, kButtonHeight};

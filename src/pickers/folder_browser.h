@@ -12,8 +12,9 @@
 namespace zarvo {
 
 // Two columns, drive and folders, pattern and files; below them the open folder and the buttons.
+// All in twips.
 struct PickerPlaces {
-  PickerPlaces(int window_width, int window_height);
+  PickerPlaces(int window_width, int window_height, int files_width);
 
   TwipRect drive;
   TwipRect folders;

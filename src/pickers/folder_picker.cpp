@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kWidth = 4005;
 constexpr int kHeight = 4320;
+constexpr int kFilesWidth = ToTwips(121);
 constexpr std::string_view kZipFiles = "*.zip";
 
 // Which control of a panel a state word means.
@@ -56,7 +57,7 @@ void FolderPicker::SetPattern(std::string_view pattern) {
 }
 
 void FolderPicker::Build(DosFiles& files) {
-  PickerPlaces at(kWidth, kHeight);
+  PickerPlaces at(kWidth, kHeight, kFilesWidth);
   const int line_height = at.path.height;
   at.files.height -= line_height + ToTwips(4);
   const int count_top = at.files.top + at.files.height + ToTwips(4);
@@ -82,6 +83,7 @@ void FolderPicker::Build(DosFiles& files) {
   cmdSeleziona->SetDefault(true);
   cmdCancel = PutCaption<PushButton>(this, "cmdCancel", at.cancel, "Cancel");
   browser_ = std::make_unique<FolderBrowser>(*drvSelDir, *dirSelDir, *filSelDir, *lblPath);
+  dirSelDir->setFocus();
 }
 
 void FolderPicker::Wire() {

@@ -59,7 +59,7 @@ struct RunPlan {
   std::string configuration_path;
   // Host path of a file that the run in DOSBox leaves behind if the program ended with an error
   // level; empty for a native program.
-  std::string failure_mark;
+  std::string failure_mark{};
   // Characters of the command line that DOS won't hand to the program.
   std::size_t lost_characters = 0;
 };

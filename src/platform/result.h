@@ -19,18 +19,18 @@ class [[nodiscard]] Result {
   Result(Error error) : state_(std::move(error)) {}  // NOLINT(google-explicit-constructor)
 
   [[nodiscard]] bool ok() const { return std::holds_alternative<T>(state_); }
-  explicit operator bool() const { return ok(); }
+  [[nodiscard]] explicit operator bool() const { return ok(); }
 
   // Only when ok(). A result that is about to go hands its value out, so that
   // `for (... : List().value())` is safe.
   [[nodiscard]] T& value() & { return std::get<T>(state_); }
   [[nodiscard]] const T& value() const& { return std::get<T>(state_); }
   [[nodiscard]] T value() && { return std::get<T>(std::move(state_)); }
-  T& operator*() & { return value(); }
-  const T& operator*() const& { return value(); }
-  T operator*() && { return std::move(*this).value(); }
-  T* operator->() { return &value(); }
-  const T* operator->() const { return &value(); }
+  [[nodiscard]] T& operator*() & { return value(); }
+  [[nodiscard]] const T& operator*() const& { return value(); }
+  [[nodiscard]] T operator*() && { return std::move(*this).value(); }
+  [[nodiscard]] T* operator->() { return &value(); }
+  [[nodiscard]] const T* operator->() const { return &value(); }
 
   // Only when not ok().
   [[nodiscard]] const Error& error() const { return std::get<Error>(state_); }

@@ -31,6 +31,8 @@ Label* PutLink(QWidget* parent, std::string_view name, const TwipRect& place,
   link->SetForeColor(kLavender);
   link->SetUnderline(true);
   link->SetPressable(true);
+  // No wider than its text, so that only the text is the link.
+  link->SetWidth(ToTwips(link->fontMetrics().horizontalAdvance(ToQt(caption)) + 2));
   return link;
 }
 
@@ -54,28 +56,29 @@ AboutWindow::AboutWindow(const AppState& app, AddressOpener open)
 
 void AboutWindow::Build() {
   SetBackground(Picture::FromResource("about_background"));
-  imgZarvo = Put<ImageBox>(this, "imgZarvo", Centred(5, 113, 32));
+  imgZarvo = Put<ImageBox>(this, "imgZarvo", Centred(4, 92, 26));
   imgZarvo->SetPicture(Picture::FromResource("logo"));
   constexpr int kVersionLeft = kWidth / 2 + ToTwips(9);
   Label1 = PutCaption<Label>(this, "Label1",
-                             {kMargin, ToTwips(39), kVersionLeft - ToTwips(4) - kMargin, kLine},
+                             {kMargin, ToTwips(31), kVersionLeft - ToTwips(4) - kMargin, kLine},
                              "Zarvo -");
   Label1->SetAlign(TextAlign::kRight);
   Label1->SetBold(true);
   lblVersion = Put<Label>(this, "lblVersion",
-                          {kVersionLeft, ToTwips(39), kWidth - kMargin - kVersionLeft, kLine});
+                          {kVersionLeft, ToTwips(31), kWidth - kMargin - kVersionLeft, kLine});
   lblVersion->SetBold(true);
   Label2 =
-      PutCaption<Label>(this, "Label2", Lines(52, 1), "The Definitive MultiFrontend for Emulators");
+      PutCaption<Label>(this, "Label2", Lines(44, 1), "The Definitive MultiFrontend for Emulators");
   Label2->SetAlign(TextAlign::kCentre);
-  lblLatestFiles = Put<Label>(this, "lblLatestFiles", Lines(68, 2));
+  lblLatestFiles = Put<Label>(this, "lblLatestFiles", Lines(59, 3));
   lblLatestFiles->SetWordWrap(true);
-  lblZarvoWeb = PutLink(this, "lblZarvoWeb", Lines(94, 1), kHomePage);
-  lblInfoRequest = Put<Label>(this, "lblInfoRequest", Lines(110, 2));
+  lblZarvoWeb = PutLink(this, "lblZarvoWeb", Lines(98, 1), kHomePage);
+  lblInfoRequest = Put<Label>(this, "lblInfoRequest", Lines(113, 2));
   lblInfoRequest->SetWordWrap(true);
-  lblEMailMe = PutLink(this, "lblEMailMe", Lines(136, 1), kSupportMail);
+  lblEMailMe = PutLink(this, "lblEMailMe", Lines(139, 1), kSupportMail);
   cmdOk = PutCaption<PushButton>(this, "cmdOk", Centred(160, 76, 23), "Close");
   cmdOk->SetDefault(true);
+  cmdOk->setFocus();
 }
 
 void AboutWindow::Wire() {

@@ -56,6 +56,8 @@ class MainWindow : public Window, public MainPlace {
   Label* lblNeoRageX;
   std::array<Label*, 17> facts;  // lblName to lblContrib, in the order of the header
 
+  Timer Timer1;  // turns the ticker
+
   // Invisible: the position of the ticker line on show, from 1.
   std::string lblNumerillo = "1";
 
@@ -68,7 +70,7 @@ class MainWindow : public Window, public MainPlace {
   Label* Text(const TwipRect& place, std::string_view caption, Colour colour);
   Label* Command(const TwipRect& place, std::string_view caption, std::string_view name);
   void Wire();
-  void WireCommand(Label* command, Label* neighbour, std::function<void()> action);
+  static void WireCommand(Label* command, Label* neighbour, std::function<void()> action);
   void WireSelector(const EmulatorProfile& profile);
 
   static void ResetCommand(Label* command);
@@ -84,7 +86,6 @@ class MainWindow : public Window, public MainPlace {
   MessageBoxes& boxes_;
   HeaderReader read_header_;
   MainActions actions_;
-  Timer Timer1;
 };
 
 }  // namespace zarvo

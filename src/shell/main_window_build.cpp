@@ -79,6 +79,7 @@ void MainWindow::Build() {
   BuildHead();
   BuildSelector();
   BuildFacts();
+  selector.front()->setFocus();
 }
 
 Label* MainWindow::Text(const TwipRect& place, std::string_view caption, Colour colour) {
@@ -207,6 +208,7 @@ void MainWindow::WireCommand(Label* command, Label* neighbour, std::function<voi
 void MainWindow::WireSelector(const EmulatorProfile& profile) {
   Label* const label = selector[static_cast<std::size_t>(profile.emulator)];
   label->MouseMove.Connect([this, &profile](const MouseArgs&) { Hover(profile); });
+  label->TabbedTo.Connect([this, &profile] { Hover(profile); });
   label->MouseDown.Connect([label](const MouseArgs&) { label->SetForeColor(kYellow); });
   label->MouseUp.Connect([this, &profile](const MouseArgs&) { ResetSelector(profile.emulator); });
   label->Click.Connect([this, &profile] { actions_.sections().OpenSection(profile); });

@@ -12,7 +12,8 @@ constexpr int kIndicator = 12;  // pixels
 constexpr int kGap = 3;
 
 QRectF IndicatorRect(const QWidget& box) {
-  return {0.5, (box.height() - kIndicator) / 2 + 0.5, kIndicator - 1.0, kIndicator - 1.0};
+  const int top = (box.height() - kIndicator) / 2;  // whole pixels, for sharp edges
+  return {0.5, top + 0.5, kIndicator - 1.0, kIndicator - 1.0};
 }
 
 // The caption beside the indicator, and the ring if the box has the focus.

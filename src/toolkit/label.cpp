@@ -124,4 +124,10 @@ void Label::keyPressEvent(QKeyEvent* event) {
   Press();
 }
 
+void Label::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) TabbedTo.Raise();
+}
+
 }  // namespace zarvo

@@ -42,6 +42,7 @@ class Label : public QWidget, public Control {
   // Left button released over the label it was pressed on, or Space or Enter on a pressable one.
   Event<> Click;
   Event<> DblClick;
+  Event<> TabbedTo;  // Tab or Shift+Tab has reached it
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -49,6 +50,7 @@ class Label : public QWidget, public Control {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   std::string caption_;

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "platform/text.h"
@@ -276,10 +277,13 @@ void ListBox::wheelEvent(QWheelEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   swallow_ = false;
+  if (event->isAutoRepeat() && KeyCodeOf(*event) == key::kEnter) return;  // held: it starts once
   KeyDown.Raise({.code = KeyCodeOf(*event), .shift = ShiftStateOf(*event)});
   if (swallow_) {
     event->accept();
-  } else if (event->key() == Qt::Key_Escape && IsDragging(this)) {
+    return;
+  }
+  if (event->key() == Qt::Key_Escape && IsDragging(this)) {
     CancelDrag(this);
   } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
     MenuKey.Raise(viewport()->mapToGlobal(EntryRect(std::max(index_, 0)).bottomLeft()));
@@ -294,38 +298,20 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ListBox::MoveByKey(int key) {
-  if (ListCount() == 0) return false;
+  const int count = ListCount();
   const int page = columns_ == 1 ? std::max(1, RowsPerPage() - 1) : columns_ * RowsPerPage();
-  int target = index_;
-  switch (key) {
-    case Qt::Key_Up:
-      target = index_ - 1;
-      break;
-    case Qt::Key_Down:
-      target = index_ + 1;
-      break;
-    case Qt::Key_Left:
-      target = StepSideways(-1);
-      break;
-    case Qt::Key_Right:
-      target = StepSideways(1);
-      break;
-    case Qt::Key_PageUp:
-      target = index_ - page;
-      break;
-    case Qt::Key_PageDown:
-      target = index_ + page;
-      break;
-    case Qt::Key_Home:
-      target = 0;
-      break;
-    case Qt::Key_End:
-      target = ListCount() - 1;
-      break;
-    default:
-      return false;
-  }
-  SetListIndex(std::clamp(target, 0, ListCount() - 1));
+  const std::array<std::pair<int, int>, 8> targets = {{{Qt::Key_Up, index_ - 1},
+                                                       {Qt::Key_Down, index_ + 1},
+                                                       {Qt::Key_Left, StepSideways(-1)},
+                                                       {Qt::Key_Right, StepSideways(1)},
+                                                       {Qt::Key_PageUp, index_ - page},
+                                                       {Qt::Key_PageDown, index_ + page},
+                                                       {Qt::Key_Home, 0},
+                                                       {Qt::Key_End, count - 1}}};
+  const auto* const found = std::find_if(targets.begin(), targets.end(),
+                                         [key](const auto& each) { return each.first == key; });
+  if (count == 0 || found == targets.end()) return false;
+  SetListIndex(std::clamp(found->second, 0, count - 1));
   return true;
 }
 

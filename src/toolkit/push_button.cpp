@@ -8,7 +8,8 @@
 namespace zarvo {
 
 PushButton::PushButton(QWidget* parent) : QPushButton(parent), Control(this) {
-  setAutoDefault(false);
+  // Enter presses the button that has the focus, whichever the window's default is.
+  setAutoDefault(true);
   QObject::connect(this, &QPushButton::clicked, this, [this] { Click.Raise(); });
 }
 

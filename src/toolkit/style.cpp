@@ -222,7 +222,7 @@ void PrepareApplication() {
   }
 }
 
-void DressUp(QApplication& application) {
+void DressUp(QApplication& /*application*/) {
   LinkPictures();
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
@@ -231,7 +231,7 @@ void DressUp(QApplication& application) {
   QApplication::setPalette(CabinetPalette());
   QApplication::setFont(font);
   QGuiApplication::setWindowIcon(AppIcon());
-  application.setApplicationName(QStringLiteral("zarvo"));
+  QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
   InstallControlAccess();
 }

@@ -12,6 +12,7 @@ class Timer {
   Timer();
   // Milliseconds; 0 stops it.
   void SetInterval(int milliseconds);
+  [[nodiscard]] int Interval() const { return timer_.isActive() ? timer_.interval() : 0; }
   Event<> Tick;
 
  private:

@@ -232,6 +232,17 @@ void Window::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// A control that lies outside of a window made small is passed over.
+bool Window::focusNextPrevChild(bool next) {
+  QWidget* const start = focusWidget();
+  while (QWidget::focusNextPrevChild(next)) {
+    const QWidget* const reached = focusWidget();
+    const QRect place(reached->mapTo(this, QPoint()), reached->size());
+    if (reached == start || rect().intersects(place)) return true;
+  }
+  return false;
+}
+
 void Window::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (!ChildIsRunning()) UnloadWindow();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,10 +24,13 @@ class RecordedBoxes : public MessageBoxes {
   // The answers to the next questions, in turn. A question without an answer fails the test.
   std::deque<BoxAnswer> answers;
   std::vector<Shown> shown;
+  // Called while a box is up.
+  std::function<void()> on_show;
 
   BoxAnswer Show(BoxIcon icon, BoxButtons buttons, std::string_view title,
                  std::string_view text) override {
     shown.push_back({icon, buttons, std::string(title), std::string(text)});
+    if (on_show) on_show();
     if (buttons == BoxButtons::kOk) return BoxAnswer::kOk;
     if (answers.empty()) {
       ADD_FAILURE() << "Nobody expected the question: " << text;

@@ -144,7 +144,7 @@ TEST(ListReader, RefusesWhatIsNoList) {
       {"<mame>\n<machine name='" + std::string(2 << 20, 'x') + "'/></mame>",
        "line 1: a tag or text of more than 1 MiB"},
       {"game ( name \"" + std::string(2 << 20, 'x') + "\" )", "line 1: a text of more than 1 MiB"},
-      {"<\0m\0a\0m\0e\0", "line 1: "},
+      {std::string("<") + '\0' + "m", "line 1: "},
   };
   for (const Case& each : cases) {
     EXPECT_THAT(ImportText(each.list).error, HasSubstr(each.error)) << each.list.substr(0, 60);
@@ -166,9 +166,9 @@ TEST(ListReader, TakesLongTextsAsFarAsALineHolds) {
 
 // The fast search for the end of a tag against the slow one, at every place within a block.
 TEST(TagEnd, BlocksAndSingleCharactersAgree) {
-  const std::string_view tails[] = {
-      "a=\"1\">x", "a=\">\" b='\"'>x", "a=\">>\"b=\"\">>", "'>'>", ">", "\"<\">", "a=\"1",
-      "",          "\"\"\"\">"};
+  const std::string_view tails[] = {R"(a="1">x)", R"(a=">" b='"'>x)", R"(a=">>"b="">>)", "'>'>",
+                                    ">",          R"("<">)",          R"(a="1)",         "",
+                                    R"("""">)"};
   for (const std::string_view tail : tails) {
     for (std::size_t shift = 0; shift < 40; ++shift) {
       std::string text = std::string(shift, ' ') + std::string(tail);

@@ -61,7 +61,7 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
     input_.now = {.year = 1999, .month = 6, .day = 23, .hour = 9, .minute = 7, .second = 3};
   }
 
-  [[nodiscard]] const OptionSpec& Spec(const std::string& name) const {
+  static const OptionSpec& Spec(const std::string& name) {
     return OptionsOf(GetParam())[OptionIndex(GetParam(), name)];
   }
 
@@ -74,10 +74,10 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
     }
   }
 
-  [[nodiscard]] std::string DefaultOf(const std::string& name) const {
-    const OptionSpec& spec = Spec(name);
-    return spec.kind == OptionKind::kText ? std::string(spec.default_text)
-                                          : std::to_string(spec.default_value);
+  static std::string DefaultOf(const std::string& name) {
+    const OptionSpec& declared = Spec(name);
+    return declared.kind == OptionKind::kText ? std::string(declared.default_text)
+                                              : std::to_string(declared.default_value);
   }
 
   // The line of the expectations with every option at its default but one.

@@ -3,137 +3,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "fakes/failing_files.h"
-#include "fakes/recorded_boxes.h"
-#include "fakes/temp_drive.h"
+#include "launch/launcher_fixture.h"
 
 namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr std::string_view kCommand = "command.com /c lancia.bat";
-
-// A panel whose answers the test sets, and that notes what it is asked.
-class ScriptedPanel : public LaunchPanel {
- public:
-  bool knows_game = true;
-  std::string rom = "sf2";
-  std::string parent = "-";
-  std::string emulator_path;
-  std::string emulator_folder;
-  OptionValues options;
-  std::vector<std::string> calls;
-
-  void SaveCfg() override { calls.emplace_back("save cfg"); }
-  bool FindRom(std::string_view game) override {
-    calls.push_back("find " + std::string(game));
-    return knows_game;
-  }
-  [[nodiscard]] std::string RomName() const override { return rom; }
-  [[nodiscard]] std::string ParentRom() const override { return parent; }
-  [[nodiscard]] std::string EmulatorPath() const override { return emulator_path; }
-  [[nodiscard]] std::string EmulatorFolder() const override { return emulator_folder; }
-  [[nodiscard]] CommandInput Command() const override {
-    return {.emulator_path = "", .rom_name = "", .options = options, .recording = "", .now = {}};
-  }
-  void ShowEmulatorPicker() override { calls.emplace_back("emulator picker"); }
-  void ShowRomPicker() override { calls.emplace_back("rom picker"); }
-};
-
-// Each emulator stands in C:\Emu\<word>; the archives that a game's record names in C:\Mine.
-class LauncherTest : public testing::Test {
- protected:
-  LauncherTest() { app_.ProgramFolder = "C:\\Zarvo"; }
-
-  void Use(Emulator emulator) {
-    profile_ = &ProfileOf(emulator);
-    panel_ = ScriptedPanel();
-    boxes_.shown.clear();
-    folder_ = "C:\\Emu\\" + std::string(profile_->word);
-    own_ = folder_ + std::string(profile_->rom_sub_folder);
-    panel_.emulator_folder = folder_;
-    panel_.emulator_path = folder_ + "\\Emu.exe";
-    panel_.options = DefaultValues(*profile_, "C:\\Mine");
-    drive_.Write(panel_.emulator_path, "program");
-    drive_.MakeFolder(own_);
-    drive_.MakeFolder("C:\\Mine");
-    batch_.clear();
-    archives_.clear();
-  }
-
-  void UseOwnFolder() { panel_.options.rom_folder = own_; }
-
-  LaunchEnd Start() { return StartWith(drive_.files()); }
-  LaunchEnd StartWith(DosFiles& files) {
-    const LaunchTools tools{
-        .files = files, .boxes = boxes_, .app = app_, .run = [this, &files](std::string_view line) {
-          EXPECT_EQ(line, kCommand);
-          return Run(files);
-        }};
-    return Launch(*profile_, "Street Fighter II", panel_, tools);
-  }
-
-  // What the emulator finds when it starts.
-  Status Run(DosFiles& files) {
-    EXPECT_TRUE(EqualNoCase(files.CurrentFolder(), folder_)) << files.CurrentFolder();
-    batch_ = drive_.Read(folder_ + "\\lancia.bat");
-    archives_ = Archives();
-    return run_result_;
-  }
-
-  [[nodiscard]] std::vector<std::string> Archives() const {
-    std::vector<std::string> archives;
-    const DosWorld& files = drive_.files();
-    for (const FolderEntry& entry : files.ListFolder(own_).value()) {
-      if (!entry.name.ends_with(".zip")) continue;
-      archives.push_back(entry.name + "=" + drive_.Read(JoinPath(own_, entry.name)));
-    }
-    std::sort(archives.begin(), archives.end());
-    return archives;
-  }
-
-  [[nodiscard]] std::vector<std::string> Questions() const {
-    std::vector<std::string> texts;
-    for (const auto& box : boxes_.shown) {
-      if (box.buttons == BoxButtons::kYesNo) texts.push_back(box.title + "|" + box.text);
-    }
-    return texts;
-  }
-
-  // The one plain warning of a launch that has ended early: "title|text".
-  [[nodiscard]] std::string Warning() const {
-    if (boxes_.shown.size() != 1 || boxes_.shown[0].icon != BoxIcon::kExclamation ||
-        boxes_.shown[0].buttons != BoxButtons::kOk) {
-      return "not one warning";
-    }
-    return boxes_.shown[0].title + "|" + boxes_.shown[0].text;
-  }
-
-  void ExpectNothingRan() {
-    EXPECT_EQ(batch_, "");
-    EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
-  }
-
-  [[nodiscard]] std::string Overwrite(const std::string& rom) const {
-    return "Zarvo v0.1|" + rom + ": " + app_.messages.MsgRomOverwrite;
-  }
-
-  mutable TempDrive drive_;
-  AppState app_;
-  RecordedBoxes boxes_;
-  const EmulatorProfile* profile_ = nullptr;
-  ScriptedPanel panel_;
-  std::string folder_;
-  std::string own_;
-  Status run_result_ = Success();
-  std::string batch_;
-  std::vector<std::string> archives_;
-};
 
 constexpr std::array<Emulator, 4> kWithoutParents = {Emulator::kCallus, Emulator::kRaine,
                                                      Emulator::kSystem16, Emulator::kM72};
@@ -181,8 +61,8 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
   Use(Emulator::kMame);
   drive_.Write(own_ + "\\sf2.zip", "own");
   std::filesystem::create_directory_symlink(drive_.Host(own_), drive_.root() / "Link");
-  for (const char* spelling : {"c:\\EMU\\mame\\ROMS", "C:\\Emu\\Mame\\roms\\", "C:/Emu/Mame/roms",
-                               "C:\\Emu\\Mame\\x\\..\\.\\roms", "C:\\Link"}) {
+  for (const char* spelling : {R"(c:\EMU\mame\ROMS)", R"(C:\Emu\Mame\roms\)", "C:/Emu/Mame/roms",
+                               R"(C:\Emu\Mame\x\..\.\roms)", "C:\\Link"}) {
     panel_.options.rom_folder = spelling;
     EXPECT_EQ(Start(), LaunchEnd::kRan) << spelling;
     EXPECT_THAT(archives_, ElementsAre("sf2.zip=own")) << spelling;
@@ -397,6 +277,14 @@ TEST_F(LauncherTest, TheParentInTheOwnFolderIsEnoughForMame) {
   EXPECT_THAT(Archives(), ElementsAre("sf.zip=own"));
 }
 
+TEST_F(LauncherTest, TheSharedRomsOfNeoGeoAreNoGame) {
+  Use(Emulator::kMame);
+  UseOwnFolder();
+  panel_.parent = "neogeo";
+  drive_.Write(own_ + "\\neogeo.zip", "own");
+  EXPECT_EQ(Start(), LaunchEnd::kNoRom);
+}
+
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
   struct Row {
     FileStep step;
@@ -404,9 +292,9 @@ TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
     std::string_view message;
   };
   const std::vector<Row> rows = {
-      {FileStep::kWrite, "lancia.bat", "C:\\Emu\\Mame\\lancia.bat: No space left on device"},
+      {FileStep::kWrite, "lancia.bat", R"(C:\Emu\Mame\lancia.bat: No space left on device)"},
       {FileStep::kChangeFolder, "Mame", "C:\\Emu\\Mame: No space left on device"},
-      {FileStep::kCopy, "sf2.zip", "C:\\Emu\\Mame\\roms\\sf2.zip: No space left on device"}};
+      {FileStep::kCopy, "sf2.zip", R"(C:\Emu\Mame\roms\sf2.zip: No space left on device)"}};
   for (const Row& row : rows) {
     Use(Emulator::kMame);
     drive_.Write("C:\\Mine\\sf2.zip", "mine");

@@ -8,8 +8,8 @@
 namespace zarvo {
 namespace {
 
-constexpr std::string_view kStore = "C:\\Zarvo\\cfg\\Raine.set";
-constexpr std::string_view kTemporary = "C:\\Zarvo\\cfg\\Raineset.tmp";
+constexpr std::string_view kStore = R"(C:\Zarvo\cfg\Raine.set)";
+constexpr std::string_view kTemporary = R"(C:\Zarvo\cfg\Raineset.tmp)";
 
 // Raine's record is the shortest: rom folder, three lists, two check boxes.
 class SettingsStore : public testing::Test {
@@ -70,7 +70,7 @@ TEST_F(SettingsStore, WritesTheRecordsOfAllEmulatorsAsTold) {
       {Emulator::kM72, R"("Aggressors of Dark Combat","C:\Emu\Mame\Roms",0,0,0,0,0,0,0,0,1,0)"}};
   for (const Row& row : rows) {
     const EmulatorProfile& profile = ProfileOf(row.emulator);
-    const OptionValues defaults = DefaultValues(profile, "C:\\Emu\\Mame\\Roms");
+    const OptionValues defaults = DefaultValues(profile, R"(C:\Emu\Mame\Roms)");
     EXPECT_EQ(RecordLine(profile, "Aggressors of Dark Combat", defaults), row.record);
   }
 }
@@ -102,7 +102,7 @@ TEST_F(SettingsStore, LoadsTheRecordOfTheKeyOrTheDefaults) {
   };
   const std::vector<Row> rows = {
       {"its record", "\"Pac\",\"C:\\A\",1,2,3,1,0\r\n", LoadOutcome::kRecord, "C:\\A 1 2 3 1 0"},
-      {"no line end", "\"Pac\",\"C:\\A\",1,2,3,1,0", LoadOutcome::kRecord, "C:\\A 1 2 3 1 0"},
+      {"no line end", R"("Pac","C:\A",1,2,3,1,0)", LoadOutcome::kRecord, "C:\\A 1 2 3 1 0"},
       {"line feeds alone", "\"X\",\"\",0\n\"Pac\",\"C:\\A\",1,2,3,1,0\n", LoadOutcome::kRecord,
        "C:\\A 1 2 3 1 0"},
       {"the first of two", "\"Pac\",\"C:\\A\",1,2,3,1,0\r\n\"Pac\",\"C:\\B\",4,4,4,0,0\r\n",

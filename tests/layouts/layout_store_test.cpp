@@ -85,7 +85,7 @@ TEST_F(Layouts, RewritesOneBlockAndNoOther) {
     std::string_view before;
     std::string_view after;
   };
-  const auto save = [](std::string_view name, std::vector<LayoutRecord> records) {
+  const auto save = [](std::string_view name, const std::vector<LayoutRecord>& records) {
     return [=](LayoutStore& store) { return store.SaveBlock(name, records); };
   };
   const auto remove = [](std::string_view name) {
@@ -138,12 +138,12 @@ TEST_F(Layouts, AFailedRewriteKeepsTheFileAndNamesIt) {
   drive_.Write(kLayouts, kThree);
   FailingFiles files(drive_.files());
   LayoutStore store(files, app_);
-  for (const FileStep step : {FileStep::kReplace, FileStep::kRead, FileStep::kChangeDrive}) {
+  for (const FileStep step : {FileStep::kReplace, FileStep::kRead, FileStep::kChangeFolder}) {
     files.Heal();
     files.Fail(step, "", "Broken");
     for (const Status& status : {store.AddBlock("N"), store.SaveBlock("One", {kMain}),
                                  store.RemoveBlock("One"), store.RenameBlock("One", "N")}) {
-      ASSERT_FALSE(status);
+      ASSERT_FALSE(status) << static_cast<int>(step);
       EXPECT_TRUE(status.error().message.starts_with("layouts.dat: ")) << status.error().message;
     }
     EXPECT_EQ(drive_.Read(kLayouts), kThree);
@@ -194,7 +194,7 @@ TEST_F(Layouts, AutoloadGivesTheChosenLayoutOrNothing) {
   EXPECT_THAT(store_.AutoloadRecords(), IsEmpty());
   for (const Row& row : rows) {
     drive_.Write(kIni, row.ini);
-    drive_.Write(kLayouts, kThree);
+    drive_.Write(kLayouts, std::string(kThree) + "[]\r\nMAIN,7,7\r\n-\r\n");
     EXPECT_EQ(store_.AutoloadRecords(), row.records) << row.what;
   }
   drive_.Write(kIni, rows[0].ini);

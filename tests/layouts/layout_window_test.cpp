@@ -1,76 +1,11 @@
-#include "layouts/layout_window.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "fakes/failing_files.h"
-#include "fakes/key_press.h"
-#include "fakes/modal.h"
-#include "fakes/scripted_boxes.h"
-#include "fakes/temp_drive.h"
-#include "layouts/layout_manager.h"
-#include "layouts/recording_sections.h"
+// Opening, saving and loading layouts.
+#include "layouts/layout_fixture.h"
 
 namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr std::string_view kTwoLayouts =
-    "[Evening]\r\nMAIN,400,500\r\nMAME,10,20,6345,7260\r\nRAINE,30,40,2415,4620\r\n-\r\n"
-    "[Night]\r\nMAIN,1,2\r\nM72,5,6,6345,4620\r\n-\r\n";
-
-std::string Ini(int on_top, int autoload, const std::string& name) {
-  return "[Layouts]\r\nLayoutAlwaysOnTop = " + std::to_string(on_top) +
-         "\r\nAutoloadOnStartup = " + std::to_string(autoload) + "\r\nDefaultLayout = " + name +
-         "\r\n";
-}
-
-std::vector<std::string> ItemsOf(const ComboBox& combo) {
-  std::vector<std::string> items;
-  for (int i = 0; i < combo.ListCount(); ++i) items.push_back(combo.List(i));
-  return items;
-}
-
-std::vector<std::string> ItemsOf(const ListBox& list) {
-  std::vector<std::string> items;
-  for (int i = 0; i < list.ListCount(); ++i) items.emplace_back(list.Items().At(i));
-  return items;
-}
-
-class LayoutWindowTest : public testing::Test {
- protected:
-  LayoutWindowTest() { app_.ProgramFolder = R"(C:\Zarvo)"; }
-
-  void GivenFiles(std::string_view layouts, std::string_view ini) {
-    drive_.Write(R"(C:\Zarvo\layouts.dat)", layouts);
-    drive_.Write(R"(C:\Zarvo\zarvo.ini)", ini);
-  }
-  LayoutManager& Open() {
-    window_ = MakeLayoutWindow(tools_);
-    window_->ShowModeless();
-    return dynamic_cast<LayoutManager&>(*window_);
-  }
-  [[nodiscard]] std::string Layouts() const { return drive_.Read(R"(C:\Zarvo\layouts.dat)"); }
-
-  // Types a name into the dialog that `button` opens and presses Enter.
-  static void Name(PushButton* button, std::string_view name) {
-    const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
-      dialog.txtRinomina->SetText(name);
-      PressKey(dialog.txtRinomina, Qt::Key_Return);
-    });
-    button->click();
-  }
-
-  TempDrive drive_;
-  FailingFiles files_{drive_.files()};
-  AppState app_;
-  ScriptedBoxes boxes_;
-  RecordingSections sections_{app_};
-  LayoutTools tools_{files_, app_, boxes_, sections_, sections_};
-  std::unique_ptr<Window> window_;
-};
 
 TEST_F(LayoutWindowTest, OpensWithWhatTheFilesHold) {
   GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
@@ -118,142 +53,6 @@ TEST_F(LayoutWindowTest, APanelOfNoKnownSizeStandsWithoutOne) {
   EXPECT_THAT(ItemsOf(*manager.lstEmulatoriSize), ElementsAre("Medium"));
 }
 
-TEST_F(LayoutWindowTest, WithoutALayoutOnlyAddDoesAnything) {
-  LayoutManager& manager = Open();
-  for (PushButton* button :
-       {manager.cmdRemove, manager.cmdRename, manager.cmdLoadLayout, manager.cmdSaveLayout}) {
-    button->click();
-  }
-  EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\layouts.dat)"));
-  EXPECT_THAT(sections_.told, IsEmpty());
-  Name(manager.cmdAdd, "First");
-  EXPECT_EQ(Layouts(), "[First]\r\n-\r\n");
-  EXPECT_EQ(manager.cboListaLayout->Text(), "First");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "First");
-}
-
-TEST_F(LayoutWindowTest, TheDialogAsksForANameByMode) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  {
-    const ModalPlay<NameDialog> play([](NameDialog& dialog) {
-      EXPECT_EQ(dialog.Caption(), "Add a new layout");
-      EXPECT_EQ(dialog.txtRinomina->Text(), "New Layout");
-      EXPECT_TRUE(dialog.cmdAdd->Visible());
-      EXPECT_FALSE(dialog.cmdRename->Visible());
-      dialog.txtRinomina->SetText("");
-      EXPECT_FALSE(dialog.cmdAdd->Enabled());
-      PressKey(dialog.txtRinomina, Qt::Key_Return);
-      EXPECT_FALSE(dialog.IsUnloaded()) << "Enter does no more than the button";
-      dialog.txtRinomina->SetText("x");
-      EXPECT_TRUE(dialog.cmdAdd->Enabled());
-      dialog.cmdCancel->click();
-    });
-    manager.cmdAdd->click();
-  }
-  const ModalPlay<NameDialog> play([](NameDialog& dialog) {
-    EXPECT_EQ(dialog.Caption(), "Rename layout");
-    EXPECT_EQ(dialog.txtRinomina->Text(), "Evening");
-    EXPECT_FALSE(dialog.cmdAdd->Visible());
-    EXPECT_TRUE(dialog.cmdRename->Visible());
-    PressKey(dialog.txtRinomina, Qt::Key_Escape);
-  });
-  manager.cmdRename->click();
-  EXPECT_EQ(Layouts(), kTwoLayouts);
-}
-
-TEST_F(LayoutWindowTest, AddAppendsTheNameAndMakesTheFirstTheDefault) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
-  LayoutManager& manager = Open();
-  Name(manager.cmdAdd, "Weekend");
-  EXPECT_EQ(Layouts(), std::string(kTwoLayouts) + "[Weekend]\r\n-\r\n");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Evening", "Night", "Weekend"));
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Evening", "Night", "Weekend"));
-  EXPECT_EQ(manager.cboListaLayout->Text(), "Weekend");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "Evening");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), IsEmpty());
-}
-
-TEST_F(LayoutWindowTest, ATakenNameIsRefused) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
-    boxes_.Expect(BoxIcon::kExclamation, "Name already exist!");
-    dialog.txtRinomina->SetText("Night");
-    dialog.cmdAdd->click();
-    EXPECT_FALSE(dialog.IsUnloaded()) << "after a failed Add the dialog can be used again";
-    EXPECT_EQ(manager.cboListaLayout->Text(), "Night");
-    dialog.txtRinomina->SetText("night");
-    dialog.cmdAdd->click();
-    EXPECT_TRUE(dialog.IsUnloaded()) << "the case of letters counts";
-  });
-  manager.cmdAdd->click();
-  boxes_.Expect(BoxIcon::kExclamation, "Name already exist!");
-  Name(manager.cmdRename, "Evening");  // that the dialog is gone is seen by the helper
-  EXPECT_EQ(Layouts(), std::string(kTwoLayouts) + "[night]\r\n-\r\n");
-}
-
-TEST_F(LayoutWindowTest, ANameThatTheFileCannotHoldIsRefused) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  for (PushButton* opener : {manager.cmdAdd, manager.cmdRename}) {
-    const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
-      PushButton* accept = dialog.cmdAdd->Visible() ? dialog.cmdAdd : dialog.cmdRename;
-      dialog.txtRinomina->setText(QString(QChar(0x65E5)));
-      boxes_.Expect(BoxIcon::kExclamation, "A layout can't have this name!");
-      accept->click();
-      EXPECT_FALSE(dialog.IsUnloaded());
-      dialog.cmdCancel->click();
-    });
-    opener->click();
-  }
-  EXPECT_EQ(Layouts(), kTwoLayouts);
-}
-
-TEST_F(LayoutWindowTest, RenameMovesTheNameToTheEndAndKeepsThePlaceInTheFile) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Evening"));
-  LayoutManager& manager = Open();
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Night", "Dusk"));
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Night", "Dusk"));
-  EXPECT_EQ(manager.cboListaLayout->Text(), "Dusk");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "Dusk") << "the default goes with its name";
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("MAME", "RAINE"));
-  EXPECT_EQ(Layouts().substr(0, 8), "[Dusk]\r\n");
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Night", "Dusk"));
-  manager.cboListaLayout->SetListIndex(0);
-  Name(manager.cmdRename, "Dawn");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "Dusk") << "another default stays";
-}
-
-TEST_F(LayoutWindowTest, RenameLeavesNoDefaultWhereThereWasNone) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_EQ(manager.cboListaLayout2->ListIndex(), -1);
-}
-
-TEST_F(LayoutWindowTest, RemoveSelectsTheNeighbour) {
-  GivenFiles("[A]\r\n-\r\n[B]\r\nMAIN,1,2\r\nM72,1,2,3,4\r\n-\r\n[C]\r\n-\r\n", Ini(0, 1, "C"));
-  LayoutManager& manager = Open();
-  manager.cboListaLayout->SetListIndex(2);
-  manager.cmdRemove->click();
-  EXPECT_EQ(manager.cboListaLayout->Text(), "B");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "A") << "the removed one was the default";
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
-  manager.cboListaLayout->SetListIndex(0);
-  manager.cmdRemove->click();
-  EXPECT_EQ(manager.cboListaLayout->Text(), "B");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
-  EXPECT_EQ(Layouts(), "[B]\r\nMAIN,1,2\r\nM72,1,2,3,4\r\n-\r\n");
-  manager.cmdRemove->click();
-  EXPECT_EQ(Layouts(), "");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), IsEmpty());
-  manager.cmdOk->click();
-  EXPECT_THAT(drive_.Read(R"(C:\Zarvo\zarvo.ini)"), testing::HasSubstr("DefaultLayout = \r\n"));
-}
-
 TEST_F(LayoutWindowTest, SaveTakesTheWindowsAsTheyStand) {
   GivenFiles(kTwoLayouts, Ini(0, 0, ""));
   LayoutManager& manager = Open();
@@ -286,23 +85,60 @@ TEST_F(LayoutWindowTest, LoadClosesAllPanelsAndOpensThoseOfTheLayout) {
 TEST_F(LayoutWindowTest, ADamagedLayoutIsToldAndClosesNothing) {
   GivenFiles("[A]\r\nMAIN,7,8\r\nMAME,1,2,many,7260\r\n-\r\n", Ini(0, 0, ""));
   LayoutManager& manager = Open();
-  boxes_.ExpectContaining(BoxIcon::kExclamation, "layouts.dat");
   manager.cmdLoadLayout->click();
+  EXPECT_THAT(Warnings(), ElementsAre(R"(layouts.dat: the layout "A" is damaged)"));
   EXPECT_THAT(sections_.told, IsEmpty());
 }
 
-TEST_F(LayoutWindowTest, PlacesComeBackToTheTwipAfterAHundredRounds) {
-  GivenFiles("[A]\r\n-\r\n", Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  const TwipRect place{.left = 1237, .top = -8, .width = 2415, .height = 4620};
-  sections_.Stand(Emulator::kMame, place);
-  sections_.main = {.left = 501, .top = 407};
-  for (int round = 0; round < 100; ++round) {
-    manager.cmdSaveLayout->click();
-    manager.cmdLoadLayout->click();
+// A main window and a panel that stand on the screen.
+class RealWindows : public RecordingSections {
+ public:
+  explicit RealWindows(AppState& app) : RecordingSections(app), app_(app) {
+    main_window_.ShowModeless();
   }
-  EXPECT_EQ(sections_.places[Emulator::kMame], place);
-  EXPECT_EQ(sections_.main, (TwipRect{.left = 501, .top = 407}));
+
+  void OpenSection(const EmulatorProfile& profile) override {
+    app_.ShowWord(profile.emulator) = "SI";
+    panel = std::make_unique<Window>(WindowFrame::kNone, "frmMame");
+    panel->ShowModeless();
+  }
+  void CloseOpenPanels() override {
+    app_.ShowWord(Emulator::kMame) = "NO";
+    panel.reset();
+  }
+  [[nodiscard]] std::optional<TwipRect> PanelPlace(Emulator) const override {
+    return TwipRect{panel->Left(), panel->Top(), panel->Width(), panel->Height()};
+  }
+  void SetPanelPlace(Emulator, const TwipRect& place) override {
+    panel->SetTop(place.top);
+    panel->SetLeft(place.left);
+    panel->SetWidth(place.width);
+    panel->SetHeight(place.height);
+  }
+  [[nodiscard]] int MainLeft() const override { return main_window_.Left(); }
+  [[nodiscard]] int MainTop() const override { return main_window_.Top(); }
+  void SetMainPlace(int top, int left) override {
+    main_window_.SetTop(top);
+    main_window_.SetLeft(left);
+  }
+
+  std::unique_ptr<Window> panel;
+
+ private:
+  AppState& app_;
+  Window main_window_{WindowFrame::kNone, "frmMain"};
+};
+
+TEST_F(LayoutWindowTest, PlacesComeBackToTheTwipAfterAHundredRounds) {
+  GivenFiles("[A]\r\nMAIN,407,501\r\nMAME,-8,1237,2415,4627\r\n-\r\n", Ini(0, 0, ""));
+  RealWindows windows(app_);
+  LayoutManager manager({files_, app_, boxes_, windows, windows});
+  for (int round = 0; round < 100; ++round) {
+    manager.cmdLoadLayout->click();
+    QApplication::processEvents();
+    manager.cmdSaveLayout->click();
+  }
+  EXPECT_EQ(Layouts(), "[A]\r\nMAIN,407,501\r\nMAME,-8,1237,2415,4627\r\n-\r\n");
 }
 
 TEST_F(LayoutWindowTest, CloseAloneWritesTheSettings) {
@@ -320,41 +156,39 @@ TEST_F(LayoutWindowTest, CloseAloneWritesTheSettings) {
   EXPECT_EQ(again.cboListaLayout2->Text(), "Night");
 }
 
-TEST_F(LayoutWindowTest, AFailedWriteIsToldAndTheListsShowTheFile) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
+TEST_F(LayoutWindowTest, AWindowBeyondTheNumbersOfTheFileIsKeptAtTheirEnd) {
+  GivenFiles("[A]\r\n-\r\n", Ini(0, 0, ""));
   LayoutManager& manager = Open();
-  const auto expect_box = [&](const char* file) {
-    boxes_.Expect(BoxIcon::kExclamation, std::string(file) + ": No space left on device");
-  };
-  const auto expect_file_shown = [&](const std::string& selected) {
-    EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Evening", "Night"));
-    EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Evening", "Night"));
-    EXPECT_EQ(manager.cboListaLayout->Text(), selected);
-    EXPECT_EQ(manager.cboListaLayout2->Text(), "Night");
-    EXPECT_EQ(Layouts(), kTwoLayouts);
-  };
-  files_.Fail(FileStep::kReplace, "");
-  expect_box("layouts.dat");
-  const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
-    dialog.cmdAdd->click();
-    expect_file_shown("Evening");
-    EXPECT_FALSE(dialog.IsUnloaded()) << "the player may try again";
-    dialog.cmdCancel->click();
-  });
-  manager.cmdAdd->click();
-  manager.cboListaLayout->SetListIndex(1);
-  expect_box("layouts.dat");
-  Name(manager.cmdRename, "Dusk");
-  expect_file_shown("Night");
-  expect_box("layouts.dat");
-  manager.cmdRemove->click();
-  expect_file_shown("Night");
-  expect_box("layouts.dat");
+  sections_.main = {.left = 45000, .top = 10};
   manager.cmdSaveLayout->click();
-  expect_file_shown("Night");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
-  expect_box("zarvo.ini");
-  manager.cmdOk->click();
+  EXPECT_EQ(Layouts(), "[A]\r\nMAIN,10,32767\r\n-\r\n");
+}
+
+struct AutoloadCase {
+  const char* what;
+  std::string ini;
+  std::vector<std::string> told;
+  TwipRect main;
+};
+
+TEST_F(LayoutWindowTest, TheAutoloadAppliesTheLayoutOfTheStart) {
+  const TwipRect unmoved{.left = 500, .top = 400};
+  const AutoloadCase cases[] = {
+      {"switched off", Ini(0, 0, "Night"), {}, unmoved},
+      {"no default", Ini(0, 1, ""), {}, unmoved},
+      {"a name that is gone", Ini(0, 1, "Gone"), {}, unmoved},
+      {"no keys", "nothing", {}, unmoved},
+      {"on", Ini(0, 1, "Night"), {"main", "open M72"}, {.left = 2, .top = 1}},
+      {"damaged", Ini(0, 1, "Torn"), {"main"}, {.left = 9, .top = 8}},
+  };
+  for (const AutoloadCase& at : cases) {
+    GivenFiles(std::string(kTwoLayouts) + "[Torn]\r\nMAIN,8,9\r\nM72,1,2,3,99999\r\n-\r\n", at.ini);
+    RecordingSections sections(app_);
+    AutoloadLayout({files_, app_, boxes_, sections, sections});
+    EXPECT_EQ(sections.told, at.told) << at.what;
+    EXPECT_EQ(sections.main, at.main) << at.what;
+    sections.CloseOpenPanels();
+  }
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
 
-constexpr std::string_view kFile = "C:\\Zarvo\\cfg\\Mame.cfg";
+constexpr std::string_view kFile = R"(C:\Zarvo\cfg\Mame.cfg)";
 constexpr std::string_view kSample =
     "\"C:\\Emu\\Mame\\Mame.exe\"\r\n\"C:\\Emu\\Mame\\Roms\"\r\n\"C:\\Emu\\Snapshot\\Mame\"\r\n"
     "\"GIF\"\r\n\"C:\\Emu\\Mame\"\r\n\"up\"\r\n";
@@ -28,9 +28,9 @@ class CfgFile : public testing::Test {
   }
 
   static CfgValues Sample() {
-    return {.exe_path = "C:\\Emu\\Mame\\Mame.exe",
-            .rom_path = "C:\\Emu\\Mame\\Roms",
-            .snap_path = "C:\\Emu\\Snapshot\\Mame",
+    return {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
+            .rom_path = R"(C:\Emu\Mame\Roms)",
+            .snap_path = R"(C:\Emu\Snapshot\Mame)",
             .snap_format = "GIF",
             .emulator_folder = "C:\\Emu\\Mame",
             .layout_word = "up",
@@ -60,7 +60,7 @@ TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
 
 TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
   const EmulatorProfile& m72 = ProfileOf(Emulator::kM72);
-  drive_.Write("C:\\Zarvo\\cfg\\m72.CFG", std::string(kSample) + "\"R-Type\"\r\n");
+  drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)", std::string(kSample) + "\"R-Type\"\r\n");
   const CfgFields fields = ReadCfg(drive_.files(), app_, m72);
   EXPECT_THAT(fields.layout_word, Optional(std::string("up")));
   EXPECT_FALSE(fields.favourites);
@@ -94,7 +94,7 @@ TEST_F(CfgFile, ReadsAValueByItsQuotesOrUpToTheNextComma) {
   const std::vector<Row> rows = {{"\"a,b\"\r\n", {"a,b"}},
                                  {"  \"a\"\r\n", {"a"}},
                                  {"\"a\" dropped,\"b\"\r\n", {"a", "b"}},
-                                 {"\"a\",\"b\"", {"a", "b"}},
+                                 {R"("a","b")", {"a", "b"}},
                                  {"a b ,c\r\n", {"a b ", "c"}},
                                  {"a\"b\r\n", {"a\"b"}},
                                  {"\"a\"\n\"b\"\n", {"a", "b"}},

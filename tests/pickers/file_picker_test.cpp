@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/key_press.h"
-#include "fakes/scripted_boxes.h"
+#include "fakes/recorded_boxes.h"
 #include "fakes/temp_drive.h"
 #include "pickers/recording_panels.h"
 
@@ -31,7 +31,7 @@ class FilePickerTest : public testing::Test {
 
   TempDrive drive_;
   RecordingPanels panels_;
-  ScriptedBoxes boxes_;
+  RecordedBoxes boxes_;
   std::unique_ptr<FilePicker> picker_;
 };
 
@@ -73,9 +73,13 @@ TEST_F(FilePickerTest, OkWithoutAFileSaysSoAndStays) {
   FilePicker& picker = Make("MAME");
   picker.ShowModeless();
   for (const bool recording : {false, true}) {
-    if (recording) ASSERT_TRUE(picker.ChooseRecording(R"(C:\Emu\Mame\INP)"));
-    boxes_.Expect(BoxIcon::kInformation, "You must select a file!");
+    ASSERT_TRUE(!recording || picker.ChooseRecording(R"(C:\Emu\Mame\INP)"));
+    boxes_.shown.clear();
     picker.cmdOk->click();
+    ASSERT_EQ(boxes_.shown.size(), 1U);
+    EXPECT_EQ(boxes_.shown[0].icon, BoxIcon::kInformation);
+    EXPECT_EQ(boxes_.shown[0].title, "Zarvo v0.1");
+    EXPECT_EQ(boxes_.shown[0].text, "You must select a file!");
     EXPECT_FALSE(picker.IsUnloaded());
     EXPECT_THAT(panels_.told, IsEmpty());
   }

@@ -114,12 +114,13 @@ INSTANTIATE_TEST_SUITE_P(
                     WordCase{"M72ROM", R"(rom M72 C:\Emu)", "save M72"}));
 
 TEST_F(FolderPickerTest, CancelEscapeAndCloseChangeNothing) {
-  for (const char* way : {"button", "key", "title bar"}) {
+  for (const char* way : {"button", "Enter on the button", "Escape", "title bar"}) {
     FolderPicker picker(drive_.files(), panels_);
     picker.lblSelDirHide = "MAMEROM";
     picker.ShowModeless();
     if (way == std::string("button")) picker.cmdCancel->click();
-    if (way == std::string("key")) PressKey(picker.filSelDir, Qt::Key_Escape);
+    if (way == std::string("Escape")) PressKey(picker.filSelDir, Qt::Key_Escape);
+    if (way == std::string("Enter on the button")) PressKey(picker.cmdCancel, Qt::Key_Return);
     if (way == std::string("title bar")) picker.close();
     EXPECT_TRUE(picker.IsUnloaded()) << way;
     EXPECT_THAT(panels_.told, IsEmpty()) << way;

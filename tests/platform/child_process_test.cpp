@@ -65,7 +65,8 @@ TEST_F(RunTest, ADosProgramRunsInDosBoxFromTheFolderThatIsItsDrive) {
   EXPECT_THAT(plan->command.arguments, ElementsAre("-userconf", "-conf", plan->configuration_path));
   EXPECT_EQ(plan->configuration,
             "[autoexec]\n@echo off\nmount -u C >nul\nmount C . >nul\nC:\ncd \\Emu\\Mame\n"
-            "call lancia.bat\nexit\n");
+            "call lancia.bat\nif errorlevel 1 goto failed\nexit\n"
+            ":failed\necho failed>C:\\Emu\\Mame\\ZARVO.ERR\nexit\n");
   EXPECT_FALSE(fs::exists(plan->configuration_path)) << "planning writes nothing";
   EXPECT_NE(Plan(Host({"dosbox"}))->configuration_path, plan->configuration_path);
 }
@@ -260,7 +261,33 @@ TEST_F(RunTest, ARealDosProgramRunsInDosBoxAndGetsItsLine) {
   EXPECT_FALSE(outcome->crashed);
   EXPECT_EQ(outcome->exit_code, 0);
   EXPECT_EQ(ReadAll(world, "TAIL").value(), " pengo -s 1 of the player");
+  EXPECT_FALSE(outcome->program_failed);
   EXPECT_FALSE(fs::exists(plan->configuration_path));
+}
+
+TEST_F(RunTest, AnErrorLevelOfARealDosProgramIsTold) {
+  const HostPrograms real = ThisHost();
+  if (!real.find("dosbox")) GTEST_SKIP() << "dosbox isn't installed";
+  setenv("SDL_VIDEODRIVER", "dummy", 1);
+  setenv("SDL_AUDIODRIVER", "dummy", 1);
+  // mov ax, 4C03h; int 21h: ends with error level 3.
+  Batch("C:\\Emu\\Mame", "C:\\Emu\\Mame\\bad.com");
+  drive_.Write("C:\\Emu\\Mame\\bad.com", "\xB8\x03\x4C\xCD\x21");
+  PosixRunner runner;
+  const auto outcome = CarryOut(*Plan(real), runner);
+  ASSERT_TRUE(outcome.ok()) << outcome.error().message;
+  EXPECT_TRUE(outcome->program_failed);
+  EXPECT_FALSE(drive_.Exists("C:\\Emu\\Mame\\ZARVO.ERR"));
+}
+
+TEST_F(RunTest, WhatDosCutsOffIsCounted) {
+  const std::string program = "C:\\Emu\\Mame\\Mame.exe";
+  drive_.Write(program, "MZ");
+  for (const auto& [tail, lost] :
+       {std::pair<std::size_t, std::size_t>{126, 0}, {127, 1}, {200, 74}}) {
+    Batch("C:\\Emu\\Mame", program + " " + std::string(tail - 1, 'x'));
+    EXPECT_EQ(Plan(Host({"dosbox"}))->lost_characters, lost) << tail;
+  }
 }
 
 }  // namespace

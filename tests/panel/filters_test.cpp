@@ -1,0 +1,217 @@
+// The filters of a game list, its counters, the scan and the popup of the lists.
+#include <QMenu>
+
+#include "panel/panel_fixture.h"
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FiltersTest : public PanelTest {
+ protected:
+  static constexpr std::string_view kNoScan =
+      "! No 'SCN' file found in </CFG> directory.|Please scan your rom directory from section "
+      "<CONF>";
+  static constexpr int kAvailable = 3;
+};
+
+TEST_F(FiltersTest, FiltersCombine) {
+  struct Case {
+    int state;
+    std::string genre, maker, year;
+    std::vector<std::string> games;
+  };
+  const Case cases[] = {
+      {0, "", "", "", {"Aliens", "Aliens (JP)", "Metal Slug", "Puck Man", "Zaxxon"}},
+      {1, "", "", "", {"Aliens", "Puck Man", "Zaxxon"}},
+      {2, "", "", "", {"Aliens (JP)"}},
+      {5, "", "", "", {"Aliens", "Aliens (JP)", "Puck Man", "Zaxxon"}},
+      {6, "", "", "", {"Metal Slug"}},
+      {0, "Shooter", "", "", {"Aliens", "Aliens (JP)", "Zaxxon"}},
+      {0, "Shooter", "Konami", "", {"Aliens", "Aliens (JP)"}},
+      {0, "", "", "1990", {"Aliens", "Aliens (JP)", "Zaxxon"}},
+      {1, "Shooter", "Konami", "1990", {"Aliens"}},
+      {6, "Shooter", "", "", {}},
+      {3, "", "", "", {"Aliens", "Zaxxon"}},
+      {3, "Shooter", "Sega", "", {"Zaxxon"}},
+      {4, "", "", "1990", {"Aliens (JP)"}},
+  };
+  drive_.Write(R"(C:\Zarvo\cfg\Mame.scn)",
+               Lines({"Aliens;Y", "Aliens (JP);N", "Puck Man;N", "Zaxxon;Y"}));
+  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  const GameFilters& games = *panel.games;
+  const auto choose = [](ComboBox* combo, const std::string& item) {
+    combo->SetListIndex(item.empty() ? 0 : combo->findText(QString::fromStdString(item)));
+  };
+  for (const Case& at : cases) {
+    SCOPED_TRACE(std::to_string(at.state) + " " + at.genre + " " + at.maker + " " + at.year);
+    games.cboFilterMisc->SetListIndex(at.state);
+    choose(games.cboFilterGenre, at.genre);
+    choose(games.cboFilterManufactor, at.maker);
+    choose(games.cboFilterYear, at.year);
+    EXPECT_EQ(Names(games.lstRom), at.games);
+    EXPECT_EQ(games.lblRomCount->Caption(), std::to_string(at.games.size()));
+    EXPECT_EQ(games.lstRom->Text(), at.games.empty() ? "" : at.games.front());
+    EXPECT_THAT(at.games, testing::AnyOf(IsEmpty(), testing::Contains(Caption(panel))));
+    EXPECT_TRUE(games.lstRom->Visible());
+    EXPECT_EQ(games.lblTotal->Caption(), "200");
+    EXPECT_EQ(games.lblFilterHide, "");
+  }
+  EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\Data\tofilter.tmp)"));
+}
+
+TEST_F(FiltersTest, OnlyTheComboThatWasClickedIsColoured) {
+  const GameFilters& games = *OpenConfigured(Emulator::kCallus).games;
+  const auto colours = [](const ComboBox* combo) {
+    return std::pair(combo->BackColor().value, combo->ForeColor().value);
+  };
+  const std::pair neutral(12632256U, 0U);
+  const std::pair filtering(14985898U, 128U);
+  for (ComboBox* const combo :
+       {games.cboFilterGenre, games.cboFilterManufactor, games.cboFilterYear}) {
+    EXPECT_EQ(colours(combo), neutral);
+    combo->SetListIndex(1);
+    EXPECT_EQ(colours(combo), filtering);
+    combo->SetListIndex(0);
+    EXPECT_EQ(colours(combo), neutral);
+  }
+  games.cboFilterMisc->SetListIndex(1);
+  EXPECT_EQ(colours(games.cboFilterMisc), std::pair(14985898U, 0U)) << "its text colour stays";
+  games.cboFilterGenre->SetListIndex(1);
+  games.cboFilterMisc->SetListIndex(0);
+  EXPECT_EQ(colours(games.cboFilterMisc), neutral);
+  EXPECT_EQ(colours(games.cboFilterGenre), filtering);
+}
+
+TEST_F(FiltersTest, ShiftAloneResetsTheFiltersOfMameOnly) {
+  for (const Emulator emulator : {Emulator::kMame, Emulator::kRaine}) {
+    const bool resets = emulator == Emulator::kMame;
+    const GameFilters& games = *OpenConfigured(emulator).games;
+    ComboBox* const combos[] = {games.cboFilterMisc, games.cboFilterGenre,
+                                games.cboFilterManufactor, games.cboFilterYear};
+    for (ComboBox* const pressed : combos) {
+      for (ComboBox* const combo : combos) combo->SetListIndex(1);
+      const auto press = [&](Qt::Key key, Qt::KeyboardModifiers held) {
+        QKeyEvent event(QEvent::KeyPress, key, held);
+        QApplication::sendEvent(pressed, &event);
+      };
+      press(Qt::Key_F2, Qt::ShiftModifier | Qt::ControlModifier);
+      for (ComboBox* const combo : combos) EXPECT_EQ(combo->ListIndex(), 1);
+      press(Qt::Key_F2, Qt::ShiftModifier);
+      for (ComboBox* const combo : combos) {
+        EXPECT_EQ(combo->ListIndex(), resets ? 0 : 1);
+        EXPECT_EQ(combo->BackColor().value, resets ? 12632256U : 14985898U);
+      }
+    }
+  }
+}
+
+TEST_F(FiltersTest, WithoutAScanFileAllGamesComeBackOnTheConfigurationPage) {
+  for (const Emulator emulator : {Emulator::kMame, Emulator::kCallus, Emulator::kRaine}) {
+    SCOPED_TRACE(ProfileOf(emulator).word);
+    EmulatorPanel& panel = OpenConfigured(emulator);
+    const int all = panel.games->lstRom->ListCount();
+    bool visible = false;
+    boxes_.on_show = [&] { visible = panel.games->lstRom->Visible(); };
+    panel.games->cboFilterMisc->SetListIndex(kAvailable);
+    EXPECT_EQ(TakeBoxes(), std::vector<std::string>{std::string(kNoScan)});
+    EXPECT_TRUE(visible);
+    EXPECT_EQ(panel.games->cboFilterMisc->Text(), "All Supported");
+    EXPECT_EQ(panel.games->cboFilterMisc->BackColor().value, 12632256U);
+    EXPECT_EQ(panel.games->lstRom->ListCount(), all);
+    EXPECT_EQ(panel.games->lblRomCount->Caption(), std::to_string(all));
+    EXPECT_EQ(Pages(panel), "img conf");
+  }
+}
+
+TEST_F(FiltersTest, ADataFileThatVanishedKeepsTheListUnlessAllAreAskedFor) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  panel.games->cboFilterMisc->SetListIndex(1);
+  std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\Mame.dat)"));
+  panel.games->cboFilterYear->SetListIndex(3);
+  panel.games->cboFilterMisc->SetListIndex(2);
+  EXPECT_EQ(panel.games->lstRom->ListCount(), 3);
+  panel.games->cboFilterMisc->SetListIndex(0);
+  EXPECT_EQ(panel.games->lstRom->ListCount(), 0);
+  EXPECT_EQ(panel.games->lblRomCount->Caption(), "0");
+  // Each selection in between couldn't find its game.
+  for (const std::string& box : TakeBoxes()) EXPECT_THAT(box, testing::StartsWith("! This rom"));
+}
+
+TEST_F(FiltersTest, ATotalThatCantBeReadKeepsTheCaptionOfTheDesign) {
+  struct Case {
+    Emulator emulator;
+    const char* total;
+  };
+  for (const Case& at : {Case{Emulator::kMame, "1107"},
+                         {Emulator::kCallus, ""},
+                         {Emulator::kRaine, "107"},
+                         {Emulator::kSystem16, "1107"}}) {
+    PutData(ProfileOf(at.emulator).word, "no header here\r\n");
+    EXPECT_EQ(sections_.Panel(at.emulator).games->lblTotal->Caption(), at.total);
+  }
+}
+
+TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
+  PutCfg(Emulator::kMame);
+  drive_.Write(R"(C:\Emu\Mame\Roms\ALIENS.ZIP)", "");
+  drive_.Write(R"(C:\Emu\Mame\Roms\mslug.zip)", "");
+  EmulatorPanel& panel = Open(Emulator::kMame);
+  ASSERT_TRUE(panel.picConf->optMerged->Value());
+  for (const bool merged : {true, false}) {
+    panel.picConf->optSplitted->SetValue(!merged);
+    Press(panel.picConf->lblScanNow);
+    EXPECT_THAT(TakeBoxes(), ElementsAre(merged ? "i 3 Roms found in:|C:\\Emu\\Mame\\Roms"
+                                                : "i 2 Roms found in:|C:\\Emu\\Mame\\Roms"));
+    EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 5 : 3) << "the list stays as it is";
+    panel.games->cboFilterMisc->SetListIndex(0);
+    panel.games->cboFilterMisc->SetListIndex(kAvailable);
+    EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 3 : 2);
+  }
+}
+
+// The four captions of the popup, without showing it to anybody.
+std::string PopupOver(QWidget* widget, Qt::MouseButton button) {
+  std::string captions = "(none)";
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return;
+    captions = menu->objectName().toStdString() + ":";
+    for (const QAction* action : menu->actions()) {
+      captions += action->isSeparator() ? "-" : "[" + action->text().toStdString() + "]";
+    }
+    menu->close();
+  });
+  timer.start(0);
+  PressMouse(widget, {5, 5}, button);
+  ReleaseMouse(widget, {5, 5}, button);
+  return captions;
+}
+
+TEST_F(FiltersTest, ThePopupShowsFourFactsOfTheSelectedGame) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kMame, {"Aliens (JP)", "Gone"});
+  QWidget* const big = panel.games->lstRom->viewport();
+  QWidget* const small = panel.favourites->lstPref->viewport();
+  EXPECT_EQ(PopupOver(small, Qt::RightButton), "mnuMame:[Konami][1990][Shooter]-[Clone]");
+  EXPECT_EQ(PopupOver(big, Qt::RightButton), "mnuMame:[][][]-[]") << "nothing is selected there";
+  panel.games->lstRom->SetListIndex(4);
+  EXPECT_EQ(PopupOver(big, Qt::RightButton), "mnuMame:[Sega][1990][Shooter]-[Original]");
+  EXPECT_EQ(panel.games->lstRom->Text(), "Zaxxon") << "the right button selects nothing";
+  EXPECT_EQ(PopupOver(big, Qt::LeftButton), "(none)");
+  panel.favourites->SetEntries({"Aliens"});
+  EXPECT_EQ(PopupOver(small, Qt::RightButton), "(none)");
+
+  const EmulatorPanel& m72 = OpenConfigured(Emulator::kM72);
+  EXPECT_EQ(PopupOver(m72.favourites->lstPref->viewport(), Qt::RightButton),
+            "mnuM72:[Irem][1987][Shooter]-[Original]");
+  m72.favourites->lstPref->SetListIndex(2);  // not in the data file: the menu stays as it was
+  EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
+  EXPECT_EQ(PopupOver(m72.favourites->lstPref->viewport(), Qt::RightButton),
+            "mnuM72:[Irem][1987][Shooter]-[Original]");
+}
+
+}  // namespace
+}  // namespace zarvo

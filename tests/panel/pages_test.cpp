@@ -1,0 +1,236 @@
+// The pages of a panel, the selection cycle, and what is saved and loaded at each step.
+#include "panel/panel_fixture.h"
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PagesTest : public PanelTest {
+ protected:
+  // A record of Raine, whose seven fields are quick to read.
+  static std::string RaineRecord(const std::string& key, int mode) {
+    return "\"" + key + "\",\"C:\\Own\"," + std::to_string(mode) + ",0,0,1,0\r\n";
+  }
+  static int Mode(const EmulatorPanel& panel) { return Combo(panel, "cboScreenMode")->ListIndex(); }
+};
+
+TEST_F(PagesTest, EveryButtonButSettingsSavesTheCurrentGameBeforeItTurnsThePage) {
+  struct Case {
+    ImageBox* EmulatorPanel::*button;
+    const char* pages;
+    bool saves;
+  };
+  const Case cases[] = {
+      {&EmulatorPanel::imgButInfo, "info", true},
+      {&EmulatorPanel::imgButHelp, "help", true},
+      {&EmulatorPanel::imgButOpts, "conf", true},
+      {&EmulatorPanel::imgButSnap, "img snap", true},
+      {&EmulatorPanel::imgButSet, "settings", false},
+      {&EmulatorPanel::imgButSet, "settings", false},
+  };
+  for (const EmulatorProfile& profile : Profiles()) {
+    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+    for (const Case& at : cases) {
+      SCOPED_TRACE(std::string(profile.word) + " " + at.pages);
+      std::filesystem::remove(drive_.Host(SetPath(profile.emulator)));
+      Press(panel.*at.button);
+      EXPECT_EQ(Pages(panel), at.pages);
+      EXPECT_EQ(Keys(profile.emulator),
+                std::vector<std::string>{at.saves ? Caption(panel) : "(none)"});
+    }
+  }
+}
+
+TEST_F(PagesTest, AButtonSinksUnderTheMouse) {
+  const EmulatorPanel& panel = OpenConfigured(Emulator::kM72);
+  const int lefts[] = {2430, 3210, 3990, 4770, 5550};
+  ImageBox* const buttons[] = {panel.imgButSnap, panel.imgButSet, panel.imgButInfo,
+                               panel.imgButHelp, panel.imgButOpts};
+  for (int i = 0; i < 5; ++i) {
+    const auto at = [&] { return std::pair(buttons[i]->Left(), buttons[i]->Top()); };
+    EXPECT_EQ(at(), std::pair(lefts[i], 120));
+    PressMouse(buttons[i], {3, 3});
+    EXPECT_EQ(at(), std::pair(lefts[i] + 10, 130));
+    ReleaseMouse(buttons[i], {3, 3});
+    EXPECT_EQ(at(), std::pair(lefts[i], 120));
+  }
+}
+
+// A selection moves the caption on every page, and with it the controls of the settings page.
+TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
+  PutSettings(Emulator::kRaine, RaineRecord("Bubble Bobble", 4));
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  ListBox* const list = panel.games->lstRom;
+  for (ImageBox* const button :
+       {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+    Press(button);
+    SCOPED_TRACE(Pages(panel));
+    PressEntry(list, 1);
+    EXPECT_EQ(Caption(panel), "Rainbow Islands");
+    EXPECT_EQ(Mode(panel), 0);
+    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Emu\Raine\Roms)");
+    PressEntry(list, 0);
+    EXPECT_EQ(Caption(panel), "Bubble Bobble");
+    EXPECT_EQ(Mode(panel), 4);
+    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Own)");
+    std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
+    PutSettings(Emulator::kRaine, RaineRecord("Bubble Bobble", 4));
+  }
+}
+
+// Behind an empty line no record is found; the next game must not inherit this one's options.
+TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
+  PutSettings(Emulator::kCallus, "\r\n");
+  EmulatorPanel& panel = OpenConfigured(Emulator::kCallus);
+  Press(panel.imgButSet);
+  Combo(panel, "cboHR")->SetListIndex(4);
+  Press(panel.imgButInfo);
+  PressEntry(panel.games->lstRom, 1);
+  EXPECT_EQ(Combo(panel, "cboHR")->ListIndex(), 10);
+}
+
+TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  ListBox* const list = panel.games->lstRom;
+  for (ImageBox* const button :
+       {panel.imgButSnap, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+    Press(button);
+    std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
+    PressEntry(list, 1);
+    PressEntry(list, 0);
+    EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("(none)")) << Pages(panel);
+  }
+  Press(panel.imgButSet);
+  Combo(panel, "cboScreenMode")->SetListIndex(2);
+  PressEntry(list, 1);
+  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("Bubble Bobble"));
+  EXPECT_EQ(Record(Emulator::kRaine, "Bubble Bobble"), R"("C:\Emu\Raine\Roms",2,0,0,0,0)");
+  EXPECT_EQ(Mode(panel), 0) << "no record: the defaults";
+  Combo(panel, "cboScreenMode")->SetListIndex(5);
+  // The same entry again: saved and loaded once more, so nothing is lost.
+  PressEntry(list, 1);
+  EXPECT_EQ(Mode(panel), 5);
+  PressEntry(list, 0);
+  EXPECT_EQ(Mode(panel), 2);
+  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("Bubble Bobble", "Rainbow Islands"));
+}
+
+TEST_F(PagesTest, TheFavouritesRunTheSameCycleAndLeaveTheOtherListAlone) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kSystem16, {"Shinobi", "Aurail"});
+  Press(panel.imgButInfo);
+  PressEntry(panel.games->lstRom, 0);
+  EXPECT_EQ(panel.favourites->lstPref->Text(), "Aurail");
+  PressEntry(panel.favourites->lstPref, 1);
+  EXPECT_EQ(Caption(panel), "Shinobi");
+  EXPECT_EQ(panel.picInfo->FieldLabel(Field::kRomFile)->Caption(), "shinobi.zip");
+  EXPECT_EQ(panel.games->lstRom->Text(), "Aurail");
+}
+
+TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
+  struct Case {
+    const char* name;
+    std::string store;
+    std::string favourite;
+    std::string game;
+    int horizontal;  // cboCallusHR: preset 0, default 10
+    std::string folder;
+  };
+  const std::string tail = ",0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0\r\n";
+  const Case cases[] = {
+      {"no store", "(none)", "", "1941", 0, R"(C:\Emu\Callus\Roms)"},
+      {"no record", R"("x","C:\x",3)" + tail, "", "1941", 10, R"(C:\Emu\Callus\Roms)"},
+      {"a record", R"("1941","C:\Own",5)" + tail, "", "1941", 5, R"(C:\Own)"},
+      {"a favourite", R"("Strider","C:\Own",6)" + tail, "Strider", "Strider", 6, R"(C:\Own)"},
+      {"the default record", R"("[DEFAULT]","C:\All",7)" + tail, "", "1941", 7, R"(C:\All)"},
+      {"no folder", R"("1941","",5)" + tail, "", "1941", 5, R"(C:\Emu\Callus\Roms)"},
+      {"an empty line first", "\r\n" + (R"("1941","C:\Own",5)" + tail), "", "1941", 0,
+       R"(C:\Emu\Callus\Roms)"},
+  };
+  for (const bool empty_caption : {false, true}) {
+    for (const Case& at : cases) {
+      SCOPED_TRACE(std::string(at.name) + (empty_caption ? ", empty caption" : ""));
+      PutCfg(Emulator::kCallus, at.favourite.empty() ? std::vector<std::string>{}
+                                                     : std::vector<std::string>{at.favourite});
+      EmulatorPanel& panel = Open(Emulator::kCallus);
+      std::filesystem::remove(drive_.Host(SetPath(Emulator::kCallus)));
+      if (at.store != "(none)") PutSettings(Emulator::kCallus, at.store);
+      if (empty_caption) {
+        panel.favourites->lstPref->SetItems(panel.favourites->lstPref->Items());
+        panel.games->Fill(GameState::kAllSupported);
+        panel.lblRomSettings->SetCaption("");
+      }
+      Press(panel.imgButSet);
+      EXPECT_EQ(Caption(panel), at.game);
+      EXPECT_EQ(Combo(panel, "cboHR")->ListIndex(), at.horizontal);
+      EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.folder);
+      sections_.CloseOpenPanels();
+    }
+  }
+}
+
+// What a panel shows before any record was read.
+TEST_F(PagesTest, StartValues) {
+  struct Case {
+    Emulator emulator;
+    std::string record;
+    std::string empty_folder;  // the rom folder while none is configured
+  };
+  const Case cases[] = {
+      {Emulator::kMame,
+       R"(0,0,0,0,1,1,0,0,0,0,"0","0",14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0)",
+       R"(C:\emu\mame\roms)"},
+      {Emulator::kCallus, "10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0", ""},
+      {Emulator::kRaine, "0,0,0,0,0", ""},
+      {Emulator::kSystem16, "2,2,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,1,0", ""},
+      {Emulator::kM72, "0,0,0,0,0,0,0,0,1,0", ""},
+  };
+  for (const Case& at : cases) {
+    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    EmulatorPanel& panel = Open(at.emulator);
+    TakeBoxes();
+    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.empty_folder);
+    panel.SaveSettings("now");
+    EXPECT_EQ(Record(at.emulator, "now"), "\"" + at.empty_folder + "\"," + at.record);
+  }
+}
+
+TEST_F(PagesTest, ApplyToAllAsksThenLeavesTheDefaultRecordAlone) {
+  for (const EmulatorProfile& profile : Profiles()) {
+    SCOPED_TRACE(profile.word);
+    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+    Press(panel.imgButInfo);
+    Press(panel.imgButSet);
+    const std::string before = drive_.Read(SetPath(profile.emulator));
+    const std::string question =
+        "? This will:|1) Erase all the previously saved configurations|2) Apply the current "
+        "settings to all the games||Are you sure?";
+    boxes_.answers = {BoxAnswer::kNo};
+    Press(panel.picSettings->cmdApplytoAll);
+    EXPECT_THAT(TakeBoxes(), ElementsAre(question));
+    EXPECT_EQ(drive_.Read(SetPath(profile.emulator)), before);
+    boxes_.answers = {BoxAnswer::kYes};
+    Press(panel.picSettings->cmdApplytoAll);
+    EXPECT_THAT(TakeBoxes(), ElementsAre(question, "i Default configurations saved!"));
+    EXPECT_THAT(Keys(profile.emulator), ElementsAre("[DEFAULT]"));
+    const std::string game = Caption(panel);
+    Press(panel.imgButInfo);
+    EXPECT_THAT(Keys(profile.emulator), ElementsAre("[DEFAULT]", game));
+  }
+}
+
+TEST_F(PagesTest, WithoutAGameTheEmptyCaptionIsSavedAndNothingBreaks) {
+  PutData("Raine", DataHead("0"));
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  EXPECT_EQ(Caption(panel), "");
+  for (ImageBox* const button : {panel.imgButInfo, panel.imgButSet, panel.imgButHelp}) {
+    Press(button);
+  }
+  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre(""));
+  Press(panel.imgButSnap);
+  EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
+}
+
+}  // namespace
+}  // namespace zarvo

@@ -1,0 +1,229 @@
+// A drive with small data files, and the five sections on top of it, for the tests of the panels.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fakes/failing_files.h"
+#include "fakes/key_press.h"
+#include "fakes/modal.h"
+#include "fakes/mouse.h"
+#include "fakes/recorded_boxes.h"
+#include "fakes/temp_drive.h"
+#include "panel/sections.h"
+
+namespace zarvo {
+
+// A main window that stands at 400, 500 and counts what the panels ask of it.
+struct FakeMain : MainPlace {
+  [[nodiscard]] int MainLeft() const override { return left; }
+  [[nodiscard]] int MainTop() const override { return top; }
+  void SetMainPlace(int new_top, int new_left) override {
+    top = new_top;
+    left = new_left;
+  }
+  void ResetCommands() override { ++resets; }
+
+  int top = 400;
+  int left = 500;
+  int resets = 0;
+};
+
+// A record from its fields up to the year; the rest is "Yes" and so on.
+inline std::string Game(std::string_view up_to_year) {
+  return std::string(up_to_year) +
+         ";Yes;Near;Yes(1);Hi;Tail;drv.c;[Z80];M68000;n/a;n/a;YM2151;n/a;n/a;n/a;\r\n";
+}
+
+// Seventeen header lines; the eighth, the total, holds `total`.
+inline std::string DataHead(std::string_view total) {
+  std::string head = "# a comment\r\n\r\n";
+  for (int line = 1; line <= 17; ++line) {
+    head += "*" + (line == 8 ? std::string(total) : "fact " + std::to_string(line)) + "\r\n";
+  }
+  return head;
+}
+
+class PanelTest : public testing::Test {
+ protected:
+  PanelTest() {
+    QObject::connect(&watch_, &QTimer::timeout, &watch_, CloseUnexpected);
+    watch_.start(3000);
+    app_.ProgramFolder = R"(C:\Zarvo)";
+    PutData("Mame", DataHead("200") + Game("Aliens;aliens;O;-;Shooter;Konami;1990") +
+                        Game("Aliens (JP);aliensj;C;aliens;Shooter;Konami;1990") +
+                        Game("Metal Slug;mslug;C;neogeo;Action;Nazca;1996") +
+                        Game("Puck Man;puckman;O;-;Labyrinth;Namco;1980") +
+                        Game("Zaxxon;zaxxon;O;-;Shooter;Sega;1990"));
+    PutData("Callus", DataHead("50") + Game("1941;1941;O;-;Shooter;Capcom;1990") +
+                          Game("Final Fight;ffight;O;-;Fighting;Capcom;1989") +
+                          Game("Strider;strider;O;-;Action;Capcom;1989"));
+    PutData("Raine", DataHead("30") + Game("Bubble Bobble;bublbobl;O;-;Platform;Taito;1986") +
+                         Game("Rainbow Islands;rainbow;O;-;Platform;Taito;1987"));
+    PutData("System16", DataHead("20") + Game("Aurail;aurail;O;-;Shooter;Sega;1990") +
+                            Game("Shinobi;shinobi;O;-;Action;Sega;1987"));
+    PutData("M72", DataHead("12") + Game("Battle Chopper;bchopper;O;-;Shooter;Irem;1987") +
+                       Game("Dragon Breed;dbreed;O;-;Shooter;Irem;1989"));
+  }
+  ~PanelTest() override {
+    EXPECT_THAT(TakeBoxes(), testing::IsEmpty()) << "an unexpected box";
+    DropClosed();
+  }
+  // Panels that were closed go with the next turn of the event loop.
+  static void DropClosed() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+  void PutData(std::string_view word, std::string_view bytes) {
+    drive_.Write(R"(C:\Zarvo\Data\)" + std::string(word) + ".dat", bytes);
+  }
+  // A configuration file in which the emulator stands in C:\Emu\<word>, with these favourites.
+  void PutCfg(Emulator emulator, const std::vector<std::string>& favourites = {},
+              std::string_view layout_word = "up") {
+    const std::string word(ProfileOf(emulator).word);
+    std::string text =
+        Lines({R"(C:\Emu\)" + word + R"(\)" + word + ".exe", R"(C:\Emu\)" + word + R"(\Roms)",
+               R"(C:\Snaps)", "GIF", R"(C:\Emu\)" + word, std::string(layout_word)}) +
+        Lines(favourites);
+    drive_.Write(CfgPath(emulator), text);
+  }
+  void PutSettings(Emulator emulator, std::string_view bytes) {
+    drive_.Write(SetPath(emulator), bytes);
+  }
+  static std::string CfgPath(Emulator emulator) {
+    return R"(C:\Zarvo\cfg\)" + std::string(ProfileOf(emulator).word) + ".cfg";
+  }
+  static std::string SetPath(Emulator emulator) {
+    return R"(C:\Zarvo\cfg\)" + std::string(ProfileOf(emulator).word) + ".set";
+  }
+  static std::string Lines(const std::vector<std::string>& values) {
+    std::string text;
+    for (const std::string& value : values) text += "\"" + value + "\"\r\n";
+    return text;
+  }
+  // The keys of a settings store, in its order; "(none)" without a store.
+  [[nodiscard]] std::vector<std::string> Keys(Emulator emulator) const {
+    if (!drive_.Exists(SetPath(emulator))) return {"(none)"};
+    std::vector<std::string> keys;
+    for (const std::string& line : Split(drive_.Read(SetPath(emulator)))) {
+      keys.push_back(line.substr(1, line.find('"', 1) - 1));
+    }
+    return keys;
+  }
+  // The record of a key without the key, or "(none)".
+  [[nodiscard]] std::string Record(Emulator emulator, const std::string& key) const {
+    if (!drive_.Exists(SetPath(emulator))) return "(none)";
+    for (const std::string& line : Split(drive_.Read(SetPath(emulator)))) {
+      if (line.starts_with("\"" + key + "\",")) return line.substr(key.size() + 3);
+    }
+    return "(none)";
+  }
+  static std::vector<std::string> Split(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+      lines.emplace_back(text.substr(0, text.find("\r\n")));
+      text.remove_prefix(std::min(text.size(), lines.back().size() + 2));
+    }
+    return lines;
+  }
+
+  EmulatorPanel& Open(Emulator emulator) {
+    sections_.OpenSection(ProfileOf(emulator));
+    return sections_.Panel(emulator);
+  }
+  // With a configuration file, so that no message comes.
+  EmulatorPanel& OpenConfigured(Emulator emulator,
+                                const std::vector<std::string>& favourites = {}) {
+    PutCfg(emulator, favourites);
+    return Open(emulator);
+  }
+
+  // What the boxes since the last call said: "i", "!" or "?" by their kind, a title that isn't the
+  // usual one in brackets, then the text with "|" for a line break.
+  std::vector<std::string> TakeBoxes() {
+    std::vector<std::string> told;
+    for (const RecordedBoxes::Shown& box : boxes_.shown) {
+      std::string line = "i ";
+      if (box.icon == BoxIcon::kExclamation) line = "! ";
+      if (box.buttons == BoxButtons::kYesNo) line = "? ";
+      if (box.title != "Zarvo v0.1") line += "[" + box.title + "] ";
+      for (const char c : box.text) line += c == '\r' ? '|' : c;
+      told.push_back(line);
+    }
+    boxes_.shown.clear();
+    return told;
+  }
+
+  static std::vector<std::string> Names(const ListBox* list) {
+    std::vector<std::string> names;
+    for (int i = 0; i < list->ListCount(); ++i) names.emplace_back(list->Items().At(i));
+    return names;
+  }
+  // The pages that are visible, for one look.
+  static std::string Pages(const EmulatorPanel& panel) {
+    std::string pages;
+    const auto note = [&](const Control& control, std::string_view name) {
+      if (control.Visible()) pages.append(pages.empty() ? "" : " ").append(name);
+    };
+    note(*panel.picSnap->imgSnap, "img");
+    note(*panel.picSnap, "snap");
+    note(*panel.picSettings, "settings");
+    note(*panel.picInfo, "info");
+    note(*panel.picHelp, "help");
+    note(*panel.picConf, "conf");
+    return pages;
+  }
+  static std::string Caption(const EmulatorPanel& panel) { return panel.lblRomSettings->Caption(); }
+  static void Press(Control* control) { ClickMouse(control->Widget()); }
+  // Presses an entry of a list with the mouse.
+  static void PressEntry(ListBox* list, int index) {
+    ClickMouse(list->viewport(), list->EntryRect(index).center());
+  }
+  static ComboBox* Combo(const EmulatorPanel& panel, std::string_view name) {
+    return panel.picSettings->Option(name).combo;
+  }
+  static CheckBox* Check(const EmulatorPanel& panel, std::string_view name) {
+    return panel.picSettings->Option(name).check;
+  }
+
+  TempDrive drive_;
+  FailingFiles files_{drive_.files()};
+  AppState app_;
+  RecordedBoxes boxes_;
+  FakeMain main_;
+  std::vector<std::string> runs_;  // the batch file at each run, and its folder
+  std::function<void()> during_run_;
+  Sections sections_{
+      files_,
+      app_,
+      boxes_,
+      main_,
+      [this](std::string_view command_line) { return Run(command_line); },
+      [] {
+        return ClockTime{.year = 1999, .month = 6, .day = 23, .hour = 9, .minute = 7, .second = 3};
+      }};
+
+ private:
+  // A window that nobody plays would hang the test.
+  static void CloseUnexpected() {
+    auto* const window = dynamic_cast<Window*>(QApplication::activeModalWidget());
+    if (window == nullptr) return;
+    ADD_FAILURE() << "Nobody expected the window " << window->Caption();
+    window->UnloadWindow();
+  }
+
+  Status Run(std::string_view command_line) {
+    EXPECT_EQ(command_line, "command.com /c lancia.bat");
+    const auto batch = ReadAll(files_, "lancia.bat");
+    runs_.push_back(files_.CurrentFolder() + "> " + (batch ? *batch : "(no batch file)"));
+    if (during_run_) during_run_();
+    return Success();
+  }
+
+  QTimer watch_;
+};
+
+}  // namespace zarvo

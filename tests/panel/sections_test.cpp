@@ -1,0 +1,194 @@
+// Opening and closing the five sections.
+#include "panel/sections.h"
+
+#include "panel/panel_fixture.h"
+#include "pickers/file_picker.h"
+
+namespace zarvo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class SectionsTest : public PanelTest {
+ protected:
+  static constexpr std::string_view kNoCfg =
+      "i No configuration file found.|Probably it's the first time you access this section. Please "
+      "set up your|paths now before moving to other sections!";
+};
+
+TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
+  struct Case {
+    Emulator emulator;
+    std::vector<std::string> favourites;
+    std::string game;
+    std::string count;  // of the games; empty: no such label
+    std::string favourite_count;
+    std::string total;
+  };
+  const Case cases[] = {
+      {Emulator::kMame, {}, "Aliens", "5", "0", "200"},
+      {Emulator::kCallus, {"Strider", "Final Fight"}, "Final Fight", "3", "2", "50"},
+      {Emulator::kRaine, {}, "Bubble Bobble", "2", "0", "30"},
+      {Emulator::kSystem16, {"Shinobi"}, "Shinobi", "", "1", "20"},
+      {Emulator::kM72, {}, "Battle Chopper", "", "12", ""},
+  };
+  for (const Case& at : cases) {
+    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    PutCfg(at.emulator, at.favourites);
+    const EmulatorPanel& panel = Open(at.emulator);
+    EXPECT_EQ(Caption(panel), at.game);
+    EXPECT_EQ(Pages(panel), "img snap");
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(app_.lblHideEmuSelect, ProfileOf(at.emulator).section_word);
+    EXPECT_EQ(app_.ShowWord(at.emulator), "SI");
+    EXPECT_EQ(panel.favourites->lblFavCount->Caption(), at.favourite_count);
+    EXPECT_EQ(panel.games->lblRomCount ? panel.games->lblRomCount->Caption() : "", at.count);
+    EXPECT_EQ(panel.games->lblTotal ? panel.games->lblTotal->Caption() : "", at.total);
+    EXPECT_EQ(Keys(at.emulator), std::vector<std::string>{"(none)"}) << "opening saves nothing";
+  }
+}
+
+TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
+  for (const EmulatorProfile& profile : Profiles()) {
+    SCOPED_TRACE(profile.word);
+    std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + std::string(profile.data_file)));
+    sections_.OpenSection(profile);
+    EXPECT_THAT(TakeBoxes(),
+                ElementsAre("! Warning! It could not be found the data-file in the directory "
+                            "</data>|Without this file you have no access to this section!|The "
+                            "last release of this data-file can be downloaded from "
+                            "http://zarvo.example/"));
+    EXPECT_EQ(app_.lblHideEmuSelect, "HIDE");
+    EXPECT_EQ(app_.ShowWord(profile.emulator), "NO");
+    EXPECT_EQ(sections_.Find(profile.emulator), nullptr);
+  }
+}
+
+// The box comes up after the first game was selected; Callus, Raine and System16 stand on the
+// screen by then if they have no favourites.
+TEST_F(SectionsTest, WithoutAConfigurationFileItSaysSoOnTheConfigurationPage) {
+  struct Case {
+    Emulator emulator;
+    bool visible_at_message;
+  };
+  const Case cases[] = {{Emulator::kMame, false},
+                        {Emulator::kCallus, true},
+                        {Emulator::kRaine, true},
+                        {Emulator::kSystem16, true},
+                        {Emulator::kM72, false}};
+  for (const Case& at : cases) {
+    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    bool visible = false;
+    std::string caption;
+    std::string word;
+    boxes_.on_show = [&] {
+      const EmulatorPanel& panel = sections_.Panel(at.emulator);
+      visible = panel.isVisible();
+      caption = Caption(panel);
+      word = app_.ShowWord(at.emulator);
+    };
+    EmulatorPanel& panel = Open(at.emulator);
+    EXPECT_EQ(TakeBoxes(), std::vector<std::string>{std::string(kNoCfg)});
+    EXPECT_EQ(visible, at.visible_at_message);
+    EXPECT_EQ(word, "NO");
+    EXPECT_NE(caption, "");
+    EXPECT_EQ(Pages(panel), "img conf");
+    EXPECT_TRUE(panel.isVisible());
+    // The image says that the snapshot page counts as the current one.
+    panel.picSnap->HideLabels();
+    panel.picSnap->lblNoAvail->SetCaption("");
+    ListBox* const list = panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref;
+    list->SetListIndex(1);
+    EXPECT_EQ(Caption(panel), list->Text());
+    EXPECT_EQ(panel.picSnap->lblNoAvail->Caption(), "No ScreenShot Available");
+  }
+}
+
+TEST_F(SectionsTest, EnteringAnOpenSectionBringsTheWholeListBackAndKeepsPageAndSize) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  panel.games->cboFilterGenre->SetListIndex(7);  // Labyrinth
+  ASSERT_THAT(Names(panel.games->lstRom), ElementsAre("Puck Man"));
+  panel.sizes->Short();
+  Press(panel.imgButInfo);
+  Open(Emulator::kMame);
+  EXPECT_EQ(panel.games->lstRom->ListCount(), 5);
+  EXPECT_EQ(panel.games->lblRomCount->Caption(), "5");
+  EXPECT_EQ(panel.games->cboFilterGenre->Text(), "Labyrinth");
+  EXPECT_EQ(Caption(panel), "Aliens");
+  EXPECT_EQ(Pages(panel), "info");
+  EXPECT_EQ(panel.Window::Width(), 2415);
+  // No configuration file any more: its page comes up over the one on show.
+  std::filesystem::remove(drive_.Host(CfgPath(Emulator::kMame)));
+  Open(Emulator::kMame);
+  EXPECT_EQ(TakeBoxes(), std::vector<std::string>{std::string(kNoCfg)});
+  EXPECT_EQ(Pages(panel), "conf");
+}
+
+TEST_F(SectionsTest, ClosingSavesPathsAndTheCurrentGameAndReopeningStartsOver) {
+  for (const bool by_desktop : {false, true}) {
+    SCOPED_TRACE(by_desktop);
+    EmulatorPanel& panel = OpenConfigured(Emulator::kCallus, {"Strider"});
+    std::filesystem::remove(drive_.Host(CfgPath(Emulator::kCallus)));
+    Press(panel.imgButSet);
+    Combo(panel, "cboHR")->SetListIndex(3);
+    if (by_desktop) {
+      panel.close();
+    } else {
+      Press(panel.cmdExit);
+    }
+    EXPECT_EQ(app_.ShowWord(Emulator::kCallus), "NO");
+    EXPECT_EQ(sections_.Find(Emulator::kCallus), nullptr);
+    EXPECT_EQ(drive_.Read(CfgPath(Emulator::kCallus)),
+              "\"C:\\Emu\\Callus\\Callus.exe\"\r\n\"C:\\Emu\\Callus\\Roms\"\r\n\"C:\\Snaps\"\r\n"
+              "\"GIF\"\r\n\"C:\\Emu\\Callus\"\r\n\"up\"\r\n\"Strider\"\r\n");
+    EXPECT_THAT(Keys(Emulator::kCallus), ElementsAre("Strider"));
+    EXPECT_TRUE(Record(Emulator::kCallus, "Strider").starts_with(R"("C:\Emu\Callus\Roms",3,0,)"));
+    DropClosed();
+    EXPECT_EQ(Pages(Open(Emulator::kCallus)), "img snap");
+  }
+}
+
+TEST_F(SectionsTest, TheEndOfTheProgramSavesOpenPanelsInOrderAndALayoutClosesThem) {
+  OpenConfigured(Emulator::kM72);
+  OpenConfigured(Emulator::kMame);
+  OpenConfigured(Emulator::kRaine);
+  Press(sections_.Panel(Emulator::kRaine).cmdExit);
+  drive_.Write(SetPath(Emulator::kRaine), "");
+  sections_.SaveOpenPanels();
+  EXPECT_THAT(Keys(Emulator::kMame), ElementsAre("Aliens"));
+  EXPECT_THAT(Keys(Emulator::kM72), ElementsAre("Battle Chopper"));
+  EXPECT_THAT(Keys(Emulator::kRaine), IsEmpty()) << "a closed panel is left alone";
+  EXPECT_EQ(app_.ShowWord(Emulator::kMame), "SI");
+
+  EXPECT_EQ(sections_.PanelPlace(Emulator::kMame), (TwipRect{3950, 400, 6345, 7260}));
+  sections_.SetPanelPlace(Emulator::kMame, {100, 200, 2415, 4620});
+  EXPECT_EQ(sections_.PanelPlace(Emulator::kMame), (TwipRect{100, 200, 2415, 4620}));
+  EXPECT_EQ(sections_.PanelPlace(Emulator::kRaine), std::nullopt);
+  sections_.CloseOpenPanels();
+  EXPECT_EQ(app_.ShowWord(Emulator::kMame), "NO");
+  EXPECT_EQ(sections_.Find(Emulator::kM72), nullptr);
+}
+
+// One box for each file, whose old content stays.
+TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  PutSettings(Emulator::kRaine, "\"old\",\"C:\\\",0,0,0,0,0\r\n");
+  const std::string old_cfg = drive_.Read(CfgPath(Emulator::kRaine));
+  files_.Fail(FileStep::kReplace, "");
+  const std::vector<std::string> both = {"! Raine.cfg: No space left on device",
+                                         "! Raine.set: No space left on device"};
+  sections_.SaveOpenPanels();
+  EXPECT_EQ(TakeBoxes(), both);
+  Press(panel.imgButInfo);
+  EXPECT_THAT(TakeBoxes(), ElementsAre(both[1]));
+  EXPECT_EQ(Pages(panel), "info");
+  const ModalPlay<FilePicker> play([](FilePicker& picker) { picker.UnloadWindow(); });
+  PressKey(panel.games->lstRom, Qt::Key_Return);
+  EXPECT_THAT(TakeBoxes(), ElementsAre(both[0], testing::StartsWith("! [Warning! - No EXE")));
+  EXPECT_EQ(drive_.Read(CfgPath(Emulator::kRaine)), old_cfg);
+  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("old"));
+}
+
+}  // namespace
+}  // namespace zarvo

@@ -1,0 +1,89 @@
+#!/usr/bin/env python3
+"""Tests of the start script: zarvo_home_test.py START_SCRIPT
+
+It runs from a folder laid out as an installation, with a script in place of the program that tells
+where it was started.
+"""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+START_SCRIPT = Path(sys.argv.pop(1))
+SHIPPED = {"drives.ini": "C = .\n", "Readme.txt": "read\n", "data/Mame.dat": "mame\n",
+           "data/M72.dat": "m72\n"}
+
+
+class ZarvoHome(unittest.TestCase):
+    def setUp(self):
+        self.root = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.root)
+        bin_folder = self.root / "usr/bin"
+        bin_folder.mkdir(parents=True)
+        shutil.copy(START_SCRIPT, bin_folder)
+        self.write(bin_folder / "zarvo", "#!/bin/sh\npwd\n")
+        (bin_folder / "zarvo").chmod(0o755)
+        for name, text in SHIPPED.items():
+            self.write(self.root / "usr/share/zarvo" / name, text)
+        self.home = self.root / "home of me"
+        self.home.mkdir()
+        self.zarvo = self.home / "Zarvo"
+
+    @staticmethod
+    def write(path, text):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text)
+
+    def start(self, home=None, search_path=None):
+        environment = {"PATH": f"{search_path}:{os.environ['PATH']}" if search_path
+                       else os.environ["PATH"]}
+        if home is not False:
+            environment["HOME"] = str(home or self.home)
+        return subprocess.run([self.root / "usr/bin" / START_SCRIPT.name], env=environment,
+                              capture_output=True, text=True, check=False)
+
+    def files(self):
+        return {str(file.relative_to(self.zarvo)): file.read_text()
+                for file in self.zarvo.rglob("*") if file.is_file()}
+
+    def assert_refused(self, result, words):
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertIn(words, result.stderr)
+        self.assertEqual(result.stdout, "", "the program was started all the same")
+
+    def test_first_start_lays_the_folder_out(self):
+        result = self.start()
+        self.assertEqual((result.returncode, result.stdout.strip()), (0, str(self.zarvo)))
+        self.assertEqual(self.files(), {"drives.ini": "C = .\n", "Readme.txt": "read\n",
+                                        "Data/Mame.dat": "mame\n", "Data/M72.dat": "m72\n"})
+
+    def test_later_start_brings_in_what_is_missing_and_keeps_the_rest(self):
+        self.write(self.zarvo / "DATA/mame.DAT", "mine\n")
+        self.write(self.zarvo / "README.TXT", "mine\n")
+        self.write(self.zarvo / "cfg/Mame.cfg", "mine\n")
+        self.assertEqual(self.start().returncode, 0)
+        # A folder that has been in use keeps its drives, so it gets no drives.ini.
+        self.assertEqual(self.files(), {"DATA/mame.DAT": "mine\n", "README.TXT": "mine\n",
+                                        "cfg/Mame.cfg": "mine\n", "DATA/M72.dat": "m72\n"})
+
+    def test_no_place_for_the_folder(self):
+        self.assert_refused(self.start(home=False), "HOME isn't set")
+        self.assert_refused(self.start(home=self.root / "gone"), "There is no folder")
+        self.write(self.zarvo, "a file in the way\n")
+        self.assert_refused(self.start(), "can't be made")
+        self.assertEqual(self.zarvo.read_text(), "a file in the way\n")
+
+    def test_full_disk_leaves_no_half_file(self):
+        full = self.root / "full/cp"
+        self.write(full, '#!/bin/sh\nprintf half >"$2"\necho "No space left on device" >&2\nexit 1\n')
+        full.chmod(0o755)
+        self.assert_refused(self.start(search_path=full.parent), "No space left on device")
+        self.assertEqual(self.files(), {})
+
+
+if __name__ == "__main__":
+    unittest.main()
