@@ -73,6 +73,17 @@ TEST_F(FileListsTest, PathsMayStartAtTheCurrentFolder) {
   }
 }
 
+TEST_F(FileListsTest, AnotherDriveIsLookedAtWithoutGoingThere) {
+  DosWorld world({{'C', drive.root().string()}, {'D', (drive.root() / "Emu").string()}});
+  EXPECT_TRUE(world.ChangeFolder("D:\\mame").ok());
+  FolderList folders(&stage, world);
+  EXPECT_TRUE(folders.SetPath("D:").ok());
+  EXPECT_EQ(folders.Path(), "D:\\mame");
+  EXPECT_TRUE(folders.SetPath("D:..\\Callus").ok());
+  EXPECT_EQ(folders.Path(), "D:\\Callus");
+  EXPECT_EQ(world.CurrentFolder(), "C:\\");
+}
+
 TEST_F(FileListsTest, EnterAndDoubleClickOpenAnotherFolder) {
   FolderList folders(&stage, drive.files());
   folders.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 3000});

@@ -53,6 +53,7 @@ TEST(KeyCodes, AreThoseThatTheKeyRulesName) {
 
 TEST(KeyCodes, AModifierCountsFromItsOwnPressOn) {
   EXPECT_EQ(ShiftStateOf(Pressed(Qt::Key_Shift)), 1);
+  EXPECT_EQ(ShiftStateOf(Pressed(Qt::Key_Shift, Qt::ShiftModifier)), 1) << "the second of two";
   EXPECT_EQ(ShiftStateOf(Pressed(Qt::Key_Control)), 2);
   EXPECT_EQ(ShiftStateOf(Pressed(Qt::Key_Alt)), 4);
   EXPECT_EQ(ShiftStateOf(Pressed(Qt::Key_A, Qt::ShiftModifier | Qt::AltModifier)), 5);
