@@ -61,13 +61,13 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
     input_.now = {.year = 1999, .month = 6, .day = 23, .hour = 9, .minute = 7, .second = 3};
   }
 
-  static const OptionSpec& Spec(const std::string& name) {
+  static const OptionSpec& OptionOf(const std::string& name) {
     return OptionsOf(GetParam())[OptionIndex(GetParam(), name)];
   }
 
   void Set(const std::string& name, const std::string& value) {
     OptionValue& option = input_.options.values[OptionIndex(GetParam(), name)];
-    if (Spec(name).kind == OptionKind::kText) {
+    if (OptionOf(name).kind == OptionKind::kText) {
       option.text = value;
     } else {
       option.number = std::stoi(value);
@@ -75,7 +75,7 @@ class CommandLineOf : public testing::TestWithParam<Emulator> {
   }
 
   static std::string DefaultOf(const std::string& name) {
-    const OptionSpec& declared = Spec(name);
+    const OptionSpec& declared = OptionOf(name);
     return declared.kind == OptionKind::kText ? std::string(declared.default_text)
                                               : std::to_string(declared.default_value);
   }
@@ -119,12 +119,13 @@ TEST_P(CommandLineOf, ListsHoldTheItemsOfTheExpectations) {
   std::size_t options = 0;
   for (const auto& [name, sayings] : expected_.options) {
     ++options;
-    if (Spec(name).kind != OptionKind::kCombo) continue;
+    if (OptionOf(name).kind != OptionKind::kCombo) continue;
     std::vector<std::string> items;
     for (const Saying& saying : sayings) {
       if (saying.value != "-1") items.push_back(saying.item);
     }
-    EXPECT_EQ(items, std::vector<std::string>(Spec(name).items.begin(), Spec(name).items.end()))
+    EXPECT_EQ(items,
+              std::vector<std::string>(OptionOf(name).items.begin(), OptionOf(name).items.end()))
         << name;
   }
   EXPECT_EQ(options, OptionsOf(GetParam()).size());
