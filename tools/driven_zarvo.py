@@ -157,7 +157,7 @@ class DrivenZarvo:
                 return
             self.desktop.keys("Tab")
             try:
-                wait_until(lambda: self.focus_frame(window) != before, "the focus to move", 0.5)
+                wait_until(lambda: self.focus_frame(window) != before, "the focus to move", 1.5)
             except Overdue:
                 pass  # something without a frame has it
         raise Overdue(f"Tab never came to {spot} in {window.title!r}")
