@@ -52,7 +52,7 @@ inline std::string DataHead(std::string_view total) {
 class PanelTest : public testing::Test {
  protected:
   PanelTest() {
-    QObject::connect(&watch_, &QTimer::timeout, &watch_, CloseUnexpected);
+    QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { CloseUnexpected(); });
     watch_.start(3000);
     app_.ProgramFolder = R"(C:\Zarvo)";
     PutData("Mame", DataHead("200") + Game("Aliens;aliens;O;-;Shooter;Konami;1990") +
@@ -207,10 +207,12 @@ class PanelTest : public testing::Test {
       }};
 
  private:
-  // A window that nobody plays would hang the test.
-  static void CloseUnexpected() {
+  // A window that nobody plays would hang the test; it is one that stands through two looks.
+  void CloseUnexpected() {
     auto* const window = dynamic_cast<Window*>(QApplication::activeModalWidget());
-    if (window == nullptr) return;
+    const bool stands = window != nullptr && window == seen_;
+    seen_ = window;
+    if (!stands) return;
     ADD_FAILURE() << "Nobody expected the window " << window->Caption();
     window->UnloadWindow();
   }
@@ -224,6 +226,7 @@ class PanelTest : public testing::Test {
   }
 
   QTimer watch_;
+  const Window* seen_ = nullptr;  // modal at the last look
 };
 
 }  // namespace zarvo
