@@ -75,7 +75,7 @@ class Program {
 
   void Start() {
     main_.StartUp();
-    main_.ShowModeless();
+    main_.Appear();
   }
 
  private:
@@ -85,7 +85,8 @@ class Program {
             .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
-            .end_program = [] { QApplication::exit(); }};
+            .end_program = [] { QApplication::exit(); },
+            .meanwhile = DressUpAside};
   }
 
   LayoutTools ToolsForLayouts() {

@@ -47,6 +47,12 @@ void MainWindow::StartUp() {
   Timer1.SetInterval(kTickerInterval);
 }
 
+void MainWindow::Appear() {
+  ShowFirst(actions_.meanwhile);
+  // Not sooner: the first name that is given starts the line to the screen readers.
+  imgZarvo->SetAccessibleName("Zarvo");
+}
+
 void MainWindow::SetMainPlace(int top, int left) {
   SetTop(top);
   SetLeft(left);

@@ -25,6 +25,8 @@ struct MainActions {
   std::function<void()> show_about;    // modal
   std::function<void()> autoload;      // applies the layout of the start, silent whatever fails
   std::function<void()> end_program;
+  // Once, while the desktop looks for a place for the window.
+  std::function<void()> meanwhile = [] {};
 };
 
 // Reads the header lines of an emulator's data file, each without its first character, as far as
@@ -38,6 +40,8 @@ class MainWindow : public Window, public MainPlace {
 
   // The start of the program, in its order: state, welcome box, folders, place, autoload, ticker.
   void StartUp();
+  // After that: shows the window.
+  void Appear();
 
   // MainPlace:
   [[nodiscard]] int MainLeft() const override { return Left(); }

@@ -103,7 +103,6 @@ Label* MainWindow::Command(const TwipRect& place, std::string_view caption, std:
 void MainWindow::BuildHead() {
   imgZarvo = new ImageBox(this);
   imgZarvo->SetName("imgZarvo");
-  imgZarvo->SetAccessibleName("Zarvo");
   imgZarvo->SetPicture(Picture::FromResource("logo"));
   imgZarvo->SetPlace({780, 240, 2010, 570});
   Image4 = new ImageBox(this);

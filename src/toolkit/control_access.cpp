@@ -14,6 +14,9 @@
 namespace zarvo {
 namespace {
 
+QString OwnName(const Label& label) { return ToQt(label.Caption()).trimmed(); }
+QString OwnName(const ImageBox& /*image*/) { return {}; }
+
 // A label or a picture: a button if it is pressable, else what it looks like.
 template <typename ControlType>
 class PressableAccess : public QAccessibleWidget {
@@ -23,6 +26,11 @@ class PressableAccess : public QAccessibleWidget {
 
   [[nodiscard]] QAccessible::Role role() const override {
     return control_->Pressable() ? QAccessible::Button : QAccessibleWidget::role();
+  }
+  // The name that it was given, else its caption.
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    const QString given = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name && given.isEmpty() ? OwnName(*control_) : given;
   }
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();

@@ -1,5 +1,6 @@
 #include "toolkit/label.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,11 +14,11 @@ Label::Label(QWidget* parent) : QWidget(parent), Control(this) {}
 
 void Label::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
-  // A label that was given a name of its own keeps it.
-  const bool named_by_caption = accessibleName() == ToQt(caption_).trimmed();
   caption_ = caption;
-  if (named_by_caption) setAccessibleName(ToQt(caption_).trimmed());
   update();
+  if (!isVisible()) return;
+  QAccessibleEvent renamed(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
 }
 
 void Label::SetBackStyle(BackStyle style) {

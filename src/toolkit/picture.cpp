@@ -87,13 +87,17 @@ void Picture::Draw(QPainter& painter, const QRectF& target) const {
   }
 }
 
-QPixmap Picture::ToPixmap(QSize size, qreal device_pixel_ratio) const {
-  QPixmap pixmap((QSizeF(size) * device_pixel_ratio).toSize());
-  pixmap.setDevicePixelRatio(device_pixel_ratio);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
+QImage Picture::ToImage(QSize size, qreal device_pixel_ratio) const {
+  QImage image((QSizeF(size) * device_pixel_ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(device_pixel_ratio);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
   Draw(painter, QRectF(QPointF(), QSizeF(size)));
-  return pixmap;
+  return image;
+}
+
+QPixmap Picture::ToPixmap(QSize size, qreal device_pixel_ratio) const {
+  return QPixmap::fromImage(ToImage(size, device_pixel_ratio));
 }
 
 }  // namespace zarvo

@@ -32,7 +32,8 @@ class Picture {
   [[nodiscard]] QSize NaturalSize() const;
   // Stretched to the whole of `target`, smooth at every scale factor.
   void Draw(QPainter& painter, const QRectF& target) const;
-  // As pixels, for cursors and icons.
+  // As pixels: an image in any thread, a pixmap for cursors and icons in the main one.
+  [[nodiscard]] QImage ToImage(QSize size, qreal device_pixel_ratio) const;
   [[nodiscard]] QPixmap ToPixmap(QSize size, qreal device_pixel_ratio) const;
 
   friend bool operator==(const Picture& left, const Picture& right) {

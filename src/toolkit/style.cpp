@@ -7,6 +7,8 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
+#include <QThreadPool>
+#include <vector>
 
 #include "toolkit/colour.h"
 #include "toolkit/control_access.h"
@@ -151,13 +153,18 @@ QPalette CabinetPalette() {
 }
 
 // Drawn here, so that the desktop needs no plug-in for drawings.
-QIcon AppIcon() {
-  QIcon icon;
-  const Picture drawing = Picture::FromResource("app_icon");
+std::vector<QImage> DrawAppIcon(const Picture& drawing) {
+  std::vector<QImage> images;
   for (const int size : {16, 32, 48, 128}) {
-    icon.addPixmap(drawing.ToPixmap(QSize(size, size), 1));
+    images.push_back(drawing.ToImage(QSize(size, size), 1));
   }
-  return icon;
+  return images;
+}
+
+void SetAppIcon(const std::vector<QImage>& images) {
+  QIcon icon;
+  for (const QImage& image : images) icon.addPixmap(QPixmap::fromImage(image));
+  QGuiApplication::setWindowIcon(icon);
 }
 
 // Filled, not drawn as lines: so they lie on whole pixels of the screen at every scale factor.
@@ -230,10 +237,17 @@ void DressUp(QApplication& /*application*/) {
   QApplication::setStyle(new CabinetStyle);
   QApplication::setPalette(CabinetPalette());
   QApplication::setFont(font);
-  QGuiApplication::setWindowIcon(AppIcon());
   QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
   InstallControlAccess();
+}
+
+void DressUpAside() {
+  QThreadPool::globalInstance()->start(
+      [font = QApplication::font(), drawing = Picture::FromResource("app_icon")] {
+        QFontMetrics(font).boundingRect(u'M');
+        QMetaObject::invokeMethod(qApp, [images = DrawAppIcon(drawing)] { SetAppIcon(images); });
+      });
 }
 
 }  // namespace zarvo

@@ -9,7 +9,11 @@ namespace zarvo {
 // Wayland, whose windows can't be placed, unless the player chose a platform.
 void PrepareApplication();
 
-// Sets style, palette, font (11 px, metric-compatible with Arial) and application icon.
+// Sets style, palette and font (11 px, metric-compatible with Arial).
 void DressUp(QApplication& application);
+
+// The rest, for when the first window is on its way to the screen: in a second thread, the font's
+// file is found and opened, and the icon of the application is drawn; it's set when that is done.
+void DressUpAside();
 
 }  // namespace zarvo

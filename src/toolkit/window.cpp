@@ -86,10 +86,7 @@ Window::Window(WindowFrame frame, std::string_view object_name)
 
 std::string Window::Caption() const { return FromQt(windowTitle()); }
 
-void Window::SetCaption(std::string_view caption) {
-  setWindowTitle(ToQt(caption));
-  setAccessibleName(ToQt(caption));
-}
+void Window::SetCaption(std::string_view caption) { setWindowTitle(ToQt(caption)); }
 
 int Window::Left() const { return ReadBack(place_.left, x()); }
 int Window::Top() const { return ReadBack(place_.top, y()); }
@@ -138,6 +135,19 @@ void Window::ShowModeless() {
   show();
   raise();
   activateWindow();
+}
+
+void Window::ShowFirst(const std::function<void()>& meanwhile) {
+  QWidgetList controls;
+  for (QWidget* const child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (child->isHidden()) continue;
+    child->hide();
+    controls.push_back(child);
+  }
+  ShowModeless();
+  meanwhile();
+  DrawGround();
+  for (QWidget* const control : controls) control->show();
 }
 
 // A window whose screen has gone would be out of reach.
@@ -207,10 +217,14 @@ void Window::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), kNight.ToQt());
   if (background_.IsEmpty()) return;
+  DrawGround();
+  painter.drawPixmap(0, 0, ground_);
+}
+
+void Window::DrawGround() {
   if (ground_.isNull() || ground_.devicePixelRatio() != devicePixelRatioF()) {
     ground_ = background_.ToPixmap(background_.NaturalSize(), devicePixelRatioF());
   }
-  painter.drawPixmap(0, 0, ground_);
 }
 
 void Window::mouseMoveEvent(QMouseEvent* event) {

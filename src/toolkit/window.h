@@ -41,6 +41,10 @@ class Window : public QWidget {
   void SetBackground(const Picture& picture);
 
   void ShowModeless();
+  // As ShowModeless, for the first window of the program: the controls become visible when the
+  // window was handed to the desktop, while that looks for a place for it. `meanwhile` is called
+  // before them.
+  void ShowFirst(const std::function<void()>& meanwhile);
   // Returns when the window has been unloaded. No other window takes input meanwhile.
   void ShowModal();
   // Raises Unload; unless a handler refuses, the window goes. Safe inside a handler of the window.
@@ -75,6 +79,7 @@ class Window : public QWidget {
   void ApplySize();
   void BringOnScreen();
   void CentreOver(const QWidget& owner);
+  void DrawGround();
 
   TwipRect place_;  // as set
   Picture background_;

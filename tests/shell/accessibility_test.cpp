@@ -10,13 +10,19 @@
 #include "pickers/folder_picker.h"
 #include "shell/about_window.h"
 #include "shell/main_window.h"
+#include "toolkit/control_access.h"
 #include "toolkit/desktop_boxes.h"
+#include "toolkit/list_access.h"
 
 namespace zarvo {
 namespace {
 
 class AccessibilityTest : public PanelTest {
  protected:
+  AccessibilityTest() {
+    InstallListAccess();
+    InstallControlAccess();
+  }
   // The parts of a list or a combo are named by their content.
   static bool IsWhole(const QAccessibleInterface& part) {
     return part.role() == QAccessible::ComboBox || part.role() == QAccessible::List;
@@ -64,6 +70,7 @@ TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
   drive_.Write(R"(C:\Zarvo\cfg\x)", "");
   ASSERT_TRUE(files_.ChangeFolder(R"(C:\Zarvo)"));
   main.StartUp();
+  main.Appear();
   Visit(main, 8);
   FolderPicker folder_picker(files_, sections_);
   Visit(folder_picker, 6);

@@ -111,6 +111,14 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
   boxes_.shown.clear();
 }
 
+TEST_F(MainWindowTest, AppearsWithAllItsControls) {
+  main_.Appear();
+  for (const QWidget* const control : main_.findChildren<QWidget*>()) {
+    EXPECT_TRUE(control->isVisible()) << control->objectName().toStdString();
+  }
+  EXPECT_EQ(main_.focusWidget(), main_.selector.front());
+}
+
 TEST_F(MainWindowTest, TheTickerTurnsInARing) {
   const char* const lines[] = {
       "What do you want to emulate today?",  "Official Home Page: http://zarvo.example/",
