@@ -86,7 +86,7 @@ class Program {
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); },
-            .meanwhile = DressUpAside};
+            .dress_up = DressUpAside};
   }
 
   LayoutTools ToolsForLayouts() {
@@ -132,6 +132,7 @@ int Run(int argc, char** argv) {
       failure ? Result<DosWorld>(Error{"The current folder can't be read: " + failure.message()})
               : DosWorld::ForProgramFolder(folder);
   if (!files.ok()) {
+    DressUpAside();
     DesktopBoxes().Warn(AppState().Title(), files.error().message);
     return EXIT_FAILURE;
   }

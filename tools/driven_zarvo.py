@@ -204,7 +204,7 @@ class DrivenZarvo:
 
     def popup(self):
         found = [window for window in self.desktop.screen.windows()
-                 if window.kind == "popup" and window.place.height > 30]
+                 if window.kind == "popup"]
         return found[0] if found else None
 
     def children(self):

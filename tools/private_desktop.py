@@ -56,7 +56,7 @@ class Place:
 class Window:
     id: int
     title: str
-    kind: str  # of the window's type: "normal", "dialog", or "popup" for what no manager touches
+    kind: str  # "normal", "dialog", or for what no manager touches "tip" and "popup"
     place: Place
 
 
@@ -207,8 +207,10 @@ class Screen:
         kinds = self.longs(window, "_NET_WM_WINDOW_TYPE")
         if popup and not kinds:
             return None  # the window manager's own
-        dialog = self._x.XInternAtom(self._display, b"_NET_WM_WINDOW_TYPE_DIALOG", False)
-        kind = "popup" if popup else "dialog" if dialog in kinds else "normal"
+        dialog, tip = (self._x.XInternAtom(self._display, b"_NET_WM_WINDOW_TYPE_" + name, False)
+                       for name in (b"DIALOG", b"TOOLTIP"))
+        kind = ("tip" if tip in kinds else "popup" if popup else "dialog" if dialog in kinds
+                else "normal")
         return Window(window, self.text(window, "_NET_WM_NAME"), kind,
                       self._place(window, attributes))
 

@@ -44,6 +44,7 @@ void LayoutManager::Wire() {
     SaveSettings();
     UnloadWindow();
   });
+  SetCancelAction([this] { UnloadWindow(); });
 }
 
 void LayoutManager::Load() {

@@ -48,7 +48,9 @@ void Favourites::Connect(ListBox* big_list, const Label* total) {
     if (key.code == key::kInsert) Add(big_list->Text());
   });
   const PercentTip tip = RulesOf(profile_.emulator).percent_tip;
+  lblFavCount->SetPressable(tip != PercentTip::kNever);
   if (tip == PercentTip::kOnMove) {
+    lblFavCount->TabbedTo.Connect([this, total] { ShowPercentage(total); });
     lblFavCount->MouseMove.Connect([this, total](const MouseArgs&) { ShowPercentage(total); });
   } else if (tip == PercentTip::kOnClick) {
     lblFavCount->Click.Connect([this, total] { ShowPercentage(total); });

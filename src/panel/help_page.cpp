@@ -24,19 +24,19 @@ constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
      .title = "Game Details",
      .columns = 1,
      .row_height = 180,
-     .key_width = 570,
+     .key_width = 495,
      .text_size = 10},
     {.list_height = 1410,
      .title = "Game Details",
      .columns = 2,
      .row_height = 192,
-     .key_width = 495,
+     .key_width = 570,
      .text_size = 10},
     {.list_height = 0,
      .title = "",
      .columns = 2,
      .row_height = 216,
-     .key_width = 495,
+     .key_width = 510,
      .text_size = 10},
     {.list_height = 1500,
      .title = "Game Details",
@@ -54,6 +54,9 @@ constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
 
 constexpr int kMargin = 75;
 constexpr int kPageWidth = 3855;
+
+// Most texts begin with a blank; those that don't are moved by one, so that all stand in line.
+int IndentOf(std::string_view text) { return text.starts_with(' ') ? 0 : 45; }
 
 bool IsHeading(const KeyRow& row) { return row.key.empty(); }
 
@@ -82,7 +85,7 @@ void HelpPage::BuildKeys(int top, Emulator emulator) {
   const std::span<const KeyRow> rows = HelpKeys(emulator);
   const int count = static_cast<int>(rows.size());
   const int in_column = (count + layout.columns - 1) / layout.columns;
-  const int column_width = (kPageWidth - 2 * kMargin) / layout.columns;
+  const int column_width = (kPageWidth - kMargin) / layout.columns;
   for (int i = 0; i < count; ++i) {
     const TwipRect place = {kMargin + (i / in_column) * column_width,
                             top + (i % in_column) * layout.row_height, column_width,
@@ -106,7 +109,8 @@ void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, Emulator emula
   const int key_width = layout.key_width;
   const int third_width = row.third.empty() ? 0 : 1050;
   cell(0, key_width, row.key)->SetBold(true);
-  cell(key_width, place.width - key_width - third_width, row.text);
+  const int text_left = key_width + IndentOf(row.text);
+  cell(text_left, place.width - text_left - third_width, row.text);
   if (third_width > 0) cell(place.width - third_width, third_width, row.third);
 }
 

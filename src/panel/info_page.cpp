@@ -19,8 +19,8 @@ constexpr Colour kValue{0x8A3A1E};  // a blue that stands out from the captions
 
 constexpr int kRow = 195;
 
-constexpr TwipRect LeftRow(int top, int row) { return {120, top + row * kRow, 1740, kRow}; }
-constexpr TwipRect RightRow(int top, int row) { return {2040, top + row * kRow, 1740, kRow}; }
+constexpr TwipRect LeftRow(int top, int row) { return {105, top + row * kRow, 1770, kRow}; }
+constexpr TwipRect RightRow(int top, int row) { return {2010, top + row * kRow, 1800, kRow}; }
 
 constexpr int kGeneralTop = 240;
 constexpr int kEmulationTop = 1230;
@@ -30,12 +30,12 @@ constexpr int kWide = 765;
 constexpr int kNarrow = 705;
 
 constexpr std::array<RowPlace, kFieldCount> kRows = {{
-    {Field::kName, {150, kGeneralTop, 3555, kRow}, kWide},
+    {Field::kName, {105, kGeneralTop, 3555, kRow}, kWide},
     {Field::kRomFile, LeftRow(kEmulationTop, 0), kWide},
     {Field::kOC, LeftRow(kEmulationTop, 3), kWide},
     {Field::kCloneOf, LeftRow(kEmulationTop, 4), kWide},
-    {Field::kGenre, {150, kGeneralTop + 2 * kRow, 3555, kRow}, kWide},
-    {Field::kMadeBy, {150, kGeneralTop + kRow, 2580, kRow}, kWide},
+    {Field::kGenre, {105, kGeneralTop + 2 * kRow, 3555, kRow}, kWide},
+    {Field::kMadeBy, {105, kGeneralTop + kRow, 2580, kRow}, kWide},
     {Field::kYear, {2790, kGeneralTop + kRow, 945, kRow}, 450},
     {Field::kPlayable, RightRow(kEmulationTop, 0), kWide},
     {Field::kColors, RightRow(kEmulationTop, 1), kWide},
@@ -63,11 +63,11 @@ InfoPage::InfoPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox
 }
 
 void InfoPage::BuildFrames() {
-  MakeFrame(this, {60, 45, 3735, 870}, " General Info:");
-  MakeFrame(this, {60, 1020, 1830, 1260}, " Emulation Info:");
-  MakeFrame(this, {1980, 1020, 1815, 1260}, " Emulation Accuracy:");
-  MakeFrame(this, {60, 2520, 1830, 1095}, " CPU Emulation");
-  MakeFrame(this, {1980, 2520, 1815, 1095}, " Sound Emulation");
+  MakeFrame(this, {30, 45, 3795, 870}, " General Info:");
+  MakeFrame(this, {30, 1020, 1860, 1260}, " Emulation Info:");
+  MakeFrame(this, {1950, 1020, 1875, 1260}, " Emulation Accuracy:");
+  MakeFrame(this, {30, 2520, 1860, 1095}, " CPU Emulation");
+  MakeFrame(this, {1950, 2520, 1875, 1095}, " Sound Emulation");
 }
 
 void InfoPage::BuildRows() {

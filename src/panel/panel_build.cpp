@@ -56,6 +56,9 @@ void EmulatorPanel::BuildHeader() {
   logo->SetAccessibleName(std::string(profile_.selector_caption) + " logo");
   logo->SetPicture(Picture::FromResource(TextsOf(profile_.emulator).logo.data()));
   logo->SetPlace({120, 120, 1260, 324});
+  logo->SetPressable(true);
+  logo->setFocusPolicy(Qt::TabFocus);  // to carry the panel by it leaves the focus in the list
+  logo->SetPressIsDouble(!RulesOf(profile_.emulator).docks_on_click);
 
   cmdExit = MakeButton(this, ButtonKind::kClose, {2115, 120, 210, 225}, "X");
   cmdExit->SetName(ControlName(profile_, "cmdExit"));
@@ -139,10 +142,12 @@ void EmulatorPanel::BuildPages() {
 
 // Left column, pages, games: the order in which the eye takes the panel in.
 void EmulatorPanel::OrderControls() {
-  OrderTabs({sizes->cmdLarge,
+  OrderTabs({logo,
+             sizes->cmdLarge,
              sizes->cmdMiddle,
              sizes->cmdShort,
              cmdExit,
+             favourites->lblFavCount,
              favourites->lblClearFav,
              sizes->cmdRidimen,
              favourites->lstPref,
@@ -176,6 +181,7 @@ void EmulatorPanel::Wire() {
   logo->MouseMove.Connect([this](const MouseArgs& mouse) {
     if (mouse.button == MouseButton::kLeft) MoveWithMouse();
   });
+  logo->KeyDown.Connect([this](const KeyArgs& key) { MoveByKey(key); });
   Event<>& dock = RulesOf(profile_.emulator).docks_on_click ? logo->Click : logo->DblClick;
   dock.Connect([this] { Dock(); });
   WireHover(*this);

@@ -37,6 +37,7 @@ void MainWindow::StartUp() {
   lblVersion->SetCaption(app_.ProgramVersion);
   facts.front()->SetCaption(app_.Title());
   if (!HoldsFile(files_, JoinPath(app_.ProgramFolder, "Cfg"))) {
+    actions_.dress_up();
     boxes_.Inform(app_.Title(), WelcomeMessage());
   }
   Ignore(files_.MakeFolder("Cfg"));
@@ -48,7 +49,7 @@ void MainWindow::StartUp() {
 }
 
 void MainWindow::Appear() {
-  ShowFirst(actions_.meanwhile);
+  ShowFirst(actions_.dress_up);
   // Not sooner: the first name that is given starts the line to the screen readers.
   imgZarvo->SetAccessibleName("Zarvo");
 }

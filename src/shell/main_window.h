@@ -25,8 +25,9 @@ struct MainActions {
   std::function<void()> show_about;    // modal
   std::function<void()> autoload;      // applies the layout of the start, silent whatever fails
   std::function<void()> end_program;
-  // Once, while the desktop looks for a place for the window.
-  std::function<void()> meanwhile = [] {};
+  // Sets what needn't hold up a window, such as the icon; before the first one or while the desktop
+  // looks for a place for it.
+  std::function<void()> dress_up = [] {};
 };
 
 // Reads the header lines of an emulator's data file, each without its first character, as far as

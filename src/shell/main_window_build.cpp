@@ -105,6 +105,7 @@ void MainWindow::BuildHead() {
   imgZarvo->SetName("imgZarvo");
   imgZarvo->SetPicture(Picture::FromResource("logo"));
   imgZarvo->SetPlace({780, 240, 2010, 570});
+  imgZarvo->setFocusPolicy(Qt::TabFocus);  // for the arrow keys
   Image4 = new ImageBox(this);
   Image4->SetName("Image4");
   Image4->SetPicture(Picture::FromResource("image4"));
@@ -178,6 +179,7 @@ void MainWindow::Wire() {
     for (Label* const command : {lblExit, lblLays, lblAbout}) ResetCommand(command);
     MoveByMouse(mouse);
   });
+  imgZarvo->KeyDown.Connect([this](const KeyArgs& key) { MoveByKey(key); });
   Image4->MouseMove.Connect([this](const MouseArgs&) {
     ResetSelector(Emulator::kMame);
     ResetSelector(Emulator::kCallus);

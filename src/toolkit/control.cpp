@@ -55,7 +55,12 @@ class Control::Watcher : public QObject {
   Watcher(Control& control, Watch watch) : control_(control), watch_(watch) {}
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::ToolTip) return ShowToolTip(static_cast<QHelpEvent&>(*event));
+    if (event->type() == QEvent::ToolTip) {
+      return ShowToolTip(static_cast<QHelpEvent&>(*event).globalPos());
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent&>(*event).key() == Qt::Key_F1) {
+      ShowToolTip(control_.widget_->mapToGlobal(control_.widget_->rect().bottomLeft()));
+    }
     if (ChildIsRunning() || !control_.widget_->isEnabled() || watch_ == Watch::kToolTip)
       return false;
     switch (event->type()) {
@@ -83,10 +88,10 @@ class Control::Watcher : public QObject {
   }
 
   // Escaped, since the toolkit would take some texts for marked-up ones.
-  bool ShowToolTip(const QHelpEvent& help) {
+  bool ShowToolTip(const QPoint& place) {
     if (control_.tool_tip_.empty()) return false;
     const QString text = ToQt(TrimBlanks(control_.tool_tip_)).toHtmlEscaped();
-    QToolTip::showText(help.globalPos(), QStringLiteral("<p>%1</p>").arg(text), control_.widget_);
+    QToolTip::showText(place, QStringLiteral("<p>%1</p>").arg(text), control_.widget_);
     return true;
   }
 

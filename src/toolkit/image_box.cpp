@@ -24,7 +24,7 @@ void ImageBox::SetPressable(bool pressable) {
 
 void ImageBox::Press() {
   MouseDown.Raise({.button = MouseButton::kLeft});
-  Click.Raise();
+  (press_is_double_ ? DblClick : Click).Raise();
   MouseUp.Raise({.button = MouseButton::kLeft});
 }
 

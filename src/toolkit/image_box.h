@@ -17,6 +17,8 @@ class ImageBox : public QWidget, public Control {
   // As a button it takes the focus, and Space and Enter raise mouse down, click and mouse up.
   void SetPressable(bool pressable);
   [[nodiscard]] bool Pressable() const { return pressable_; }
+  // A button for which Space and Enter stand for a double click.
+  void SetPressIsDouble(bool is_double) { press_is_double_ = is_double; }
   // What Space and Enter do.
   void Press();
 
@@ -33,6 +35,7 @@ class ImageBox : public QWidget, public Control {
  private:
   Picture picture_;
   bool pressable_ = false;
+  bool press_is_double_ = false;
   bool pressed_ = false;
   int modals_at_press_ = 0;
 };

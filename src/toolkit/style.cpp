@@ -8,6 +8,7 @@
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
 #include <QThreadPool>
+#include <utility>
 #include <vector>
 
 #include "toolkit/colour.h"
@@ -243,6 +244,8 @@ void DressUp(QApplication& /*application*/) {
 }
 
 void DressUpAside() {
+  static bool begun = false;
+  if (std::exchange(begun, true)) return;
   QThreadPool::globalInstance()->start(
       [font = QApplication::font(), drawing = Picture::FromResource("app_icon")] {
         QFontMetrics(font).boundingRect(u'M');

@@ -13,7 +13,8 @@ void PrepareApplication();
 void DressUp(QApplication& application);
 
 // The rest, for when the first window is on its way to the screen: in a second thread, the font's
-// file is found and opened, and the icon of the application is drawn; it's set when that is done.
+// file is found and opened, and the icon of the application is drawn; it's set when that is done. A
+// second call does nothing.
 void DressUpAside();
 
 }  // namespace zarvo

@@ -12,6 +12,7 @@
 
 #include "toolkit/child_wait.h"
 #include "toolkit/control.h"
+#include "toolkit/keys.h"
 
 namespace zarvo {
 namespace {
@@ -203,6 +204,22 @@ void Window::MoveWithMouse() {
   static Mover mover;
   CountModal();
   mover.Start(this);
+}
+
+void Window::MoveByKey(const KeyArgs& key) {
+  constexpr int kStep = 10;  // pixels
+  switch (key.code) {
+    case key::kLeft:
+      return move(pos() + QPoint(-kStep, 0));
+    case key::kRight:
+      return move(pos() + QPoint(kStep, 0));
+    case key::kUp:
+      return move(pos() + QPoint(0, -kStep));
+    case key::kDown:
+      return move(pos() + QPoint(0, kStep));
+    default:
+      break;
+  }
 }
 
 void Window::SetAlwaysOnTop(bool on) {

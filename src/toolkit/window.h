@@ -54,6 +54,8 @@ class Window : public QWidget {
 
   // The left button is down on the surface: the window moves with the mouse until it is released.
   void MoveWithMouse();
+  // Moves the window a step where the key is an arrow.
+  void MoveByKey(const KeyArgs& key);
 
   // Into the top-most band of the desktop or out of it, without a change of place, size or focus.
   void SetAlwaysOnTop(bool on);

@@ -4,6 +4,7 @@ import unittest
 
 from e2e import Scenario
 from driven_zarvo import MAIN, MAME_OPTIONS, PANEL, SELECTOR
+from private_desktop import Place, wait_until
 
 
 class Keyboard(Scenario):
@@ -28,6 +29,12 @@ class Keyboard(Scenario):
         keys("Down", "Up", "Return")  # away and back saves the options
         self.assert_started("Mame", " ember -ignorecfg -frameskip 3 -soundcard 1 -nostereo")
 
+        self.zarvo.tab_to(panel, PANEL["logo"])
+        keys("Right", "Down", "Down")
+        moved = Place(panel.place.x + 10, panel.place.y + 20, panel.place.width, panel.place.height)
+        self.wait_for_place(panel, moved)
+        keys("Return")
+        self.wait_for_place(panel, panel.place)
         self.zarvo.tab_to(panel, PANEL["X"])
         keys("space")
         self.desktop.wait_for_end(panel)
@@ -36,6 +43,9 @@ class Keyboard(Scenario):
         keys("Return")
         self.zarvo.answer("Return")
         self.assertEqual(0, self.zarvo.ended())
+
+    def wait_for_place(self, window, place):
+        wait_until(lambda: self.desktop.screen.place(window.id) == place, f"a window at {place}")
 
 
 if __name__ == "__main__":

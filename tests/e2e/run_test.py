@@ -32,7 +32,7 @@ class Run(Scenario):
 
     def windows(self):
         return sorted(window.id for window in self.desktop.screen.windows()
-                      if window.kind != "popup")
+                      if window.kind in ("normal", "dialog"))
 
     def look(self, place):
         """The pixels of a place as soon as two looks are the same."""

@@ -147,9 +147,10 @@ TEST_F(LayoutWindowTest, CloseAloneWritesTheSettings) {
   manager.chkAlwaysOnTop->SetValue(1);
   manager.chkEnableAutoload->SetValue(1);
   manager.cboListaLayout2->SetListIndex(1);
+  PressKey(manager.chkEnableAutoload, Qt::Key_Escape);
+  EXPECT_TRUE(manager.IsUnloaded());
   EXPECT_EQ(drive_.Read(R"(C:\Zarvo\zarvo.ini)"), Ini(0, 0, ""));
   manager.cmdOk->click();
-  EXPECT_TRUE(manager.IsUnloaded());
   const LayoutManager& again = Open();
   EXPECT_EQ(again.chkAlwaysOnTop->Value(), 1);
   EXPECT_EQ(again.chkEnableAutoload->Value(), 1);

@@ -1,4 +1,5 @@
 // Sizes and arrangements of the panels, and the colours of their buttons. All numbers are twips.
+#include "fakes/key_press.h"
 #include "panel/panel_fixture.h"
 
 namespace zarvo {
@@ -122,6 +123,11 @@ TEST_F(SizesTest, TheLogoDocksThePanelBesideTheMainWindow) {
     DoubleClickMouse(panel.logo);
     EXPECT_EQ(place(), std::pair(4650, 900));
     EXPECT_EQ(Size(panel), std::pair(2415, 4620));
+    PressKey(panel.logo, Qt::Key_Right);
+    PressKey(panel.logo, Qt::Key_Down);
+    EXPECT_EQ(place(), std::pair(4650 + 150, 900 + 150));
+    PressKey(panel.logo, Qt::Key_Space);
+    EXPECT_EQ(place(), std::pair(4650, 900));
     main_.SetMainPlace(400, 500);
   }
 }

@@ -111,7 +111,8 @@ INSTANTIATE_TEST_SUITE_P(
                     WordCase{"CALLUSROM", R"(rom Callus C:\Emu)", "save Callus"},
                     WordCase{"RAINESNAP", R"(snap Raine C:\Emu)", "save Raine"},
                     WordCase{"SYSTEM16SETTINGS", R"(game System16 C:\Emu)", "save System16"},
-                    WordCase{"M72ROM", R"(rom M72 C:\Emu)", "save M72"}));
+                    WordCase{"M72ROM", R"(rom M72 C:\Emu)", "save M72"}),
+    [](const auto& named) { return std::string(named.param.word); });
 
 TEST_F(FolderPickerTest, CancelEscapeAndCloseChangeNothing) {
   for (const char* way : {"button", "Enter on the button", "Escape", "title bar"}) {

@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
+#include "fakes/key_press.h"
 #include "fakes/stage.h"
 #include "toolkit/check_box.h"
 #include "toolkit/frame.h"
@@ -276,6 +277,8 @@ TEST_F(ControlsTest, AToolTipIsShownLiterally) {
   };
   EXPECT_EQ(tip_of(&label), QStringLiteral("<p>&lt;b&gt;R&amp;D&lt;/b&gt; 50% of total</p>"));
   EXPECT_EQ(tip_of(list.viewport()), QStringLiteral("<p>&lt;unknown&gt;</p>"));
+  PressKey(&label, Qt::Key_F1);
+  EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("50% of total")));
   QToolTip::hideText();
 }
 
