@@ -14,34 +14,30 @@
 namespace zarvo {
 namespace {
 
-QString OwnName(const Label& label) { return ToQt(label.Caption()).trimmed(); }
-QString OwnName(const ImageBox& /*image*/) { return {}; }
-
 // A label or a picture: a button if it is pressable, else what it looks like.
-template <typename ControlType>
 class PressableAccess : public QAccessibleWidget {
  public:
-  PressableAccess(ControlType* control, QAccessible::Role plain)
+  PressableAccess(Pressable* control, QAccessible::Role plain)
       : QAccessibleWidget(control, plain), control_(control) {}
 
   [[nodiscard]] QAccessible::Role role() const override {
-    return control_->Pressable() ? QAccessible::Button : QAccessibleWidget::role();
+    return control_->IsPressable() ? QAccessible::Button : QAccessibleWidget::role();
   }
   // The name that it was given, else its caption.
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     const QString given = QAccessibleWidget::text(kind);
-    return kind == QAccessible::Name && given.isEmpty() ? OwnName(*control_) : given;
+    return kind == QAccessible::Name && given.isEmpty() ? control_->OwnName() : given;
   }
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (control_->Pressable() && control_->isEnabled()) names.prepend(pressAction());
+    if (control_->IsPressable() && control_->isEnabled()) names.prepend(pressAction());
     return names;
   }
   // Later, since a press may open a box and the screen reader waits for the return.
   void doAction(const QString& name) override {
     if (name != pressAction()) {
       QAccessibleWidget::doAction(name);
-    } else if (control_->Pressable()) {
+    } else if (control_->IsPressable()) {
       QTimer::singleShot(0, control_, [control = control_] {
         if (CanBePressed(control)) control->Press();
       });
@@ -55,15 +51,15 @@ class PressableAccess : public QAccessibleWidget {
            (modal == nullptr || modal->isAncestorOf(widget));
   }
 
-  ControlType* control_;
+  Pressable* control_;
 };
 
 QAccessibleInterface* MakeAccess(const QString& /*class_name*/, QObject* object) {
   if (auto* const label = dynamic_cast<Label*>(object)) {
-    return new PressableAccess<Label>(label, QAccessible::StaticText);
+    return new PressableAccess(label, QAccessible::StaticText);
   }
   if (auto* const image = dynamic_cast<ImageBox*>(object)) {
-    return new PressableAccess<ImageBox>(image, QAccessible::Graphic);
+    return new PressableAccess(image, QAccessible::Graphic);
   }
   if (auto* const frame = dynamic_cast<Frame*>(object)) {
     return new QAccessibleWidget(frame, QAccessible::Grouping);

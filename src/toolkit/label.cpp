@@ -1,16 +1,14 @@
 #include "toolkit/label.h"
 
 #include <QAccessible>
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QFocusEvent>
 #include <QPainter>
 
 #include "toolkit/drawing.h"
-#include "toolkit/window.h"
 
 namespace zarvo {
 
-Label::Label(QWidget* parent) : QWidget(parent), Control(this) {}
+Label::Label(QWidget* parent) : Pressable(parent) {}
 
 void Label::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
@@ -66,11 +64,6 @@ void Label::SetTextSize(int pixels) {
   setFont(changed);
 }
 
-void Label::SetPressable(bool pressable) {
-  pressable_ = pressable;
-  setFocusPolicy(pressable ? Qt::StrongFocus : Qt::NoFocus);
-}
-
 void Label::SetRaised(bool raised) {
   raised_ = raised;
   update();
@@ -82,7 +75,7 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
   if (opaque) {
     const QColor back = isEnabled() ? back_colour_.ToQt() : Faded(back_colour_.ToQt());
     if (raised_) {
-      DrawKey(painter, rect(), back, pressed_);
+      DrawKey(painter, rect(), back, IsDown());
     } else {
       painter.fillRect(rect(), back);
     }
@@ -91,38 +84,6 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(isEnabled() ? fore_colour_.ToQt() : Faded(fore_colour_.ToQt()));
   DrawCaption(painter, rect().adjusted(margin, 0, -margin, 0), ToQt(caption_), align_, word_wrap_);
   if (hasFocus()) DrawFocus(painter, rect());
-}
-
-void Label::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  pressed_ = true;
-  modals_at_press_ = ModalCount();
-  update();
-}
-
-void Label::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  // A press that a box or a move of the window has taken over isn't a click any more.
-  const bool click =
-      pressed_ && modals_at_press_ == ModalCount() && rect().contains(event->position().toPoint());
-  pressed_ = false;
-  update();
-  if (click) Click.Raise();
-}
-
-void Label::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) DblClick.Raise();
-}
-
-void Label::keyPressEvent(QKeyEvent* event) {
-  const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
-                       event->key() == Qt::Key_Enter;
-  if (!pressable_ || !presses || event->isAutoRepeat()) {
-    QWidget::keyPressEvent(event);
-    return;
-  }
-  event->accept();
-  Press();
 }
 
 void Label::focusInEvent(QFocusEvent* event) {

@@ -1,20 +1,18 @@
 // A line or a paragraph of text, which can also serve as a button.
 #pragma once
 
-#include <QWidget>
 #include <string>
 
 #include "toolkit/colour.h"
-#include "toolkit/control.h"
+#include "toolkit/pressable.h"
 
 namespace zarvo {
 
 enum class BackStyle { kTransparent, kOpaque };
 enum class TextAlign { kLeft, kCentre, kRight };
 
-// Text is shown literally and elided where it doesn't fit. A label becomes a button for keyboard
-// and screen reader with SetPressable: it then takes the focus and Space and Enter click it.
-class Label : public QWidget, public Control {
+// Text is shown literally and elided where it doesn't fit.
+class Label : public Pressable {
  public:
   explicit Label(QWidget* parent);
 
@@ -32,24 +30,15 @@ class Label : public QWidget, public Control {
   void SetWordWrap(bool wrap);
   // Height of the text in pixels; 11 unless set.
   void SetTextSize(int pixels);
-  void SetPressable(bool pressable);
-  [[nodiscard]] bool Pressable() const { return pressable_; }
-  // What Space and Enter do.
-  void Press() { Click.Raise(); }
   // Draws the raised edge of a button round an opaque back.
   void SetRaised(bool raised);
 
-  // Left button released over the label it was pressed on, or Space or Enter on a pressable one.
-  Event<> Click;
-  Event<> DblClick;
+  [[nodiscard]] QString OwnName() const override { return ToQt(caption_).trimmed(); }
+
   Event<> TabbedTo;  // Tab or Shift+Tab has reached it
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:
@@ -59,10 +48,7 @@ class Label : public QWidget, public Control {
   Colour fore_colour_ = kMoon;
   TextAlign align_ = TextAlign::kLeft;
   bool word_wrap_ = false;
-  bool pressable_ = false;
   bool raised_ = false;
-  bool pressed_ = false;
-  int modals_at_press_ = 0;
 };
 
 }  // namespace zarvo

@@ -92,6 +92,8 @@ struct WordCase {
   const char* saved;
 };
 
+void PrintTo(const WordCase& word, std::ostream* out) { *out << word.word; }
+
 class FolderWords : public FolderPickerTest, public testing::WithParamInterface<WordCase> {};
 
 TEST_P(FolderWords, SelectWritesTheControlOfTheWordAndSaves) {
