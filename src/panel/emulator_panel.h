@@ -92,6 +92,9 @@ class EmulatorPanel : public Window, private LaunchPanel {
   std::string RomFile;     // rom name of the game looked up last
   std::string ParentFile;  // and its parent
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   enum class Page { kSnapshot, kSettings, kInfo, kHelp, kConfiguration };
 
@@ -100,6 +103,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void BuildHeader();
   void BuildPageButtons();
   void BuildPages();
+  void BuildEdges();
   void OrderControls();
   void Wire();
   void WireLists();
@@ -151,6 +155,8 @@ class EmulatorPanel : public Window, private LaunchPanel {
   const EmulatorProfile& profile_;
   PanelTools tools_;
   std::unique_ptr<ListMenu> menu_;
+  QWidget* right_edge_;
+  QWidget* bottom_edge_;
   int cycles_ = 0;       // selection cycles run so far
   bool closed_ = false;  // saved and counted as closed
   // What the settings page held for the game in the caption while another game is started.

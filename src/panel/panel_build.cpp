@@ -47,7 +47,25 @@ void EmulatorPanel::Build() {
   games = std::make_unique<GameFilters>(this, profile_, tools_);
   sizes = std::make_unique<PanelSizes>(*this, profile_, *games, *favourites);
   menu_ = std::make_unique<ListMenu>(profile_, tools_);
+  BuildEdges();
   OrderControls();
+}
+
+// The frame of the ground picture runs round the large size. In a smaller one these close it, over
+// whatever that size cuts off.
+void EmulatorPanel::BuildEdges() {
+  for (QWidget** const edge : {&right_edge_, &bottom_edge_}) {
+    *edge = new QWidget(this);
+    (*edge)->setAttribute(Qt::WA_TransparentForMouseEvents);
+    (*edge)->setAutoFillBackground(true);
+    (*edge)->setPalette(QPalette(kSlate.ToQt()));
+  }
+}
+
+void EmulatorPanel::resizeEvent(QResizeEvent* event) {
+  Window::resizeEvent(event);
+  right_edge_->setGeometry(width() - 1, 2, 1, height() - 2);
+  bottom_edge_->setGeometry(0, height() - 1, width(), 1);
 }
 
 void EmulatorPanel::BuildHeader() {
