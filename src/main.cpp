@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <cstdlib>
 #include <filesystem>
+#include <future>
 #include <iostream>
 #include <memory>
 
@@ -86,7 +87,10 @@ class Program {
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); },
-            .dress_up = DressUpAside};
+            .dress_up =
+                [this] {
+                  if (!dressing_.valid()) dressing_ = DressUpAside();
+                }};
   }
 
   LayoutTools ToolsForLayouts() {
@@ -113,6 +117,7 @@ class Program {
     return Judge(*outcome, clock.elapsed());
   }
 
+  std::future<void> dressing_;
   AppState app_;
   DosWorld files_;
   DesktopBoxes boxes_;
@@ -132,7 +137,7 @@ int Run(int argc, char** argv) {
       failure ? Result<DosWorld>(Error{"The current folder can't be read: " + failure.message()})
               : DosWorld::ForProgramFolder(folder);
   if (!files.ok()) {
-    DressUpAside();
+    const std::future<void> dressing = DressUpAside();
     DesktopBoxes().Warn(AppState().Title(), files.error().message);
     return EXIT_FAILURE;
   }

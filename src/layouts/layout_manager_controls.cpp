@@ -54,11 +54,11 @@ void LayoutManager::Build() {
 }
 
 void LayoutManager::BuildLayouts() {
-  constexpr int kListTop = 48;
-  constexpr int kListHeight = 72;
+  constexpr int kListTop = 46;
+  constexpr int kListHeight = 77;
   constexpr int kEmulatorsWidth = 100;
   constexpr int kSizesLeft = kLeft + kEmulatorsWidth + kGap;
-  Frame4 = PutFrame(this, "Frame4", Pixels(kFrameLeft, 4, kFrameWidth, 175), "Multiple Layouts");
+  Frame4 = PutFrame(this, "Frame4", Pixels(kFrameLeft, 4, kFrameWidth, 177), "Multiple Layouts");
   cboListaLayout =
       Put<ComboBox>(this, "cboListaLayout", Pixels(kLeft, 22, kInnerWidth, kBoxHeight));
   cboListaLayout->SetAccessibleName("Layout");
@@ -69,16 +69,16 @@ void LayoutManager::BuildLayouts() {
       Put<ListBox>(this, "lstEmulatoriSize",
                    Pixels(kSizesLeft, kListTop, kLeft + kInnerWidth - kSizesLeft, kListHeight));
   lstEmulatoriSize->SetAccessibleName("Sizes of the panels");
-  cmdAdd = PutCaption<PushButton>(this, "cmdAdd", InRow(0, 3, 124), "Add");
-  cmdRemove = PutCaption<PushButton>(this, "cmdRemove", InRow(1, 3, 124), "Remove");
-  cmdRename = PutCaption<PushButton>(this, "cmdRename", InRow(2, 3, 124), "Rename");
-  cmdLoadLayout = PutCaption<PushButton>(this, "cmdLoadLayout", InRow(0, 2, 151), "Load");
-  cmdSaveLayout = PutCaption<PushButton>(this, "cmdSaveLayout", InRow(1, 2, 151), "Save");
+  cmdAdd = PutCaption<PushButton>(this, "cmdAdd", InRow(0, 3, 126), "Add");
+  cmdRemove = PutCaption<PushButton>(this, "cmdRemove", InRow(1, 3, 126), "Remove");
+  cmdRename = PutCaption<PushButton>(this, "cmdRename", InRow(2, 3, 126), "Rename");
+  cmdLoadLayout = PutCaption<PushButton>(this, "cmdLoadLayout", InRow(0, 2, 152), "Load");
+  cmdSaveLayout = PutCaption<PushButton>(this, "cmdSaveLayout", InRow(1, 2, 152), "Save");
 }
 
 void LayoutManager::BuildDefault() {
   constexpr int kLabelWidth = 32;
-  Frame5 = PutFrame(this, "Frame5", Pixels(kFrameLeft, 183, kFrameWidth, 69), "Default layout");
+  Frame5 = PutFrame(this, "Frame5", Pixels(kFrameLeft, 184, kFrameWidth, 68), "Default layout");
   chkEnableAutoload = PutCheck(this, "chkEnableAutoload", Pixels(kLeft, 200, kInnerWidth, 18),
                                "Enable Autoload on Stratup");
   Label1 = PutCaption<Label>(this, "Label1", Pixels(kLeft, 225, kLabelWidth, 14), "Load");

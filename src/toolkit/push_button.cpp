@@ -34,12 +34,14 @@ void PushButton::keyPressEvent(QKeyEvent* event) {
 
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = (is_default_ ? kSlate : kBluegrey).ToQt();
-  const QColor shown = !isEnabled() ? Faded(face) : underMouse() ? face.lighter(115) : face;
-  DrawKey(painter, rect(), shown, isDown());
+  DrawButton(painter, rect(),
+             {.enabled = isEnabled(),
+              .is_default = is_default_,
+              .hovered = underMouse(),
+              .down = isDown(),
+              .focused = hasFocus()});
   painter.setPen(isEnabled() ? QColor(Qt::white) : Faded(Qt::white));
   DrawCaption(painter, rect().adjusted(3, 0, -3, 0), ToQt(caption_), TextAlign::kCentre, false);
-  if (hasFocus()) DrawFocus(painter, rect());
 }
 
 }  // namespace zarvo

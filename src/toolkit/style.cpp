@@ -6,9 +6,8 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOptionButton>
 #include <QStyleOptionSlider>
-#include <QThreadPool>
-#include <utility>
 #include <vector>
 
 #include "toolkit/colour.h"
@@ -82,6 +81,22 @@ class CabinetStyle : public QProxyStyle {
       return QProxyStyle::subControlRect(control, option, part, widget);
     }
     return ScrollBarPart(*static_cast<const QStyleOptionSlider*>(option), part);
+  }
+
+  // Those of the message boxes; the program's own buttons paint themselves.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (element != CE_PushButtonBevel) {
+      QProxyStyle::drawControl(element, option, painter, widget);
+      return;
+    }
+    const auto& button = *static_cast<const QStyleOptionButton*>(option);
+    DrawButton(*painter, button.rect,
+               {.enabled = button.state.testFlag(State_Enabled),
+                .is_default = button.features.testFlag(QStyleOptionButton::DefaultButton),
+                .hovered = button.state.testFlag(State_MouseOver),
+                .down = button.state.testFlag(State_Sunken),
+                .focused = button.state.testFlag(State_HasFocus)});
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -195,6 +210,17 @@ void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pres
             pressed ? face.lighter(130) : face.darker(170));
 }
 
+void DrawButton(QPainter& painter, const QRect& rect, const ButtonLook& look) {
+  const QColor face = (look.is_default ? kBluegrey : kSlate).ToQt();
+  const QColor shown = !look.enabled ? Faded(face) : look.hovered ? face.lighter(115) : face;
+  DrawKey(painter, rect, shown, look.down);
+  if (look.focused) {
+    DrawFocus(painter, rect);
+  } else if (look.is_default && look.enabled) {
+    DrawEdges(painter, rect, kMoon.ToQt(), kMoon.ToQt());
+  }
+}
+
 void DrawFocus(QPainter& painter, const QRect& rect) {
   const QColor amber(0xFF, 0xC8, 0x5A);
   DrawEdges(painter, rect, amber, amber);
@@ -243,14 +269,12 @@ void DressUp(QApplication& /*application*/) {
   InstallControlAccess();
 }
 
-void DressUpAside() {
-  static bool begun = false;
-  if (std::exchange(begun, true)) return;
-  QThreadPool::globalInstance()->start(
-      [font = QApplication::font(), drawing = Picture::FromResource("app_icon")] {
-        QFontMetrics(font).boundingRect(u'M');
-        QMetaObject::invokeMethod(qApp, [images = DrawAppIcon(drawing)] { SetAppIcon(images); });
-      });
+std::future<void> DressUpAside() {
+  return std::async(std::launch::async, [font = QApplication::font(),
+                                         drawing = Picture::FromResource("app_icon")] {
+    QFontMetrics(font).boundingRect(u'M');
+    QMetaObject::invokeMethod(qApp, [images = DrawAppIcon(drawing)] { SetAppIcon(images); });
+  });
 }
 
 }  // namespace zarvo

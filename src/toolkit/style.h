@@ -1,6 +1,8 @@
 // The look of the program: one palette, one drawing style for all standard widgets.
 #pragma once
 
+#include <future>
+
 class QApplication;
 
 namespace zarvo {
@@ -13,8 +15,8 @@ void PrepareApplication();
 void DressUp(QApplication& application);
 
 // The rest, for when the first window is on its way to the screen: in a second thread, the font's
-// file is found and opened, and the icon of the application is drawn; it's set when that is done. A
-// second call does nothing.
-void DressUpAside();
+// file is found and opened, and the icon of the application is drawn; it's set when that is done.
+// The thread has ended when the future is gone, which has to be before the application object goes.
+[[nodiscard]] std::future<void> DressUpAside();
 
 }  // namespace zarvo
