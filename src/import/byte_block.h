@@ -1,8 +1,5 @@
 // Sixteen bytes of the input at a time.
 //
-// A list that an emulator prints about itself has some five million tags in 269 MB, and nearly all
-// of them are passed over. Measured on that list, a general XML library (expat) took 2.3 s where
-// counting the line ends takes 0.024 s; looking at 16 bytes per step is what closes that gap.
 #pragma once
 
 #include <bit>
