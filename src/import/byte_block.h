@@ -2,9 +2,11 @@
 //
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -71,7 +73,14 @@ inline std::size_t FirstBit(BlockMask mask) {
   return static_cast<std::size_t>(std::countr_zero(mask));
 }
 
-// Line feeds in `size` bytes.
-std::size_t CountLineFeeds(const char* bytes, std::size_t size);
+// Where `stops(block)` sets the first bit in `text`, which 15 readable bytes follow, or its size.
+template <typename Stops>
+std::size_t FindInBlocks(std::string_view text, Stops stops) {
+  for (std::size_t at = 0; at < text.size(); at += kBlockSize) {
+    const BlockMask found = stops(Block(text.data() + at));
+    if (found != 0) return std::min(at + FirstBit(found), text.size());
+  }
+  return text.size();
+}
 
 }  // namespace zarvo

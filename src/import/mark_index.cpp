@@ -19,26 +19,39 @@ struct BlockMarks {
   std::uint64_t quotes = 0;
 };
 
-// Appends the marks of the block that begins at `base`. `odd` is all ones if the number of
-// quotation marks before the block is odd, else 0, and is brought behind the block. Inlined to make
-// use of what the processor of the calling function has.
+// Bit i is set if an odd number of bits of `mask` stand at or before i.
+[[gnu::always_inline]] inline std::uint64_t OddSince(std::uint64_t mask) {
+  for (int step = 1; step < 64; step *= 2) mask ^= mask << step;
+  return mask;
+}
+
+// Appends the marks of the block that begins at `base`, and `quoted` says of each of its bytes
+// whether it is odd. Inlined to make use of what the processor of the calling function has.
+template <bool kAnyOdd>
+[[gnu::always_inline]] inline Mark* Append(std::uint64_t marks, std::uint64_t quoted,
+                                           std::size_t base, Mark* out) {
+  // Four at a time, as how many there are can't be foretold; what isn't a mark is overwritten. The
+  // last bit keeps the search from asking whether there is one.
+  constexpr std::uint64_t kLastBit = std::uint64_t{1} << (kBlock - 1);
+  Mark* const end = out + std::popcount(marks);
+  while (out < end) {
+    for (int i = 0; i < 4; ++i) {
+      const auto bit = static_cast<std::size_t>(std::countr_zero(marks | kLastBit));
+      *out++ = Mark(base + bit, kAnyOdd && (quoted >> bit & 1) != 0);
+      marks &= marks - 1;
+    }
+  }
+  return end;
+}
+
+// The same for `found`. `odd` is all ones if the number of quotation marks before the block is odd,
+// else 0, and is brought behind the block.
 [[gnu::always_inline]] inline Mark* Append(BlockMarks found, std::size_t base, std::uint64_t& odd,
                                            Mark* out) {
-  // Bit i of `quoted` comes to say whether an odd number of quotation marks stands up to byte i.
-  std::uint64_t quoted = found.quotes;
-  for (int step = 1; step < 64; step *= 2) quoted ^= quoted << step;
-  quoted ^= odd;
+  const std::uint64_t quoted = OddSince(found.quotes) ^ odd;
   odd = (quoted >> 63) != 0 ? ~std::uint64_t{0} : 0;
-  // Four at a time, as how many there are can't be foretold; what isn't a mark is overwritten.
-  do {
-    for (int i = 0; i < 4; ++i) {
-      const auto bit = static_cast<std::size_t>(std::countr_zero(found.marks));
-      *out = Mark(base + bit, (quoted >> (bit % kBlock) & 1) != 0);
-      out += found.marks != 0;
-      found.marks &= found.marks - 1;
-    }
-  } while (found.marks != 0);
-  return out;
+  return (found.marks & quoted) == 0 ? Append<false>(found.marks, quoted, base, out)
+                                     : Append<true>(found.marks, quoted, base, out);
 }
 
 // For processors without the instructions, and to check them against.
@@ -86,7 +99,7 @@ Mark* FindBy16(std::string_view text, Mark* out) {
   return static_cast<std::uint32_t>(_mm256_movemask_epi8(bytes));
 }
 
-[[gnu::target("avx2,bmi,bmi2")]] Mark* FindBy32(std::string_view text, Mark* out) {
+[[gnu::target("avx2,bmi,bmi2,popcnt")]] Mark* FindBy32(std::string_view text, Mark* out) {
   std::uint64_t odd = 0;
   for (std::size_t base = 0; base < text.size(); base += kBlock) {
     BlockMarks found;
@@ -104,11 +117,8 @@ Mark* FindBy16(std::string_view text, Mark* out) {
   return out;
 }
 
-bool Has32() {
-  return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("bmi") != 0 &&
-         __builtin_cpu_supports("bmi2") != 0;
-}
-
+// Whoever has the second set of bit instructions has the first and the counting of bits.
+bool Has32() { return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("bmi2") != 0; }
 constexpr std::array<FindMarks, 3> kWays = {FindBy32, FindBy16, FindPlainly};
 #else
 bool Has32() { return true; }

@@ -115,9 +115,10 @@ void XmlListReader::Opened() {
 template <typename Take>
 void XmlListReader::EachAttribute(Take take) {
   AttributeReader attributes(scanner_.Attributes());
+  const bool entities = scanner_.Attributes().find('&') != std::string_view::npos;
   while (attributes.Next()) {
     std::string_view value = attributes.Value();
-    if (value.find('&') != std::string_view::npos) {
+    if (entities) {
       value_.clear();
       if (!AppendXmlText(value, value_)) failure_ = "an entity that isn't known";
       value = value_;

@@ -17,8 +17,6 @@ bool IsBlank(std::string_view text) {
   return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
-bool EndsAttributeName(char c) { return c == '=' || c == '"' || c == '\'' || IsBlank(c); }
-
 void DropBlanks(std::string_view& text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
 }
@@ -44,11 +42,9 @@ char32_t EntityCharacter(std::string_view name) {
 
 // The length of the name that `tag` begins with. 15 readable bytes must follow the tag.
 std::size_t NameLength(std::string_view tag) {
-  const Block block(tag.data());
-  const BlockMask stops = block.Blank() | block.Equal('/') | block.EitherBracket();
-  const std::size_t length =
-      stops != 0 ? FirstBit(stops) : tag.find_first_of(" \t\n\r/<>", kBlockSize);
-  return std::min(length, tag.size());
+  return FindInBlocks(tag, [](const Block& block) {
+    return block.Blank() | block.Equal('/') | block.EitherBracket();
+  });
 }
 
 // Where the tag ends whose "<" stands before `at`: at the first ">" outside of quotation marks, or
@@ -74,8 +70,9 @@ bool AttributeReader::Next() {
   DropBlanks(rest_);
   if (rest_.empty() || broken_) return false;
   broken_ = true;
-  const auto name_end = static_cast<std::size_t>(
-      std::find_if(rest_.begin(), rest_.end(), EndsAttributeName) - rest_.begin());
+  const std::size_t name_end = FindInBlocks(rest_, [](const Block& block) {
+    return block.Equal('=') | block.Blank() | block.Equal('"') | block.Equal('\'');
+  });
   if (name_end == 0 || name_end == rest_.size()) return false;
   name_ = rest_.substr(0, name_end);
   rest_.remove_prefix(name_end);
@@ -84,9 +81,12 @@ bool AttributeReader::Next() {
   rest_.remove_prefix(1);
   DropBlanks(rest_);
   if (rest_.empty() || (rest_.front() != '"' && rest_.front() != '\'')) return false;
-  const std::size_t closing = rest_.find(rest_.front(), 1);
-  if (closing == std::string_view::npos) return false;
-  value_ = rest_.substr(1, closing - 1);
+  const char quote = rest_.front();
+  rest_.remove_prefix(1);
+  const std::size_t closing =
+      FindInBlocks(rest_, [quote](const Block& block) { return block.Equal(quote); });
+  if (closing == rest_.size()) return false;
+  value_ = rest_.substr(0, closing);
   rest_.remove_prefix(closing + 1);
   broken_ = !rest_.empty() && !IsBlank(rest_.front());
   return !broken_;

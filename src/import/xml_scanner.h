@@ -18,7 +18,7 @@ namespace zarvo {
 
 enum class XmlToken { kOpen, kClose, kText, kEnd, kError };
 
-// Walks over the attributes of a tag.
+// Walks over the attributes of a tag, which 15 readable bytes follow.
 class AttributeReader {
  public:
   explicit AttributeReader(std::string_view attributes) : rest_(attributes) {}
