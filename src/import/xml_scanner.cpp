@@ -47,7 +47,7 @@ std::size_t NameLength(std::string_view tag) {
   });
 }
 
-// Where the tag ends whose "<" stands before `at`: at the first ">" outside of quotation marks, or
+// Where the tag ends whose name ends at `at`: at the first ">" outside of quotation marks, or
 // at a "<", which no tag may hold. nullptr if `end` comes first.
 const char* FindTagEnd(const char* at, const char* end) {
   char quote = 0;
@@ -162,7 +162,8 @@ XmlScanner::Step XmlScanner::TakeTag(const char* start) {
 XmlScanner::Step XmlScanner::TakeOpen(const char* start) {
   const char* close = PlaceOf(mark_ + 1);
   if (*close != '>' || !mark_[0].QuotesPairUpTo(mark_[1])) {
-    close = FindTagEnd(start + 1, window_.End());
+    const std::string_view rest(start + 1, static_cast<std::size_t>(window_.End() - start - 1));
+    close = FindTagEnd(rest.data() + NameLength(rest), window_.End());
     if (close == nullptr) return Step::kMore;
   }
   self_closing_ = close[-1] == '/';
@@ -219,6 +220,7 @@ XmlScanner::Step XmlScanner::TakeLiteral(const char* start) {
   const std::size_t closing = rest.find("]]>", kOpening);
   if (closing == std::string_view::npos) return Step::kMore;
   if (depth_ == 0) return Failed(start, "text where a tag is expected");
+  if (!wants_text_) return Passed(start + closing + 3);
   text_ = rest.substr(kOpening, closing - kOpening);
   literal_ = true;
   return Found(XmlToken::kText, start, start + closing + 3);

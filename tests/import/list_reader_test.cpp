@@ -222,6 +222,7 @@ TEST(ListReader, FindsTheEndOfATag) {
 TEST(ListReader, ChecksWhatItPassesOver) {
   const std::string before = "<mame><machine name='a'>\n<rom name=\"x\"/><rom name=\"y\"/>\n";
   EXPECT_EQ(ImportText(before + "</machine></mame>").error, "");
+  EXPECT_EQ(ImportText(before + "<a>b<!--'<'--><![CDATA[<]]>c</a></machine></mame>").error, "");
   for (const std::string_view parent : {"", "<dipswitch name=\"x\">"}) {
     const std::string list = before + std::string(parent);
     EXPECT_THAT(ImportText(list + "<rom name=\"x/>\n<rom name=\"y\"/>").error,
