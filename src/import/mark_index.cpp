@@ -13,11 +13,7 @@ namespace {
 
 constexpr std::size_t kBlock = 64;
 
-// What stands in a block; bit i for byte i.
-struct BlockMarks {
-  std::uint64_t marks = 0;
-  std::uint64_t quotes = 0;
-};
+// Functions that are inlined for good make use of what the processor of their callers has.
 
 // Bit i is set if an odd number of bits of `mask` stand at or before i.
 [[gnu::always_inline]] inline std::uint64_t OddSince(std::uint64_t mask) {
@@ -25,46 +21,50 @@ struct BlockMarks {
   return mask;
 }
 
-// Appends the marks of the block that begins at `base`, and `quoted` says of each of its bytes
-// whether it is odd. Inlined to make use of what the processor of the calling function has.
+// All ones if an odd number of quotation marks stands before the next block, else 0.
+[[gnu::always_inline]] inline std::uint64_t Carry(std::uint64_t quoted) {
+  return (quoted >> (kBlock - 1)) != 0 ? ~std::uint64_t{0} : 0;
+}
+
 template <bool kAnyOdd>
-[[gnu::always_inline]] inline Mark* Append(std::uint64_t marks, std::uint64_t quoted,
-                                           std::size_t base, Mark* out) {
-  // Four at a time, as how many there are can't be foretold; what isn't a mark is overwritten. The
-  // last bit keeps the search from asking whether there is one.
+[[gnu::always_inline]] inline Mark* AppendEach(std::uint64_t marks, std::uint64_t quoted,
+                                               std::size_t base, Mark* out) {
+  // The last bit keeps the search from asking whether there is one.
   constexpr std::uint64_t kLastBit = std::uint64_t{1} << (kBlock - 1);
   Mark* const end = out + std::popcount(marks);
-  while (out < end) {
+  // Four at a time, as how many there are can't be foretold; what isn't a mark is overwritten.
+  do {
     for (int i = 0; i < 4; ++i) {
       const auto bit = static_cast<std::size_t>(std::countr_zero(marks | kLastBit));
       *out++ = Mark(base + bit, kAnyOdd && (quoted >> bit & 1) != 0);
       marks &= marks - 1;
     }
-  }
+  } while (out < end);
   return end;
 }
 
-// The same for `found`. `odd` is all ones if the number of quotation marks before the block is odd,
-// else 0, and is brought behind the block.
-[[gnu::always_inline]] inline Mark* Append(BlockMarks found, std::size_t base, std::uint64_t& odd,
-                                           Mark* out) {
-  const std::uint64_t quoted = OddSince(found.quotes) ^ odd;
-  odd = (quoted >> 63) != 0 ? ~std::uint64_t{0} : 0;
-  return (found.marks & quoted) == 0 ? Append<false>(found.marks, quoted, base, out)
-                                     : Append<true>(found.marks, quoted, base, out);
+// Appends the marks of the block that begins at `base`; bit i stands for its byte i. `quoted` says
+// of every byte whether an odd number of quotation marks stands up to it.
+[[gnu::always_inline]] inline Mark* Append(std::uint64_t marks, std::uint64_t quoted,
+                                           std::size_t base, Mark* out) {
+  return (marks & quoted) == 0 ? AppendEach<false>(marks, quoted, base, out)
+                               : AppendEach<true>(marks, quoted, base, out);
 }
 
 // For processors without the instructions, and to check them against.
 Mark* FindPlainly(std::string_view text, Mark* out) {
   std::uint64_t odd = 0;
   for (std::size_t base = 0; base < text.size(); base += kBlock) {
-    BlockMarks found;
+    std::uint64_t marks = 0;
+    std::uint64_t quotes = 0;
     for (std::size_t i = 0; i < kBlock && base + i < text.size(); ++i) {
       const char c = text[base + i];
-      found.marks |= std::uint64_t{c == '<' || c == '>' || c == '\''} << i;
-      found.quotes |= std::uint64_t{c == '"'} << i;
+      marks |= std::uint64_t{c == '<' || c == '>' || c == '\''} << i;
+      quotes |= std::uint64_t{c == '"'} << i;
     }
-    out = Append(found, base, odd, out);
+    const std::uint64_t quoted = OddSince(quotes) ^ odd;
+    out = Append(marks, quoted, base, out);
+    odd = Carry(quoted);
   }
   return out;
 }
@@ -80,57 +80,119 @@ std::uint64_t Mask(__m128i bytes) { return static_cast<std::uint32_t>(_mm_movema
 Mark* FindBy16(std::string_view text, Mark* out) {
   std::uint64_t odd = 0;
   for (std::size_t base = 0; base < text.size(); base += kBlock) {
-    BlockMarks found;
+    std::uint64_t marks = 0;
+    std::uint64_t quotes = 0;
     for (std::size_t i = 0; i < kBlock; i += sizeof(__m128i)) {
       const char* const start = text.data() + base + i;
       const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(start));
       const __m128i bracket =
           _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(kBracketBit)), _mm_set1_epi8('>'));
       const __m128i apostrophe = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\''));
-      found.marks |= Mask(_mm_or_si128(bracket, apostrophe)) << i;
-      found.quotes |= Mask(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'))) << i;
+      marks |= Mask(_mm_or_si128(bracket, apostrophe)) << i;
+      quotes |= Mask(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'))) << i;
     }
-    out = Append(found, base, odd, out);
+    const std::uint64_t quoted = OddSince(quotes) ^ odd;
+    out = Append(marks, quoted, base, out);
+    odd = Carry(quoted);
   }
   return out;
+}
+
+// OddSince as the product with -1 without carries.
+[[gnu::target("pclmul"), gnu::always_inline]] inline std::uint64_t OddByProduct(
+    std::uint64_t mask) {
+  const __m128i factor = _mm_cvtsi64_si128(static_cast<long long>(mask));
+  const __m128i product = _mm_clmulepi64_si128(factor, _mm_set1_epi8(-1), 0);
+  return static_cast<std::uint64_t>(_mm_cvtsi128_si64(product));
 }
 
 [[gnu::target("avx2"), gnu::always_inline]] inline std::uint64_t Mask(__m256i bytes) {
   return static_cast<std::uint32_t>(_mm256_movemask_epi8(bytes));
 }
 
-[[gnu::target("avx2,bmi,bmi2,popcnt")]] Mark* FindBy32(std::string_view text, Mark* out) {
+[[gnu::target("avx2,bmi,bmi2,pclmul,popcnt")]] Mark* FindBy32(std::string_view text, Mark* out) {
   std::uint64_t odd = 0;
   for (std::size_t base = 0; base < text.size(); base += kBlock) {
-    BlockMarks found;
+    std::uint64_t marks = 0;
+    std::uint64_t quotes = 0;
     for (std::size_t i = 0; i < kBlock; i += sizeof(__m256i)) {
       const char* const start = text.data() + base + i;
       const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(start));
       const __m256i bracket = _mm256_cmpeq_epi8(
           _mm256_or_si256(bytes, _mm256_set1_epi8(kBracketBit)), _mm256_set1_epi8('>'));
       const __m256i apostrophe = _mm256_cmpeq_epi8(bytes, _mm256_set1_epi8('\''));
-      found.marks |= Mask(_mm256_or_si256(bracket, apostrophe)) << i;
-      found.quotes |= Mask(_mm256_cmpeq_epi8(bytes, _mm256_set1_epi8('"'))) << i;
+      marks |= Mask(_mm256_or_si256(bracket, apostrophe)) << i;
+      quotes |= Mask(_mm256_cmpeq_epi8(bytes, _mm256_set1_epi8('"'))) << i;
     }
-    out = Append(found, base, odd, out);
+    const std::uint64_t quoted = OddByProduct(quotes) ^ odd;
+    out = Append(marks, quoted, base, out);
+    odd = Carry(quoted);
   }
   return out;
 }
 
-// Whoever has the second set of bit instructions has the first and the counting of bits.
-bool Has32() { return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("bmi2") != 0; }
-constexpr std::array<FindMarks, 3> kWays = {FindBy32, FindBy16, FindPlainly};
+// 0, 2, 4 and so on: the bytes of a block as they stand in a Mark.
+constexpr auto kDoubled = [] {
+  std::array<unsigned char, kBlock> doubled{};
+  for (std::size_t i = 0; i < kBlock; ++i) doubled[i] = static_cast<unsigned char>(2 * i);
+  return doubled;
+}();
+
+// The marks of a block that has at most sixteen, none of them odd.
+[[gnu::target("avx512bw,avx512vbmi2"), gnu::always_inline]] inline void StoreSixteen(
+    std::uint64_t marks, std::size_t base, Mark* out) {
+  const __m512i bits = _mm512_maskz_compress_epi8(marks, _mm512_loadu_si512(kDoubled.data()));
+  const __m512i wide =
+      _mm512_maskz_cvtepu8_epi32(0xFFFF, _mm512_maskz_extracti32x4_epi32(0xF, bits, 0));
+  _mm512_storeu_si512(out, _mm512_add_epi32(wide, _mm512_set1_epi32(static_cast<int>(2 * base))));
+}
+
+[[gnu::target("avx512bw,avx512vbmi2,bmi,bmi2,pclmul,popcnt")]] Mark* FindBy64(std::string_view text,
+                                                                              Mark* out) {
+  std::uint64_t odd = 0;
+  for (std::size_t base = 0; base < text.size(); base += kBlock) {
+    const __m512i bytes = _mm512_loadu_si512(text.data() + base);
+    const std::uint64_t marks =
+        _mm512_cmpeq_epi8_mask(_mm512_or_si512(bytes, _mm512_set1_epi8(kBracketBit)),
+                               _mm512_set1_epi8('>')) |
+        _mm512_cmpeq_epi8_mask(bytes, _mm512_set1_epi8('\''));
+    const std::uint64_t quotes = _mm512_cmpeq_epi8_mask(bytes, _mm512_set1_epi8('"'));
+    const std::uint64_t quoted = OddByProduct(quotes) ^ odd;
+    odd = Carry(quoted);
+    if ((marks & quoted) != 0 || std::popcount(marks) > 16) {
+      out = Append(marks, quoted, base, out);
+    } else {
+      StoreSixteen(marks, base, out);
+      out += std::popcount(marks);
+    }
+  }
+  return out;
+}
+
+// How many of the ways below, from the first, this processor lacks the instructions for.
+std::size_t CountMissingWays() {
+  if (__builtin_cpu_supports("avx2") == 0 || __builtin_cpu_supports("bmi2") == 0 ||
+      __builtin_cpu_supports("pclmul") == 0) {
+    return 2;
+  }
+  return __builtin_cpu_supports("avx512bw") != 0 && __builtin_cpu_supports("avx512vbmi2") != 0 ? 0
+                                                                                               : 1;
+}
+
+constexpr std::array<FindMarks, 4> kWays = {FindBy64, FindBy32, FindBy16, FindPlainly};
 #else
-bool Has32() { return true; }
+std::size_t CountMissingWays() { return 0; }
 constexpr std::array<FindMarks, 1> kWays = {FindPlainly};
 #endif
 
 }  // namespace
 
-std::span<const FindMarks> WaysToFindMarks() { return std::span(kWays).subspan(Has32() ? 0 : 1); }
+std::span<const FindMarks> WaysToFindMarks() {
+  return std::span(kWays).subspan(CountMissingWays());
+}
 
 const Mark* MarkIndex::Build(std::string_view text) {
-  constexpr std::size_t kSpare = 4;
+  constexpr std::size_t kSpare = 16;
   if (text.size() + kSpare > room_) {
     room_ = text.size() + kSpare;
     marks_ = std::make_unique_for_overwrite<Mark[]>(room_);

@@ -30,7 +30,7 @@ class Mark {
   std::uint32_t bits_;
 };
 
-// Writes the marks of `text` to `marks`, where there is room for four more than the text has
+// Writes the marks of `text` to `marks`, where there is room for 16 more than the text has
 // characters, and gives the place behind the last. 63 readable bytes of zero follow the text, which
 // is shorter than 2 GiB.
 using FindMarks = Mark* (*)(std::string_view text, Mark* marks);
