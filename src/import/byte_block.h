@@ -17,7 +17,6 @@ namespace zarvo {
 // Bit i of a mask stands for byte i of the block.
 using BlockMask = std::uint32_t;
 inline constexpr std::size_t kBlockSize = 16;
-inline constexpr BlockMask kWholeBlock = 0xFFFF;
 
 // The block in plain C++, for processors without the instructions and to check them against.
 class PlainBlock {

@@ -26,6 +26,7 @@ constexpr std::size_t kBlock = 64;
   return (quoted >> (kBlock - 1)) != 0 ? ~std::uint64_t{0} : 0;
 }
 
+// Append for a block of which the caller knows whether any of its marks is odd.
 template <bool kAnyOdd>
 [[gnu::always_inline]] inline Mark* AppendEach(std::uint64_t marks, std::uint64_t quoted,
                                                std::size_t base, Mark* out) {

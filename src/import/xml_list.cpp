@@ -1,7 +1,7 @@
 // Lists in XML: `-listxml` of MAME, old and new, and Logiqx DATs.
 //
-// Depth 1 is the list, depth 2 a machine, depth 3 what belongs to it. Most tags are dip switches
-// and roms; they are told by their first letters and passed over.
+// Depth 1 is the list, depth 2 a machine, depth 3 what belongs to it. Most tags are dip switches,
+// devices and roms; they are passed over as far as can be.
 #include "import/byte_block.h"
 #include "import/list_reader.h"
 #include "import/xml_scanner.h"
@@ -16,7 +16,7 @@ constexpr std::size_t kLongestText = 32767;
 // What the first attribute of an element says whose switch makes a table of the cabinet.
 constexpr std::string_view kCocktail = " name=\"Cocktail\"";
 
-// False only if it isn't the first attribute of `tag`, which a block of readable bytes follows.
+// False only if it isn't the first attribute of `tag`, which 64 readable bytes follow.
 bool MayBeCocktail(std::string_view tag) {
   constexpr std::size_t kLetter = kCocktail.find('C');
   const BlockMask blanks = Block(tag.data()).Blank();

@@ -287,6 +287,7 @@ XmlToken XmlScanner::AtEnd() {
     Failed(end, "the list is empty");
   } else {
     token_ = XmlToken::kEnd;
+    start_ = end;
   }
   return token_;
 }

@@ -39,6 +39,7 @@ class AttributeReader {
 // have; what stands before it has been appended.
 bool AppendXmlText(std::string_view text, std::string& out);
 
+// Letters of ASCII, "_", ":" and every byte of a character beyond ASCII.
 inline bool BeginsXmlName(char c) {
   const auto byte = static_cast<unsigned char>(c);
   const auto letter = static_cast<unsigned char>((byte | 0x20) - 'a');

@@ -127,6 +127,7 @@ TEST(ListReader, RefusesWhatIsNoList) {
       {"emulator ( name x )", "line 1: there is no game"},
       {"<html>", "line 1: <html> is no list of games"},
       {"<mame></mame>", "there is no machine in the list"},
+      {"<mame></mame>" + std::string(300000, '\n'), "line 300001: there is no machine in the list"},
       {"<mame>\n<machine/>\n</mame>", "line 2: a machine without a name"},
       {"<mame>\n<machine name='a'>\n</game>", "line 3: </game>, but <machine> is open"},
       {"<mame><machine name='a'/></mame>\n</mame>", "line 2: </mame>, but nothing is open"},
