@@ -1,13 +1,12 @@
 // Sixteen bytes of the input at a time.
 //
-// A list that an emulator prints about itself has some five million tags in 269 MB, and nearly all
-// of them are passed over. Measured on that list, a general XML library (expat) took 2.3 s where
-// counting the line ends takes 0.024 s; looking at 16 bytes per step is what closes that gap.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -18,7 +17,6 @@ namespace zarvo {
 // Bit i of a mask stands for byte i of the block.
 using BlockMask = std::uint32_t;
 inline constexpr std::size_t kBlockSize = 16;
-inline constexpr BlockMask kWholeBlock = 0xFFFF;
 
 // The block in plain C++, for processors without the instructions and to check them against.
 class PlainBlock {
@@ -74,7 +72,14 @@ inline std::size_t FirstBit(BlockMask mask) {
   return static_cast<std::size_t>(std::countr_zero(mask));
 }
 
-// Line feeds in `size` bytes.
-std::size_t CountLineFeeds(const char* bytes, std::size_t size);
+// Where `stops(block)` sets the first bit in `text`, which 15 readable bytes follow, or its size.
+template <typename Stops>
+std::size_t FindInBlocks(std::string_view text, Stops stops) {
+  for (std::size_t at = 0; at < text.size(); at += kBlockSize) {
+    const BlockMask found = stops(Block(text.data() + at));
+    if (found != 0) return std::min(at + FirstBit(found), text.size());
+  }
+  return text.size();
+}
 
 }  // namespace zarvo

@@ -1,9 +1,9 @@
 #include "import/input_window.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
-
-#include "import/byte_block.h"
+#include <numeric>
 
 namespace zarvo {
 namespace {
@@ -17,27 +17,41 @@ std::unique_ptr<char[]> MakeBuffer(std::size_t capacity) {
   return buffer;
 }
 
+// `kWidth` bytes per step. Inlined to make use of what the processor of the calling function has.
+template <std::size_t kWidth>
+[[gnu::always_inline]] inline std::size_t CountInSteps(const char* bytes, std::size_t size) {
+  typedef unsigned char Bytes __attribute__((vector_size(kWidth)));
+  std::size_t count = 0;
+  while (size >= kWidth) {
+    // A byte of the sum holds at most 255.
+    const std::size_t steps = std::min<std::size_t>(size / kWidth, 255);
+    Bytes sum = {};
+    for (std::size_t i = 0; i < steps; ++i, bytes += kWidth) {
+      Bytes some;
+      std::memcpy(&some, bytes, kWidth);
+      sum += (some == '\n') & 1;
+    }
+    std::array<unsigned char, kWidth> sums;
+    std::memcpy(sums.data(), &sum, kWidth);
+    count = std::accumulate(sums.begin(), sums.end(), count);
+    size -= steps * kWidth;
+  }
+  return count + static_cast<std::size_t>(std::count(bytes, bytes + size, '\n'));
+}
+
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] std::size_t CountBy32(const char* bytes, std::size_t size) {
+  return CountInSteps<32>(bytes, size);
+}
+#endif
+
 }  // namespace
 
 std::size_t CountLineFeeds(const char* bytes, std::size_t size) {
-  std::size_t count = 0;
-#if defined(__SSE2__)
-  const __m128i line_feed = _mm_set1_epi8('\n');
-  while (size >= kBlockSize) {
-    // A byte of the sum holds at most 255.
-    const std::size_t blocks = std::min<std::size_t>(size / kBlockSize, 255);
-    __m128i sum = _mm_setzero_si128();
-    for (std::size_t i = 0; i < blocks; ++i, bytes += kBlockSize) {
-      const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
-      sum = _mm_sub_epi8(sum, _mm_cmpeq_epi8(block, line_feed));
-    }
-    const __m128i halves = _mm_sad_epu8(sum, _mm_setzero_si128());
-    count += static_cast<std::size_t>(_mm_cvtsi128_si64(halves)) +
-             static_cast<std::size_t>(_mm_cvtsi128_si64(_mm_srli_si128(halves, 8)));
-    size -= blocks * kBlockSize;
-  }
+#if defined(__x86_64__)
+  if (__builtin_cpu_supports("avx2") != 0) return CountBy32(bytes, size);
 #endif
-  return count + static_cast<std::size_t>(std::count(bytes, bytes + size, '\n'));
+  return CountInSteps<16>(bytes, size);
 }
 
 InputWindow::InputWindow(ByteSource& source)

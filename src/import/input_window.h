@@ -15,6 +15,9 @@ namespace zarvo {
 // memory that any input can claim.
 inline constexpr std::size_t kLongestToken = 1U << 20;
 
+// Line feeds in `size` bytes.
+std::size_t CountLineFeeds(const char* bytes, std::size_t size);
+
 class InputWindow {
  public:
   // `source` must outlive the window.

@@ -1,7 +1,8 @@
 // Lists in XML: `-listxml` of MAME, old and new, and Logiqx DATs.
 //
-// Depth 1 is the list, depth 2 a machine, depth 3 what belongs to it. Most tags are dip switches
-// and roms; they are told by their first letters and passed over.
+// Depth 1 is the list, depth 2 a machine, depth 3 what belongs to it. Most tags are dip switches,
+// devices and roms; they are passed over as far as can be.
+#include "import/byte_block.h"
 #include "import/list_reader.h"
 #include "import/xml_scanner.h"
 
@@ -12,6 +13,16 @@ constexpr std::size_t kListDepth = 1;
 constexpr std::size_t kMachineDepth = 2;
 constexpr std::size_t kLongestText = 32767;
 
+// What the first attribute of an element says whose switch makes a table of the cabinet.
+constexpr std::string_view kCocktail = " name=\"Cocktail\"";
+
+// False only if it isn't the first attribute of `tag`, which 64 readable bytes follow.
+bool MayBeCocktail(std::string_view tag) {
+  constexpr std::size_t kLetter = kCocktail.find('C');
+  const BlockMask blanks = Block(tag.data()).Blank();
+  return blanks == 0 || tag.data()[FirstBit(blanks) + kLetter] == kCocktail[kLetter];
+}
+
 class XmlListReader {
  public:
   XmlListReader(InputWindow& window, MachineSink& sink) : scanner_(window), sink_(sink) {}
@@ -19,6 +30,7 @@ class XmlListReader {
   Status Read();
 
  private:
+  void PassUnwanted();
   void Opened();
   void OpenedList();
   void OpenedMachine();
@@ -52,6 +64,7 @@ class XmlListReader {
 
 Status XmlListReader::Read() {
   while (failure_.empty()) {
+    PassUnwanted();
     switch (scanner_.Next()) {
       case XmlToken::kOpen:
         Opened();
@@ -60,7 +73,7 @@ Status XmlListReader::Read() {
         Closed();
         break;
       case XmlToken::kText:
-        if (captured_ != nullptr) TakeText();
+        TakeText();
         break;
       case XmlToken::kError:
         return Error{scanner_.Error()};
@@ -72,6 +85,18 @@ Status XmlListReader::Read() {
   }
   scanner_.Fail(failure_);
   return Error{scanner_.Error()};
+}
+
+// Four tags of five are roms, devices and positions of switches.
+void XmlListReader::PassUnwanted() {
+  if (captured_ != nullptr) return;
+  if (scanner_.Depth() == kMachineDepth) {
+    scanner_.PassOver([](std::string_view tag) {
+      return tag.starts_with("device_ref ") || tag.starts_with("rom ");
+    });
+  } else if (scanner_.Depth() > kMachineDepth) {
+    scanner_.PassOver([](std::string_view tag) { return !MayBeCocktail(tag); });
+  }
 }
 
 void XmlListReader::Opened() {
@@ -90,9 +115,10 @@ void XmlListReader::Opened() {
 template <typename Take>
 void XmlListReader::EachAttribute(Take take) {
   AttributeReader attributes(scanner_.Attributes());
+  const bool entities = scanner_.Attributes().find('&') != std::string_view::npos;
   while (attributes.Next()) {
     std::string_view value = attributes.Value();
-    if (value.find('&') != std::string_view::npos) {
+    if (entities) {
       value_.clear();
       if (!AppendXmlText(value, value_)) failure_ = "an entity that isn't known";
       value = value_;
@@ -184,12 +210,12 @@ void XmlListReader::OpenedPart() {
 
 // Inside a dip switch or a configuration: a cabinet that can be a table says so there.
 void XmlListReader::OpenedBelow() {
-  constexpr std::string_view kCocktail = " name=\"Cocktail\"";
   if (scanner_.Attributes().starts_with(kCocktail)) machine_.cocktail = YesNo::kYes;
 }
 
 void XmlListReader::Closed() {
   captured_ = nullptr;
+  scanner_.WantText(false);
   if (scanner_.Depth() != kListDepth) return;
   if (in_machine_) FinishMachine();
   if (in_header_) sink_.TakeFacts(facts_);
@@ -207,6 +233,7 @@ void XmlListReader::Capture(std::string& text) {
   text.clear();
   if (scanner_.SelfClosing()) return;
   captured_ = &text;
+  scanner_.WantText(true);
   captured_depth_ = scanner_.Depth();
 }
 
@@ -224,11 +251,12 @@ void XmlListReader::TakeChip() {
   bool for_sound = false;
   std::string name;
   EachAttribute([&](std::string_view attribute, std::string_view value) {
-    const bool sound_word = value.find("audio") != std::string_view::npos ||
-                            value.find("sound") != std::string_view::npos;
     if (attribute == "type") cpu = value == "cpu";
     if (attribute == "name") name = value;
-    if (attribute == "tag" || attribute == "soundonly") for_sound |= sound_word || value == "yes";
+    if (attribute == "tag" || attribute == "soundonly") {
+      for_sound |= value.find("audio") != std::string_view::npos ||
+                   value.find("sound") != std::string_view::npos || value == "yes";
+    }
   });
   if (cpu) {
     machine_.cpus.Add(CpuName(name, for_sound));

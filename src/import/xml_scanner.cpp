@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstring>
 
+#include "import/byte_block.h"
 #include "import/list_text.h"
-#include "import/tag_end.h"
 
 namespace zarvo {
 namespace {
@@ -16,12 +15,6 @@ bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 bool IsBlank(std::string_view text) {
   return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
-bool BeginsName(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || byte == '_' ||
-         byte == ':' || byte >= 0x80;
 }
 
 void DropBlanks(std::string_view& text) {
@@ -47,14 +40,28 @@ char32_t EntityCharacter(std::string_view name) {
   return name.starts_with('#') ? NumberedCharacter(name) : 0;
 }
 
-// Behind the name that begins at `start`, or `end`.
-const char* NameEnd(const char* start, const char* end) {
-  const Block block(start);
-  const BlockMask stops = block.Blank() | block.Equal('/') | block.Equal('>') | block.Equal('<');
-  if (stops != 0) return std::min(start + FirstBit(stops), end);
-  const char* at = start + kBlockSize;
-  while (at < end && !IsBlank(*at) && *at != '/' && *at != '>' && *at != '<') ++at;
-  return at;
+// The length of the name that `tag` begins with. 15 readable bytes must follow the tag.
+std::size_t NameLength(std::string_view tag) {
+  return FindInBlocks(tag, [](const Block& block) {
+    return block.Blank() | block.Equal('/') | block.EitherBracket();
+  });
+}
+
+// Where the tag ends whose name ends at `at`: at the first ">" outside of quotation marks, or
+// at a "<", which no tag may hold. nullptr if `end` comes first.
+const char* FindTagEnd(const char* at, const char* end) {
+  char quote = 0;
+  for (; at < end; ++at) {
+    if (*at == '<') return at;
+    if (quote != 0) {
+      if (*at == quote) quote = 0;
+    } else if (*at == '>') {
+      return at;
+    } else if (*at == '"' || *at == '\'') {
+      quote = *at;
+    }
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -63,8 +70,10 @@ bool AttributeReader::Next() {
   DropBlanks(rest_);
   if (rest_.empty() || broken_) return false;
   broken_ = true;
-  const std::size_t name_end = rest_.find_first_of("= \t\r\n\"'");
-  if (name_end == 0 || name_end == std::string_view::npos) return false;
+  const std::size_t name_end = FindInBlocks(rest_, [](const Block& block) {
+    return block.Equal('=') | block.Blank() | block.Equal('"') | block.Equal('\'');
+  });
+  if (name_end == 0 || name_end == rest_.size()) return false;
   name_ = rest_.substr(0, name_end);
   rest_.remove_prefix(name_end);
   DropBlanks(rest_);
@@ -72,9 +81,12 @@ bool AttributeReader::Next() {
   rest_.remove_prefix(1);
   DropBlanks(rest_);
   if (rest_.empty() || (rest_.front() != '"' && rest_.front() != '\'')) return false;
-  const std::size_t closing = rest_.find(rest_.front(), 1);
-  if (closing == std::string_view::npos) return false;
-  value_ = rest_.substr(1, closing - 1);
+  const char quote = rest_.front();
+  rest_.remove_prefix(1);
+  const std::size_t closing =
+      FindInBlocks(rest_, [quote](const Block& block) { return block.Equal(quote); });
+  if (closing == rest_.size()) return false;
+  value_ = rest_.substr(0, closing);
   rest_.remove_prefix(closing + 1);
   broken_ = !rest_.empty() && !IsBlank(rest_.front());
   return !broken_;
@@ -95,7 +107,12 @@ bool AppendXmlText(std::string_view text, std::string& out) {
   }
 }
 
-XmlScanner::XmlScanner(InputWindow& window) : window_(window), open_(kDeepest) {}
+XmlScanner::XmlScanner(InputWindow& window) : window_(window), open_(kDeepest) { FindMarks(); }
+
+void XmlScanner::FindMarks() {
+  base_ = window_.Begin();
+  mark_ = index_.Build(window_.Rest());
+}
 
 XmlToken XmlScanner::Next() {
   if (!error_.empty()) return XmlToken::kError;
@@ -107,55 +124,54 @@ XmlToken XmlScanner::Next() {
         break;
       case Step::kMore:
         if (!window_.Grow()) return AtEnd();
+        FindMarks();
         break;
     }
   }
 }
 
 XmlScanner::Step XmlScanner::Take() {
-  const char* const start = window_.Begin();
-  const char* const end = window_.End();
-  if (start == end) return Step::kMore;
-  const Block block(start);
-  const BlockMask tags = block.Equal('<');
-  if (tags != 0) {
-    const std::size_t length = FirstBit(tags);
-    const BlockMask before = (BlockMask{1} << length) - 1;
-    return (before & ~block.Blank()) == 0 ? TakeTag(start + length)
-                                          : TakeText(start, start + length);
+  while (*PlaceOf(mark_) != '<') {
+    if (PlaceOf(mark_) == window_.End()) return Step::kMore;
+    ++mark_;
   }
-  const void* const tag = std::memchr(start, '<', static_cast<std::size_t>(end - start));
-  return tag == nullptr ? Step::kMore : TakeText(start, static_cast<const char*>(tag));
+  const char* const tag = PlaceOf(mark_);
+  return wants_text_ || depth_ == 0 ? TakeText(tag) : TakeTag(tag);
 }
 
-XmlScanner::Step XmlScanner::TakeText(const char* start, const char* end) {
-  const std::string_view text(start, static_cast<std::size_t>(end - start));
-  if (IsBlank(text)) return TakeTag(end);
+XmlScanner::Step XmlScanner::TakeText(const char* tag) {
+  const char* const start = window_.Begin();
+  const std::string_view text(start, static_cast<std::size_t>(tag - start));
+  if (IsBlank(text)) return TakeTag(tag);
   if (depth_ == 0) return Failed(start, "text where a tag is expected");
   text_ = text;
   literal_ = false;
-  return Found(XmlToken::kText, start, end);
+  return Found(XmlToken::kText, start, tag);
 }
 
 XmlScanner::Step XmlScanner::TakeTag(const char* start) {
-  if (window_.End() - start < 2) return Step::kMore;
   const char kind = start[1];
-  if (BeginsName(kind)) return TakeOpen(start);
+  if (BeginsXmlName(kind)) return TakeOpen(start);
   if (kind == '/') return TakeClose(start);
   if (kind == '!') return TakeMarkup(start);
   if (kind == '?') return PassTo(start, 2, "?>");
+  if (start + 1 == window_.End()) return Step::kMore;
   return Failed(start, "\"<\" that begins no tag");
 }
 
 XmlScanner::Step XmlScanner::TakeOpen(const char* start) {
-  const char* const name_end = NameEnd(start + 1, window_.End());
-  const char* const close = FindTagEnd(name_end, window_.End());
-  if (close == nullptr) return Step::kMore;
-  name_ = {start + 1, static_cast<std::size_t>(name_end - start - 1)};
-  if (*close == '<') return Failed(start, "\"<\" within the tag <" + std::string(name_) + ">");
+  const char* close = PlaceOf(mark_ + 1);
+  if (*close != '>' || !mark_[0].QuotesPairUpTo(mark_[1])) {
+    const std::string_view rest(start + 1, static_cast<std::size_t>(window_.End() - start - 1));
+    close = FindTagEnd(rest.data() + NameLength(rest), window_.End());
+    if (close == nullptr) return Step::kMore;
+  }
   self_closing_ = close[-1] == '/';
-  const char* const attributes_end = self_closing_ ? close - 1 : close;
-  attributes_ = {name_end, static_cast<std::size_t>(attributes_end - name_end)};
+  const std::string_view tag(start + 1,
+                             static_cast<std::size_t>(close - start - 1) - self_closing_);
+  name_ = tag.substr(0, NameLength(tag));
+  attributes_ = tag.substr(name_.size());
+  if (*close == '<') return Failed(start, "\"<\" within the tag <" + std::string(name_) + ">");
   if (depth_ == 0 && had_root_) return Failed(start, "a second list behind the first");
   had_root_ = true;
   if (!self_closing_) {
@@ -166,14 +182,14 @@ XmlScanner::Step XmlScanner::TakeOpen(const char* start) {
 }
 
 XmlScanner::Step XmlScanner::TakeClose(const char* start) {
-  const char* const name_end = NameEnd(start + 2, window_.End());
-  const char* close = name_end;
-  while (close < window_.End() && IsBlank(*close)) ++close;
-  if (close >= window_.End()) return Step::kMore;
-  name_ = {start + 2, static_cast<std::size_t>(name_end - start - 2)};
-  if (*close != '>' || depth_ == 0 || open_[depth_ - 1] != name_) {
+  const std::string_view rest(start + 2, static_cast<std::size_t>(window_.End() - start - 2));
+  const std::string_view name = rest.substr(0, NameLength(rest));
+  const char* close = name.data() + name.size();
+  while (IsBlank(*close)) ++close;  // no blank follows the window
+  if (close == window_.End()) return Step::kMore;
+  if (*close != '>' || depth_ == 0 || open_[depth_ - 1] != name) {
     const std::string expected = depth_ == 0 ? "nothing" : "<" + open_[depth_ - 1] + ">";
-    const std::string shown(name_.substr(0, 40));
+    const std::string shown(name.substr(0, 40));
     return Failed(start, "</" + shown + ">, but " + expected + " is open");
   }
   --depth_;
@@ -195,8 +211,7 @@ XmlScanner::Step XmlScanner::PassTo(const char* start, std::size_t skip, std::st
   const std::string_view rest(start, static_cast<std::size_t>(window_.End() - start));
   const std::size_t found = rest.find(closing, skip);
   if (found == std::string_view::npos) return Step::kMore;
-  window_.ConsumeTo(start + found + closing.size());
-  return Step::kPassed;
+  return Passed(start + found + closing.size());
 }
 
 XmlScanner::Step XmlScanner::TakeLiteral(const char* start) {
@@ -205,6 +220,7 @@ XmlScanner::Step XmlScanner::TakeLiteral(const char* start) {
   const std::size_t closing = rest.find("]]>", kOpening);
   if (closing == std::string_view::npos) return Step::kMore;
   if (depth_ == 0) return Failed(start, "text where a tag is expected");
+  if (!wants_text_) return Passed(start + closing + 3);
   text_ = rest.substr(kOpening, closing - kOpening);
   literal_ = true;
   return Found(XmlToken::kText, start, start + closing + 3);
@@ -228,17 +244,22 @@ XmlScanner::Step XmlScanner::TakeDocumentType(const char* start) {
       brackets += *at == '[' ? 1 : -1;
     } else if (*at == '>' && brackets <= 0) {
       if (had_root_) return Failed(start, "a document type behind the first tag");
-      window_.ConsumeTo(at + 1);
-      return Step::kPassed;
+      return Passed(at + 1);
     }
   }
   return Step::kMore;
 }
 
+XmlScanner::Step XmlScanner::Passed(const char* behind) {
+  window_.ConsumeTo(behind);
+  while (PlaceOf(mark_) < behind) ++mark_;
+  return Step::kPassed;
+}
+
 XmlScanner::Step XmlScanner::Found(XmlToken token, const char* start, const char* behind) {
   token_ = token;
   start_ = start;
-  window_.ConsumeTo(behind);
+  Passed(behind);
   return Step::kToken;
 }
 
@@ -266,6 +287,7 @@ XmlToken XmlScanner::AtEnd() {
     Failed(end, "the list is empty");
   } else {
     token_ = XmlToken::kEnd;
+    start_ = end;
   }
   return token_;
 }

@@ -12,12 +12,13 @@
 #include <vector>
 
 #include "import/input_window.h"
+#include "import/mark_index.h"
 
 namespace zarvo {
 
 enum class XmlToken { kOpen, kClose, kText, kEnd, kError };
 
-// Walks over the attributes of a tag.
+// Walks over the attributes of a tag, which 15 readable bytes follow.
 class AttributeReader {
  public:
   explicit AttributeReader(std::string_view attributes) : rest_(attributes) {}
@@ -38,6 +39,13 @@ class AttributeReader {
 // have; what stands before it has been appended.
 bool AppendXmlText(std::string_view text, std::string& out);
 
+// Letters of ASCII, "_", ":" and every byte of a character beyond ASCII.
+inline bool BeginsXmlName(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  const auto letter = static_cast<unsigned char>((byte | 0x20) - 'a');
+  return letter < 26 || byte == '_' || byte == ':' || byte >= 0x80;
+}
+
 class XmlScanner {
  public:
   explicit XmlScanner(InputWindow& window);
@@ -45,8 +53,14 @@ class XmlScanner {
   // The next token. What the functions below give stays valid until the next call. A text that
   // holds blanks alone is passed over.
   XmlToken Next();
+  // Passes over self-closing tags for as long as `unwanted` says so of their names with what
+  // follows them. Call it inside an element and where no text is wanted.
+  template <typename Unwanted>
+  void PassOver(Unwanted unwanted);
+  // Whether texts are tokens; otherwise, as at first, they are passed over unseen.
+  void WantText(bool wanted) { wants_text_ = wanted; }
 
-  [[nodiscard]] std::string_view Name() const { return name_; }              // kOpen, kClose
+  [[nodiscard]] std::string_view Name() const { return name_; }              // kOpen
   [[nodiscard]] std::string_view Attributes() const { return attributes_; }  // kOpen
   [[nodiscard]] bool SelfClosing() const { return self_closing_; }           // kOpen
   [[nodiscard]] std::string_view Text() const { return text_; }              // kText
@@ -61,8 +75,10 @@ class XmlScanner {
  private:
   enum class Step { kToken, kPassed, kMore };
 
+  void FindMarks();
+  [[nodiscard]] const char* PlaceOf(const Mark* mark) const { return base_ + mark->Place(); }
   Step Take();
-  Step TakeText(const char* start, const char* end);
+  Step TakeText(const char* tag);
   Step TakeTag(const char* start);
   Step TakeOpen(const char* start);
   Step TakeClose(const char* start);
@@ -70,11 +86,16 @@ class XmlScanner {
   Step TakeDocumentType(const char* start);
   Step PassTo(const char* start, std::size_t skip, std::string_view closing);
   Step TakeLiteral(const char* start);
+  Step Passed(const char* behind);
   Step Found(XmlToken token, const char* start, const char* behind);
   Step Failed(const char* start, std::string_view message);
   XmlToken AtEnd();
 
   InputWindow& window_;
+  MarkIndex index_;
+  const char* base_ = nullptr;  // what the marks were counted from
+  const Mark* mark_ = nullptr;  // the first that hasn't been passed
+  bool wants_text_ = false;
   XmlToken token_ = XmlToken::kEnd;
   std::string_view name_;
   std::string_view attributes_;
@@ -87,5 +108,21 @@ class XmlScanner {
   std::vector<std::string> open_;  // names of the open elements; longer than depth_
   std::string error_;
 };
+
+template <typename Unwanted>
+void XmlScanner::PassOver(Unwanted unwanted) {
+  const Mark* const first = mark_;
+  while (true) {
+    const char* const open = PlaceOf(mark_);
+    const char* const close = PlaceOf(mark_ + 1);
+    if (*open != '<' || !BeginsXmlName(open[1]) || *close != '>' || close[-1] != '/' ||
+        !mark_[0].QuotesPairUpTo(mark_[1]) ||
+        !unwanted(std::string_view(open + 1, static_cast<std::size_t>(close - open - 2)))) {
+      break;
+    }
+    mark_ += 2;
+  }
+  if (mark_ != first) window_.ConsumeTo(PlaceOf(mark_ - 1) + 1);
+}
 
 }  // namespace zarvo

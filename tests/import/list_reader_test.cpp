@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <random>
+
 #include "import/byte_block.h"
 #include "import/import_fixture.h"
-#include "import/tag_end.h"
+#include "import/mark_index.h"
 
 namespace zarvo {
 namespace {
@@ -125,6 +127,7 @@ TEST(ListReader, RefusesWhatIsNoList) {
       {"emulator ( name x )", "line 1: there is no game"},
       {"<html>", "line 1: <html> is no list of games"},
       {"<mame></mame>", "there is no machine in the list"},
+      {"<mame></mame>" + std::string(300000, '\n'), "line 300001: there is no machine in the list"},
       {"<mame>\n<machine/>\n</mame>", "line 2: a machine without a name"},
       {"<mame>\n<machine name='a'>\n</game>", "line 3: </game>, but <machine> is open"},
       {"<mame><machine name='a'/></mame>\n</mame>", "line 2: </mame>, but nothing is open"},
@@ -164,21 +167,84 @@ TEST(ListReader, TakesLongTextsAsFarAsALineHolds) {
   EXPECT_EQ(longer.Left(LeftOut::kLongLine), 1);
 }
 
-// The fast search for the end of a tag against the slow one, at every place within a block.
-TEST(TagEnd, BlocksAndSingleCharactersAgree) {
-  const std::string_view tails[] = {R"(a="1">x)", R"(a=">" b='"'>x)", R"(a=">>"b="">>)", "'>'>",
-                                    ">",          R"("<">)",          R"(a="1)",         "",
-                                    R"("""">)"};
-  for (const std::string_view tail : tails) {
-    for (std::size_t shift = 0; shift < 40; ++shift) {
-      std::string text = std::string(shift, ' ') + std::string(tail);
-      const std::size_t size = text.size();
-      text.append(64, '\0');
-      const char* const slow = FindTagEndSlowly(text.data(), text.data() + size);
-      EXPECT_EQ(FindTagEnd<Block>(text.data(), text.data() + size), slow) << tail << shift;
-      EXPECT_EQ(FindTagEnd<PlainBlock>(text.data(), text.data() + size), slow) << tail << shift;
+std::vector<Mark> Marks(FindMarks find, const std::string& text) {
+  const std::string padded = text + std::string(64, '\0');
+  std::vector<Mark> marks(text.size() + 16);
+  marks.resize(static_cast<std::size_t>(
+      find(std::string_view(padded).substr(0, text.size()), marks.data()) - marks.data()));
+  return marks;
+}
+
+TEST(MarkIndex, KnowsPlacesAndPairsInEveryWay) {
+  const std::string gap(100, '%');  // more than a block
+  const std::string text = "<a b=\">" + gap + "\" c='" + gap + "'>\"<";
+  const std::size_t places[] = {0, 6, 111, 212, 213, 215};
+  for (const FindMarks find : WaysToFindMarks()) {
+    for (std::size_t shift = 0; shift < 70; ++shift) {
+      const std::vector<Mark> marks = Marks(find, std::string(shift, '=') + text);
+      ASSERT_EQ(marks.size(), std::size(places));
+      for (std::size_t i = 0; i < marks.size(); ++i) {
+        EXPECT_EQ(marks[i].Place(), shift + places[i]) << shift;
+        EXPECT_EQ(marks[0].QuotesPairUpTo(marks[i]), i != 1 && i != 5) << shift << " " << i;
+      }
     }
   }
+}
+
+TEST(MarkIndex, WaysAgreeOnAnyBytes) {
+  std::mt19937 random(1);
+  for (std::size_t size = 0; size < 300; ++size) {
+    std::string text(size, '\0');
+    const bool dense = size % 2 == 0;  // else few marks, as in a list
+    for (char& c : text) c = dense ? "<>\"'"[random() % 4] : static_cast<char>(random() % 64);
+    const std::vector<Mark> plain = Marks(WaysToFindMarks().back(), text);
+    for (const FindMarks find : WaysToFindMarks()) EXPECT_EQ(Marks(find, text), plain) << size;
+  }
+}
+
+// A tag ends at the first ">" outside of quotation marks, wherever it stands in its block.
+TEST(ListReader, FindsTheEndOfATag) {
+  const std::string_view tags[] = {R"(<rom a=">" b='"'/>)",  R"(<rom a="it's"/>)",
+                                   "<rom a='>'/>",           R"(<rom a="" b=">>"/>)",
+                                   R"(<rom a='"' b="'>"/>)", "<rom/>",
+                                   R"(<rom>"'></rom>)"};
+  for (const std::string_view tag : tags) {
+    for (std::size_t shift = 0; shift < 70; ++shift) {
+      const std::string list = "<mame><machine name='a'>" + std::string(shift, ' ') +
+                               std::string(tag) + "<year>1980</year></machine></mame>";
+      const Imported imported = ImportText(list);
+      ASSERT_EQ(imported.error, "") << tag << shift;
+      EXPECT_THAT(imported.games[0], HasSubstr(";1980;")) << tag << shift;
+    }
+  }
+}
+
+// Roms, devices and switches are passed over, but their tags have to be whole all the same.
+TEST(ListReader, ChecksWhatItPassesOver) {
+  const std::string before = "<mame><machine name='a'>\n<rom name=\"x\"/><rom name=\"y\"/>\n";
+  EXPECT_EQ(ImportText(before + "</machine></mame>").error, "");
+  EXPECT_EQ(ImportText(before + "<a>b<!--'<'--><![CDATA[<]]>c</a></machine></mame>").error, "");
+  for (const std::string_view parent : {"", "<dipswitch name=\"x\">"}) {
+    const std::string list = before + std::string(parent);
+    EXPECT_THAT(ImportText(list + "<rom name=\"x/>\n<rom name=\"y\"/>").error,
+                StartsWith("line 3: \"<\" within the tag <rom>"));
+    EXPECT_THAT(ImportText(list + "<rom name=\"x\">\n</machine>").error,
+                StartsWith("line 4: </machine>, but <rom> is open"));
+    EXPECT_THAT(ImportText(list + "<rom name=\"x\"/").error, StartsWith("line 3: the list ends"));
+  }
+}
+
+TEST(ListReader, SeesACabinetThatCanBeATable) {
+  const auto cocktail = [](std::string_view value) {
+    const Imported imported = ImportText("<mame><machine name='a'><dipswitch name=\"Cabinet\">" +
+                                         std::string(value) + "</dipswitch></machine></mame>");
+    EXPECT_EQ(imported.error, "");
+    return imported.games.at(0).find(";n/a;Yes;n/a;") != std::string::npos;
+  };
+  EXPECT_TRUE(cocktail("<dipvalue name=\"Upright\"/> <dipvalue name=\"Cocktail\" value=\"1\"/>"));
+  EXPECT_TRUE(cocktail("<a_setting_of_a_configuration name=\"Cocktail\"/>"));
+  EXPECT_TRUE(cocktail("<dipvalue name=\"Cocktail\"></dipvalue>"));
+  EXPECT_FALSE(cocktail("<dipvalue name=\"Cockpit\"/><dipvalue value=\"1\"/><a/>"));
 }
 
 TEST(InputWindow, CountsLinesInPiecesOfAnySize) {
