@@ -7,6 +7,8 @@
 #include <future>
 #include <iostream>
 #include <memory>
+#include <set>
+#include <string>
 
 #include "catalogue/data_file.h"
 #include "layouts/layout_window.h"
@@ -102,13 +104,20 @@ class Program {
     layouts_->ShowModeless();
   }
 
+  // Asked once per emulator: some have more words than DOS takes in their plain defaults.
+  bool MayCutOff(const RunPlan& plan) {
+    const std::string emulator = files_.CurrentFolder();
+    if (plan.lost_characters == 0 || cut_off_.contains(emulator)) return true;
+    if (!boxes_.Ask(app_.Title(), LostOptions(plan))) return false;
+    cut_off_.insert(emulator);
+    return true;
+  }
+
   // Runs the batch file of a launch; an error is what the player should know of the run.
   Status RunAndWait() {
     const auto plan = PlanRun(files_, kBatchFile, ThisHost());
     if (!plan.ok()) return plan.error();
-    if (plan->lost_characters > 0 && !boxes_.Ask(app_.Title(), LostOptions(*plan))) {
-      return Success();
-    }
+    if (!MayCutOff(*plan)) return Success();
     QElapsedTimer clock;
     clock.start();
     WaitingRunner runner;
@@ -124,6 +133,8 @@ class Program {
   MainWindow main_;
   Sections sections_;
   std::unique_ptr<Window> layouts_;
+  std::set<std::string>
+      cut_off_;  // folders of the emulators that may start without their last words
 };
 
 int Run(int argc, char** argv) {

@@ -122,6 +122,10 @@ Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulato
   if (outcome.written) {
     outcome.written = files.ReplaceFile(profile.scan_file, ScanTemporary(profile), text);
   }
+  if (!outcome.written) {
+    outcome.written =
+        Error{std::string(profile.scan_file) + ": " + outcome.written.error().message};
+  }
   EnterRomFolder(files, app, rom_folder);
   return outcome;
 }

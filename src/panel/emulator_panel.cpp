@@ -176,7 +176,7 @@ void EmulatorPanel::OnSelected(const ListBox* list) {
   ++cycles_;
   const std::string name = list->Text();
   if (picSnap->imgSnap->Visible()) {
-    ShowSnapshotOf(name);
+    ShowSnapshotOf(name, list);
   } else if (picSettings->Visible()) {
     SelectOnSettingsPage(name);
   } else if (picInfo->Visible()) {
@@ -196,12 +196,12 @@ void EmulatorPanel::SelectOnSettingsPage(const std::string& name) {
   if (!MoveCaption(name)) LoadGame(name);
 }
 
-void EmulatorPanel::ShowSnapshotOf(const std::string& name) {
+void EmulatorPanel::ShowSnapshotOf(const std::string& name, const ListBox* list) {
   picSnap->HideLabels();
   const int cycles = cycles_;
   FindRom(name);
   // An unknown favourite has gone, and its neighbour stands on the page by now.
-  if (cycles != cycles_) return;
+  if (cycles != cycles_ && list == favourites->lstPref) return;
   const bool moved = MoveCaption(name);
   if (!ShowPictureOfRom() && !moved) LoadGame(name);
 }

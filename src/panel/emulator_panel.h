@@ -123,7 +123,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   std::string FirstGame();
   void OnSelected(const ListBox* list);
   void SelectOnSettingsPage(const std::string& name);
-  void ShowSnapshotOf(const std::string& name);
+  void ShowSnapshotOf(const std::string& name, const ListBox* list);
   bool ShowPictureOfRom();
   void ShowInfo();
   void ShowGameList();

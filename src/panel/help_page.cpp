@@ -76,6 +76,7 @@ int HelpPage::BuildList(const EmulatorProfile& profile) {
   lstHelp = new ListBox(this);
   lstHelp->SetName(ControlName(profile, "lstHelp"));
   lstHelp->SetAccessibleName("Game details");
+  lstHelp->SetTextSize(layout.text_size);
   lstHelp->SetPlace({kMargin, 240, kPageWidth - 2 * kMargin, layout.list_height});
   return 240 + layout.list_height + 45;
 }

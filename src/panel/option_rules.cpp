@@ -54,8 +54,13 @@ void RecordingRules::OnPlayback() {
 }
 
 void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title) {
+  // What comes without a key, by an input method or the mouse, isn't refused but put back.
+  box->setAttribute(Qt::WA_InputMethodEnabled, false);
   box->Change.Connect([box] {
-    if (box->Text().empty()) box->SetText("0");
+    const std::string text = box->Text();
+    if (text.empty() || text.find_first_not_of("0123456789-") != std::string::npos) {
+      box->SetText("0");
+    }
   });
   box->KeyDown.Connect([box, &tools, title = std::move(title)](const KeyArgs& key) {
     if (IsNumberKey(key.code) || key.code == key::kTab) return;

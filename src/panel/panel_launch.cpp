@@ -124,6 +124,7 @@ void EmulatorPanel::Scan() {
   }
   tools_.boxes.Inform(tools_.app.Title(),
                       std::to_string(scan->found) + " Roms found in:\r" + folder);
+  Report(tools_, scan->written);
 }
 
 bool EmulatorPanel::CanKeepFolder(std::string_view folder) {

@@ -100,9 +100,14 @@ OptionValues SettingsPage::Values() const {
 
 void SettingsPage::Apply(const OptionValues& values) {
   txtRomPath->SetText(values.rom_folder);
-  for (std::size_t i = 0; i < options_.size(); ++i) {
-    const OptionValue& value = values.values[i];
-    if (options_[i].declared->stored || value.number == 0) options_[i].Set(value);
+  // What isn't stored can only be turned off. That comes first: while it is on, it may exclude what
+  // the record turns on.
+  for (const bool stored : {false, true}) {
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+      const OptionValue& value = values.values[i];
+      if (options_[i].declared->stored != stored) continue;
+      if (stored || value.number == 0) options_[i].Set(value);
+    }
   }
 }
 

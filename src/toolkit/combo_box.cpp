@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/drawing.h"
 
@@ -20,7 +21,13 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), Control(this) {
   setMaxVisibleItems(20);
   // The wheel over a box that hasn't the focus mustn't give it the focus and then turn it.
   setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(this, &QComboBox::currentIndexChanged, this, [this] { Click.Raise(); });
+  QObject::connect(this, &QComboBox::currentIndexChanged, this, [this] {
+    before_popup_ = kNone;
+    Click.Raise();
+  });
+  QObject::connect(this, &QComboBox::activated, this, [this](int index) {
+    if (std::exchange(before_popup_, kNone) == index) Click.Raise();
+  });
 }
 
 bool ComboBox::SetListIndex(int index) {
@@ -74,6 +81,7 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
 }
 
 void ComboBox::showPopup() {
+  before_popup_ = currentIndex();
   const int scroll_bar = 24;
   view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + scroll_bar));
   QComboBox::showPopup();

@@ -11,7 +11,8 @@
 namespace zarvo {
 
 // A new selection raises Click inside the statement that sets it; a choice by the player raises it
-// too. The wheel turns the choice only while the box has the focus.
+// too, also the choice of what is selected already. The wheel turns the choice only while the box
+// has the focus.
 class ComboBox : public QComboBox, public Control {
  public:
   explicit ComboBox(QWidget* parent);
@@ -38,6 +39,9 @@ class ComboBox : public QComboBox, public Control {
   void showPopup() override;
 
  private:
+  static constexpr int kNone = -2;
+
+  int before_popup_ = kNone;  // the selection when the list dropped down, until that changes
   Colour back_colour_ = kSilver;
   Colour fore_colour_ = kBlack;
 };

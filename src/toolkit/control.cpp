@@ -50,6 +50,12 @@ MouseArgs MouseArgsOf(const QMouseEvent& event) {
   return args;
 }
 
+void ShowTip(const QPoint& place, std::string_view text, QWidget* widget) {
+  // Escaped, since the toolkit would take some texts for marked-up ones.
+  const QString shown = ToQt(TrimBlanks(text)).toHtmlEscaped();
+  QToolTip::showText(place, QStringLiteral("<p>%1</p>").arg(shown), widget);
+}
+
 class Control::Watcher : public QObject {
  public:
   Watcher(Control& control, Watch watch) : control_(control), watch_(watch) {}
@@ -87,11 +93,9 @@ class Control::Watcher : public QObject {
     control_.KeyDown.Raise({.code = KeyCodeOf(event), .shift = ShiftStateOf(event)});
   }
 
-  // Escaped, since the toolkit would take some texts for marked-up ones.
   bool ShowToolTip(const QPoint& place) {
     if (control_.tool_tip_.empty()) return false;
-    const QString text = ToQt(TrimBlanks(control_.tool_tip_)).toHtmlEscaped();
-    QToolTip::showText(place, QStringLiteral("<p>%1</p>").arg(text), control_.widget_);
+    ShowTip(place, control_.tool_tip_, control_.widget_);
     return true;
   }
 

@@ -25,6 +25,10 @@ struct KeyArgs {
   int shift = 0;  // shift state
 };
 
+// Shows `text` without blanks at its ends, to the letter, as a tool tip of `widget` at a place on
+// the screen.
+void ShowTip(const QPoint& place, std::string_view text, QWidget* widget);
+
 // The part that every control class adds to its widget. It watches the widget's events and raises
 // them under the names that the windows' logic uses. Text is Windows-1252.
 class Control {

@@ -3,9 +3,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -19,7 +21,9 @@
 namespace zarvo {
 namespace {
 
-constexpr int kRowHeight = 15;          // pixels
+constexpr int kRowHeight = 15;  // pixels
+constexpr int kTextLeft = 4;    // pixels between the text and the sides of its entry
+constexpr int kTextRight = 3;
 constexpr quint64 kTypingPause = 1000;  // milliseconds after which typing starts a new word
 
 constexpr Colour kRow{0x33190F};
@@ -214,6 +218,30 @@ void ListBox::paintEvent(QPaintEvent* /*event*/) {
   if (hasFocus()) DrawFocus(painter, viewport()->rect());
 }
 
+void ListBox::SetTextSize(int pixels) {
+  QFont changed = font();
+  changed.setPixelSize(pixels);
+  setFont(changed);
+}
+
+bool ListBox::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && ToolTipText().empty()) {
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    if (!ShowWholeText(EntryAt(help.pos()), help.globalPos())) QToolTip::hideText();
+    return true;
+  }
+  return QAbstractScrollArea::viewportEvent(event);
+}
+
+bool ListBox::ShowWholeText(int index, const QPoint& place) {
+  if (index < 0) return false;
+  const std::string_view text = items_.At(index);
+  const int room = EntryRect(index).width() - kTextLeft - kTextRight;
+  if (fontMetrics().horizontalAdvance(ToQt(text)) <= room) return false;
+  ShowTip(place, text, viewport());
+  return true;
+}
+
 void ListBox::PaintEntry(QPainter& painter, int index, const QRect& rect) {
   const bool selected = index == index_;
   const QColor back = selected    ? (hasFocus() ? kSlate : Colour{0x7A5248}).ToQt()
@@ -221,7 +249,8 @@ void ListBox::PaintEntry(QPainter& painter, int index, const QRect& rect) {
                                   : kRow.ToQt();
   painter.fillRect(rect, back);
   painter.setPen(!isEnabled() ? Faded(kText.ToQt()) : selected ? QColor(Qt::white) : kText.ToQt());
-  DrawCaption(painter, rect.adjusted(4, 0, -3, 0), ToQt(items_.At(index)), TextAlign::kLeft, false);
+  DrawCaption(painter, rect.adjusted(kTextLeft, 0, -kTextRight, 0), ToQt(items_.At(index)),
+              TextAlign::kLeft, false);
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
@@ -287,6 +316,8 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     CancelDrag(this);
   } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
     MenuKey.Raise(viewport()->mapToGlobal(EntryRect(std::max(index_, 0)).bottomLeft()));
+  } else if (event->key() == Qt::Key_F1) {
+    ShowWholeText(index_, viewport()->mapToGlobal(EntryRect(index_).bottomLeft()));
   } else if (MoveByKey(event->key())) {
     event->accept();
   } else if (IsTyping(*event)) {

@@ -44,6 +44,8 @@ class ListBox : public QAbstractScrollArea, public Control {
 
   [[nodiscard]] int Columns() const;
   void SetColumns(int columns);
+  // Height of the text in pixels; 11 unless set.
+  void SetTextSize(int pixels);
 
   Event<> Click;
   Event<> DblClick;
@@ -64,6 +66,7 @@ class ListBox : public QAbstractScrollArea, public Control {
   [[nodiscard]] int EntryAt(QPoint point) const;
 
  protected:
+  bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -87,6 +90,8 @@ class ListBox : public QAbstractScrollArea, public Control {
   [[nodiscard]] int StepSideways(int columns) const;
   [[nodiscard]] int RowsPerPage() const;
   [[nodiscard]] int ColumnWidth() const;
+  // The whole text of an entry that doesn't fit; false if it does, or there is none.
+  bool ShowWholeText(int index, const QPoint& place);
   void PaintEntry(QPainter& painter, int index, const QRect& rect);
 
   NameList items_;

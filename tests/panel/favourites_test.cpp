@@ -156,14 +156,14 @@ TEST_F(FavouritesTest, UnknownNamesGoWhenTheyAreSelected) {
 }
 
 // Nothing is selected among the favourites: the failure selects their first entry.
-TEST_F(FavouritesTest, AnUnknownGameOfTheBigListSelectsTheFirstFavourite) {
+TEST_F(FavouritesTest, AnUnknownGameOfTheBigListSelectsTheFirstFavouriteAndKeepsTheCaption) {
   EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
   panel.favourites->SetEntries({"Puck Man"});
   PutData("Mame", DataHead("1") + Game("Puck Man;puckman;O;-;Labyrinth;Namco;1980"));
   PressEntry(panel.games->lstRom, 4);
   EXPECT_EQ(TakeBoxes().size(), 1U);
   EXPECT_EQ(panel.favourites->lstPref->ListIndex(), 0);
-  EXPECT_EQ(Caption(panel), "Puck Man");
+  EXPECT_EQ(Caption(panel), "Zaxxon");
   EXPECT_EQ(panel.favourites->lstPref->ListCount(), 1);
 }
 

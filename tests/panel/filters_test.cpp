@@ -1,6 +1,8 @@
 // The filters of a game list, its counters, the scan and the popup of the lists.
+#include <QAbstractItemView>
 #include <QMenu>
 
+#include "fakes/key_press.h"
 #include "panel/panel_fixture.h"
 
 namespace zarvo {
@@ -15,6 +17,12 @@ class FiltersTest : public PanelTest {
       "! No 'SCN' file found in </CFG> directory.|Please scan your rom directory from section "
       "<CONF>";
   static constexpr int kAvailable = 3;
+
+  static void ChooseFromPopup(ComboBox* combo, int index) {
+    static_cast<QComboBox*>(combo)->showPopup();
+    combo->view()->setCurrentIndex(combo->model()->index(index, 0));
+    PressKey(combo->view(), Qt::Key_Return);
+  }
 };
 
 TEST_F(FiltersTest, FiltersCombine) {
@@ -166,10 +174,13 @@ TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
     EXPECT_THAT(TakeBoxes(), ElementsAre(merged ? "i 3 Roms found in:|C:\\Emu\\Mame\\Roms"
                                                 : "i 2 Roms found in:|C:\\Emu\\Mame\\Roms"));
     EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 5 : 3) << "the list stays as it is";
-    panel.games->cboFilterMisc->SetListIndex(0);
-    panel.games->cboFilterMisc->SetListIndex(kAvailable);
-    EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 3 : 2);
+    ChooseFromPopup(panel.games->cboFilterMisc, kAvailable);
+    EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 3 : 2) << "also if it's chosen anew";
   }
+  files_.Fail(FileStep::kReplace, "Mame.scn");
+  Press(panel.picConf->lblScanNow);
+  EXPECT_THAT(TakeBoxes(), ElementsAre("i 2 Roms found in:|C:\\Emu\\Mame\\Roms",
+                                       "! Mame.scn: No space left on device"));
 }
 
 // The four captions of the popup, without showing it to anybody.

@@ -87,6 +87,18 @@ TEST_F(OptionRulesTest, PlaybackStaysFromGameToGameWithARecord) {
   EXPECT_EQ(Check(panel, "chkRecord")->ForeColor().value, 128U) << "a stored state shows itself";
 }
 
+TEST_F(OptionRulesTest, AGameThatRecordsByTheDefaultsEndsThePlayback) {
+  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  Press(panel.imgButSet);
+  Check(panel, "chkRecord")->SetValue(1);
+  panel.SaveSettings("[DEFAULT]");
+  Check(panel, "chkRecord")->SetValue(0);
+  TurnPlaybackOn(panel, true);
+  PressEntry(panel.games->lstRom, 3);
+  EXPECT_EQ(Check(panel, "chkRecord")->Value(), 1);
+  EXPECT_EQ(Check(panel, "chkPlayback")->Value(), 0);
+}
+
 TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
   struct Key {
     Qt::Key key;
@@ -127,6 +139,12 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
     EXPECT_EQ(box->Text(), "0") << "never empty";
     box->SetText("123456");
     EXPECT_EQ(box->Text(), is_row ? "1234" : "123456");
+    for (const char* pasted : {"1,2", "~", "\xE9"}) {
+      box->selectAll();
+      box->insert(ToQt(pasted));
+      EXPECT_EQ(box->Text(), "0") << pasted;
+    }
+    EXPECT_FALSE(box->testAttribute(Qt::WA_InputMethodEnabled));
   }
 }
 

@@ -277,6 +277,18 @@ TEST_F(ControlsTest, AToolTipIsShownLiterally) {
   };
   EXPECT_EQ(tip_of(&label), QStringLiteral("<p>&lt;b&gt;R&amp;D&lt;/b&gt; 50% of total</p>"));
   EXPECT_EQ(tip_of(list.viewport()), QStringLiteral("<p>&lt;unknown&gt;</p>"));
+  list.SetToolTipText("");
+  list.AddItem("What is too long for the list & is cut off at its right edge");
+  list.AddItem("short");
+  EXPECT_EQ(tip_of(list.viewport()), QStringLiteral("<p>What is too long for the list &amp; is cut "
+                                                    "off at its right edge</p>"));
+  list.SetListIndex(1);
+  PressKey(&label, Qt::Key_F1);
+  PressKey(&list, Qt::Key_F1);
+  EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("50% of total"))) << "nothing is cut off";
+  list.SetListIndex(0);
+  PressKey(&list, Qt::Key_F1);
+  EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("too long")));
   PressKey(&label, Qt::Key_F1);
   EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("50% of total")));
   QToolTip::hideText();
