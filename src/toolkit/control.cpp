@@ -51,9 +51,13 @@ MouseArgs MouseArgsOf(const QMouseEvent& event) {
 }
 
 void ShowTip(const QPoint& place, std::string_view text, QWidget* widget) {
+  constexpr std::size_t kLongestLine = 80;
   // Escaped, since the toolkit would take some texts for marked-up ones.
   const QString shown = ToQt(TrimBlanks(text)).toHtmlEscaped();
-  QToolTip::showText(place, QStringLiteral("<p>%1</p>").arg(shown), widget);
+  const QString paragraph = text.size() <= kLongestLine
+                                ? QStringLiteral("<p style=\"white-space:nowrap\">%1</p>")
+                                : QStringLiteral("<p>%1</p>");
+  QToolTip::showText(place, paragraph.arg(shown), widget);
 }
 
 class Control::Watcher : public QObject {
