@@ -20,7 +20,7 @@ std::unique_ptr<char[]> MakeBuffer(std::size_t capacity) {
 // `kWidth` bytes per step. Inlined to make use of what the processor of the calling function has.
 template <std::size_t kWidth>
 [[gnu::always_inline]] inline std::size_t CountInSteps(const char* bytes, std::size_t size) {
-  typedef unsigned char Bytes __attribute__((vector_size(kWidth)));
+  using Bytes [[gnu::vector_size(kWidth)]] = unsigned char;
   std::size_t count = 0;
   while (size >= kWidth) {
     // A byte of the sum holds at most 255.

@@ -19,8 +19,9 @@ constexpr std::string_view kCocktail = " name=\"Cocktail\"";
 // False only if it isn't the first attribute of `tag`, which 64 readable bytes follow.
 bool MayBeCocktail(std::string_view tag) {
   constexpr std::size_t kLetter = kCocktail.find('C');
-  const BlockMask blanks = Block(tag.data()).Blank();
-  return blanks == 0 || tag.data()[FirstBit(blanks) + kLetter] == kCocktail[kLetter];
+  const char* const bytes = tag.data();
+  const BlockMask blanks = Block(bytes).Blank();
+  return blanks == 0 || bytes[FirstBit(blanks) + kLetter] == kCocktail[kLetter];
 }
 
 class XmlListReader {
