@@ -133,8 +133,8 @@ class Program {
   MainWindow main_;
   Sections sections_;
   std::unique_ptr<Window> layouts_;
-  std::set<std::string>
-      cut_off_;  // folders of the emulators that may start without their last words
+  // Folders of the emulators that may start without their last words.
+  std::set<std::string> cut_off_;
 };
 
 int Run(int argc, char** argv) {
