@@ -150,16 +150,20 @@ class DrivenZarvo:
     def tab_to(self, window, spot):
         """Presses Tab until the frame of the focus stands round the spot."""
         x, y = (round(twips / TWIPS_PER_PIXEL * self.scale) for twips in spot)
+        def patiently(condition, what):
+            try:
+                wait_until(condition, what, 1.5)
+            except Overdue:
+                pass  # something without a frame has the focus
+
+        patiently(lambda: self.focus_frame(window), "the focus to be seen in a new window")
         for _ in range(80):
             before = self.focus_frame(window)
             if before and (before.x <= x < before.x + before.width
                            and before.y <= y < before.y + before.height):
                 return
             self.desktop.keys("Tab")
-            try:
-                wait_until(lambda: self.focus_frame(window) != before, "the focus to move", 1.5)
-            except Overdue:
-                pass  # something without a frame has it
+            patiently(lambda: self.focus_frame(window) != before, "the focus to move")
         raise Overdue(f"Tab never came to {spot} in {window.title!r}")
 
     def drag(self, window, start, points):
