@@ -15,14 +15,16 @@ const std::vector<LayoutRecord> kRecords = {
     {.word = "MAIN", .top = 1, .left = -2},
     {.word = "M72", .top = 3, .left = 4, .width = 2415, .height = 4620}};
 
-// All names but the changed one, with their records. A block that the file's end cuts off may gain
-// its last line when another block comes behind it.
+// Whether each layout but the changed one and the last has the records it had. The file's end may
+// cut off the last block, which then gains a line when another block comes behind it; a damaged
+// heading further up can bear the last one's name.
 bool SameOthers(LayoutStore& before, LayoutStore& after, std::string_view changed) {
   const auto names = before.Names();
-  for (std::size_t i = 0; names && i + 1 < names->size(); ++i) {
-    if ((*names)[i] == changed) continue;
-    const auto old_block = before.ReadBlock((*names)[i]);
-    const auto new_block = after.ReadBlock((*names)[i]);
+  if (!names) return true;
+  for (const std::string& name : *names) {
+    if (name == changed || name == names->back()) continue;
+    const auto old_block = before.ReadBlock(name);
+    const auto new_block = after.ReadBlock(name);
     if (old_block.ok() != new_block.ok()) return false;
     if (old_block && old_block->records != new_block->records) return false;
   }
