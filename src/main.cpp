@@ -89,10 +89,7 @@ class Program {
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); },
-            .dress_up =
-                [this] {
-                  if (!dressing_.valid()) dressing_ = DressUpAside();
-                }};
+            .load_font = [this](auto done) { font_ = LoadFont(std::move(done)); }};
   }
 
   LayoutTools ToolsForLayouts() {
@@ -126,7 +123,7 @@ class Program {
     return Judge(*outcome, clock.elapsed());
   }
 
-  std::future<void> dressing_;
+  std::future<void> font_;
   AppState app_;
   DosWorld files_;
   DesktopBoxes boxes_;
@@ -148,7 +145,6 @@ int Run(int argc, char** argv) {
       failure ? Result<DosWorld>(Error{"The current folder can't be read: " + failure.message()})
               : DosWorld::ForProgramFolder(folder);
   if (!files.ok()) {
-    const std::future<void> dressing = DressUpAside();
     DesktopBoxes().Warn(AppState().Title(), files.error().message);
     return EXIT_FAILURE;
   }

@@ -37,7 +37,6 @@ void MainWindow::StartUp() {
   lblVersion->SetCaption(app_.ProgramVersion);
   facts.front()->SetCaption(app_.Title());
   if (!HoldsFile(files_, JoinPath(app_.ProgramFolder, "Cfg"))) {
-    actions_.dress_up();
     boxes_.Inform(app_.Title(), WelcomeMessage());
   }
   Ignore(files_.MakeFolder("Cfg"));
@@ -49,9 +48,12 @@ void MainWindow::StartUp() {
 }
 
 void MainWindow::Appear() {
-  ShowFirst(actions_.dress_up);
-  // Not sooner: the first name that is given starts the line to the screen readers.
-  imgZarvo->SetAccessibleName("Zarvo");
+  ShowGround();
+  actions_.load_font([this] {
+    ShowControls();
+    // Not sooner: the first name that is given starts the line to the screen readers.
+    imgZarvo->SetAccessibleName("Zarvo");
+  });
 }
 
 void MainWindow::SetMainPlace(int top, int left) {

@@ -25,9 +25,8 @@ struct MainActions {
   std::function<void()> show_about;    // modal
   std::function<void()> autoload;      // applies the layout of the start, silent whatever fails
   std::function<void()> end_program;
-  // Sets what needn't hold up a window, such as the icon; before the first one or while the desktop
-  // looks for a place for it.
-  std::function<void()> dress_up = [] {};
+  // Makes ready for texts while the window stands already; then calls back.
+  std::function<void(std::function<void()> done)> load_font = [](const auto& done) { done(); };
 };
 
 // Reads the header lines of an emulator's data file, each without its first character, as far as

@@ -8,7 +8,9 @@
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
-#include <vector>
+#include <QTimer>
+#include <chrono>
+#include <utility>
 
 #include "toolkit/colour.h"
 #include "toolkit/control_access.h"
@@ -26,6 +28,7 @@ namespace {
 constexpr int kScrollBarWidth = 10;
 constexpr int kSmallestSlider = 16;
 constexpr int kBoxSign = 32;
+constexpr std::chrono::milliseconds kIconDelay{100};  // the first window is drawn before
 
 // The sign of a message box, large enough to be brought down at every scale factor.
 QIcon BoxSign(bool warning) {
@@ -169,17 +172,10 @@ QPalette CabinetPalette() {
 }
 
 // Drawn here, so that the desktop needs no plug-in for drawings.
-std::vector<QImage> DrawAppIcon(const Picture& drawing) {
-  std::vector<QImage> images;
-  for (const int size : {16, 32, 48, 128}) {
-    images.push_back(drawing.ToImage(QSize(size, size), 1));
-  }
-  return images;
-}
-
-void SetAppIcon(const std::vector<QImage>& images) {
+void SetAppIcon() {
+  const Picture drawing = Picture::FromResource("app_icon");
   QIcon icon;
-  for (const QImage& image : images) icon.addPixmap(QPixmap::fromImage(image));
+  for (const int size : {16, 32, 48, 128}) icon.addPixmap(drawing.ToPixmap(QSize(size, size), 1));
   QGuiApplication::setWindowIcon(icon);
 }
 
@@ -267,13 +263,13 @@ void DressUp(QApplication& /*application*/) {
   QApplication::setApplicationName(QStringLiteral("zarvo"));
   InstallListAccess();
   InstallControlAccess();
+  QTimer::singleShot(kIconDelay, qApp, SetAppIcon);
 }
 
-std::future<void> DressUpAside() {
-  return std::async(std::launch::async, [font = QApplication::font(),
-                                         drawing = Picture::FromResource("app_icon")] {
+std::future<void> LoadFont(std::function<void()> done) {
+  return std::async(std::launch::async, [font = QApplication::font(), done = std::move(done)] {
     QFontMetrics(font).boundingRect(u'M');
-    QMetaObject::invokeMethod(qApp, [images = DrawAppIcon(drawing)] { SetAppIcon(images); });
+    QMetaObject::invokeMethod(qApp, done);
   });
 }
 

@@ -1,6 +1,7 @@
 // The look of the program: one palette, one drawing style for all standard widgets.
 #pragma once
 
+#include <functional>
 #include <future>
 
 class QApplication;
@@ -11,12 +12,12 @@ namespace zarvo {
 // Wayland, whose windows can't be placed, unless the player chose a platform.
 void PrepareApplication();
 
-// Sets style, palette and font (11 px, metric-compatible with Arial).
+// Sets style, palette and font (11 px, metric-compatible with Arial), and a little later the icon.
 void DressUp(QApplication& application);
 
-// The rest, for when the first window is on its way to the screen: in a second thread, the font's
-// file is found and opened, and the icon of the application is drawn; it's set when that is done.
-// The thread has ended when the future is gone, which has to be before the application object goes.
-[[nodiscard]] std::future<void> DressUpAside();
+// Has the font's file found and opened in a second thread, while the first window is on its way to
+// the screen; then the event loop calls `done`. The thread has ended when the future is gone, which
+// has to be before the application object goes.
+[[nodiscard]] std::future<void> LoadFont(std::function<void()> done);
 
 }  // namespace zarvo

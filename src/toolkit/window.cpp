@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/child_wait.h"
 #include "toolkit/control.h"
@@ -138,17 +139,21 @@ void Window::ShowModeless() {
   activateWindow();
 }
 
-void Window::ShowFirst(const std::function<void()>& meanwhile) {
-  QWidgetList controls;
+void Window::ShowGround() {
+  focus_ = focusWidget();
   for (QWidget* const child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (child->isHidden()) continue;
     child->hide();
-    controls.push_back(child);
+    awaited_.push_back(child);
   }
   ShowModeless();
-  meanwhile();
   DrawGround();
-  for (QWidget* const control : controls) control->show();
+}
+
+void Window::ShowControls() {
+  for (QWidget* const control : std::exchange(awaited_, {})) control->show();
+  // A window that is activated without a visible control takes the focus itself.
+  if (focus_ != nullptr) std::exchange(focus_, nullptr)->setFocus();
 }
 
 // A window whose screen has gone would be out of reach.

@@ -41,10 +41,10 @@ class Window : public QWidget {
   void SetBackground(const Picture& picture);
 
   void ShowModeless();
-  // As ShowModeless, for the first window of the program: the controls become visible when the
-  // window was handed to the desktop, while that looks for a place for it. `meanwhile` is called
-  // before them.
-  void ShowFirst(const std::function<void()>& meanwhile);
+  // As ShowModeless, for the first window of the program, which is not to wait for its texts: only
+  // the ground is drawn until ShowControls.
+  void ShowGround();
+  void ShowControls();
   // Returns when the window has been unloaded. No other window takes input meanwhile.
   void ShowModal();
   // Raises Unload; unless a handler refuses, the window goes. Safe inside a handler of the window.
@@ -83,7 +83,9 @@ class Window : public QWidget {
   void CentreOver(const QWidget& owner);
   void DrawGround();
 
-  TwipRect place_;  // as set
+  TwipRect place_;            // as set
+  QWidgetList awaited_;       // the controls between ShowGround and ShowControls
+  QWidget* focus_ = nullptr;  // the one of them with the focus
   Picture background_;
   QPixmap ground_;  // the picture in the pixels of the screen
   bool unloaded_ = false;

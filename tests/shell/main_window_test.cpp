@@ -1,6 +1,8 @@
 // The main window with real panels: start, ticker, hover, sections, end.
 #include "shell/main_window.h"
 
+#include <QTest>
+
 #include "catalogue/data_file.h"
 #include "panel/panel_fixture.h"
 
@@ -46,6 +48,7 @@ class MainWindowTest : public testing::Test {
   RecordedBoxes boxes_;
   std::vector<std::string> told_;
   std::function<void()> on_autoload_ = [] {};
+  std::function<void()> font_is_loaded_;
   MainWindow main_{
       drive_.files(),
       app_,
@@ -55,7 +58,8 @@ class MainWindowTest : public testing::Test {
        .show_layouts = [this] { told_.emplace_back("layouts"); },
        .show_about = [this] { told_.emplace_back("about"); },
        .autoload = [this] { on_autoload_(); },
-       .end_program = [this] { told_.emplace_back("end"); }}};
+       .end_program = [this] { told_.emplace_back("end"); },
+       .load_font = [this](auto done) { font_is_loaded_ = std::move(done); }}};
   Sections sections_{drive_.files(),
                      app_,
                      boxes_,
@@ -111,12 +115,17 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
   boxes_.shown.clear();
 }
 
-TEST_F(MainWindowTest, AppearsWithAllItsControls) {
+TEST_F(MainWindowTest, AppearsWithAllItsControlsOnceTextsCanBeDrawn) {
+  const auto controls = main_.findChildren<QWidget*>();
   main_.Appear();
-  for (const QWidget* const control : main_.findChildren<QWidget*>()) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main_));
+  for (const QWidget* const control : controls) EXPECT_FALSE(control->isVisible());
+
+  font_is_loaded_();
+  for (const QWidget* const control : controls) {
     EXPECT_TRUE(control->isVisible()) << control->objectName().toStdString();
   }
-  EXPECT_EQ(main_.focusWidget(), main_.selector.front());
+  EXPECT_TRUE(main_.selector.front()->hasFocus());
 }
 
 TEST_F(MainWindowTest, TheTickerTurnsInARing) {
