@@ -50,7 +50,7 @@ void MainWindow::StartUp() {
 void MainWindow::Appear() {
   ShowGround();
   actions_.load_font([this] {
-    ShowControls();
+    DrawControls();
     // Not sooner: the first name that is given starts the line to the screen readers.
     imgZarvo->SetAccessibleName("Zarvo");
   });

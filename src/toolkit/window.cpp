@@ -140,20 +140,24 @@ void Window::ShowModeless() {
 }
 
 void Window::ShowGround() {
-  focus_ = focusWidget();
   for (QWidget* const child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (child->isHidden()) continue;
     child->hide();
-    awaited_.push_back(child);
+    child->installEventFilter(this);
+    undrawn_.push_back(child);
   }
   ShowModeless();
   DrawGround();
+  for (QWidget* const control : undrawn_) control->show();
 }
 
-void Window::ShowControls() {
-  for (QWidget* const control : std::exchange(awaited_, {})) control->show();
-  // A window that is activated without a visible control takes the focus itself.
-  if (focus_ != nullptr) std::exchange(focus_, nullptr)->setFocus();
+void Window::DrawControls() {
+  for (QWidget* const control : std::exchange(undrawn_, {})) control->removeEventFilter(this);
+  update();
+}
+
+bool Window::eventFilter(QObject* /*control*/, QEvent* event) {
+  return event->type() == QEvent::Paint;
 }
 
 // A window whose screen has gone would be out of reach.

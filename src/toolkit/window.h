@@ -41,10 +41,10 @@ class Window : public QWidget {
   void SetBackground(const Picture& picture);
 
   void ShowModeless();
-  // As ShowModeless, for the first window of the program, which is not to wait for its texts: only
-  // the ground is drawn until ShowControls.
+  // As ShowModeless, for the first window of the program, which doesn't wait for its texts: the
+  // controls work, but only the ground is drawn until DrawControls.
   void ShowGround();
-  void ShowControls();
+  void DrawControls();
   // Returns when the window has been unloaded. No other window takes input meanwhile.
   void ShowModal();
   // Raises Unload; unless a handler refuses, the window goes. Safe inside a handler of the window.
@@ -75,6 +75,7 @@ class Window : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* control, QEvent* event) override;
 
  private:
   void ApplyPlace();
@@ -83,11 +84,10 @@ class Window : public QWidget {
   void CentreOver(const QWidget& owner);
   void DrawGround();
 
-  TwipRect place_;            // as set
-  QWidgetList awaited_;       // the controls between ShowGround and ShowControls
-  QWidget* focus_ = nullptr;  // the one of them with the focus
+  TwipRect place_;  // as set
   Picture background_;
-  QPixmap ground_;  // the picture in the pixels of the screen
+  QPixmap ground_;       // the picture in the pixels of the screen
+  QWidgetList undrawn_;  // the controls between ShowGround and DrawControls
   bool unloaded_ = false;
   bool unloading_ = false;
   QEventLoop* loop_ = nullptr;  // of ShowModal
