@@ -50,11 +50,7 @@ void CheckBox::SetForeColor(Colour colour) {
   update();
 }
 
-void CheckBox::SetBold(bool bold) {
-  QFont changed = font();
-  changed.setBold(bold);
-  setFont(changed);
-}
+void CheckBox::SetBold(bool bold) { setFont(InBold(font(), bold)); }
 
 bool CheckBox::hitButton(const QPoint& point) const { return rect().contains(point); }
 

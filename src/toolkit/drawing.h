@@ -1,7 +1,8 @@
-// Strokes that the controls share, all in vectors so that they are crisp at every scale factor.
+// Strokes and fonts that the controls share; strokes are vectors, crisp at every scale factor.
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPainter>
 #include <QRect>
 #include <QString>
@@ -36,5 +37,10 @@ void DrawSunkenEdge(QPainter& painter, const QRect& rect);
 // Text in the middle of the height, elided where it doesn't fit. With `wrap`, over several lines.
 void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
                  bool wrap);
+
+// The font with one thing changed.
+QFont InBold(QFont font, bool bold);
+QFont InSize(QFont font, int pixels);
+QFont Underlined(QFont font, bool underline);
 
 }  // namespace zarvo

@@ -29,8 +29,7 @@ void Frame::SetCaption(std::string_view caption) {
 
 void Frame::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  QFont bold = font();
-  bold.setBold(true);
+  const QFont bold = InBold(font(), true);
   painter.setFont(bold);
   const QFontMetrics metrics(bold);
   const QString text = ToQt(caption_).trimmed();

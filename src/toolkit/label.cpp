@@ -41,28 +41,16 @@ void Label::SetAlign(TextAlign align) {
   update();
 }
 
-void Label::SetBold(bool bold) {
-  QFont changed = font();
-  changed.setBold(bold);
-  setFont(changed);
-}
+void Label::SetBold(bool bold) { setFont(InBold(font(), bold)); }
 
-void Label::SetUnderline(bool underline) {
-  QFont changed = font();
-  changed.setUnderline(underline);
-  setFont(changed);
-}
+void Label::SetUnderline(bool underline) { setFont(Underlined(font(), underline)); }
 
 void Label::SetWordWrap(bool wrap) {
   word_wrap_ = wrap;
   update();
 }
 
-void Label::SetTextSize(int pixels) {
-  QFont changed = font();
-  changed.setPixelSize(pixels);
-  setFont(changed);
-}
+void Label::SetTextSize(int pixels) { setFont(InSize(font(), pixels)); }
 
 void Label::SetRaised(bool raised) {
   raised_ = raised;

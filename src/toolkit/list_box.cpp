@@ -218,11 +218,7 @@ void ListBox::paintEvent(QPaintEvent* /*event*/) {
   if (hasFocus()) DrawFocus(painter, viewport()->rect());
 }
 
-void ListBox::SetTextSize(int pixels) {
-  QFont changed = font();
-  changed.setPixelSize(pixels);
-  setFont(changed);
-}
+void ListBox::SetTextSize(int pixels) { setFont(InSize(font(), pixels)); }
 
 bool ListBox::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::ToolTip && ToolTipText().empty()) {

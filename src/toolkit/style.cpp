@@ -242,6 +242,21 @@ void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, Text
   painter.drawText(rect, across | Qt::AlignVCenter | Qt::TextSingleLine, shown);
 }
 
+QFont InBold(QFont font, bool bold) {
+  font.setBold(bold);
+  return font;
+}
+
+QFont InSize(QFont font, int pixels) {
+  font.setPixelSize(pixels);
+  return font;
+}
+
+QFont Underlined(QFont font, bool underline) {
+  font.setUnderline(underline);
+  return font;
+}
+
 void PrepareApplication() {
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
