@@ -6,7 +6,6 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "fakes/failing_files.h"
@@ -17,6 +16,7 @@
 #include "layouts/layout_manager.h"
 #include "layouts/layout_window.h"
 #include "layouts/recording_sections.h"
+#include "shell/looks.h"
 
 namespace zarvo {
 
@@ -30,27 +30,16 @@ inline std::string Ini(int on_top, int autoload, const std::string& name) {
          "\r\n";
 }
 
-inline std::vector<std::string> ItemsOf(const ComboBox& combo) {
-  std::vector<std::string> items;
-  items.reserve(static_cast<std::size_t>(combo.ListCount()));
-  for (int i = 0; i < combo.ListCount(); ++i) items.push_back(combo.List(i));
-  return items;
-}
-
-inline std::vector<std::string> ItemsOf(const ListBox& list) {
-  std::vector<std::string> items;
-  items.reserve(static_cast<std::size_t>(list.ListCount()));
-  for (int i = 0; i < list.ListCount(); ++i) items.emplace_back(list.Items().At(i));
-  return items;
-}
-
 class LayoutWindowTest : public testing::Test {
  protected:
   LayoutWindowTest() { app_.ProgramFolder = R"(C:\Zarvo)"; }
+  void TearDown() override { EXPECT_THAT(Take(boxes_), testing::IsEmpty()); }
 
-  void GivenFiles(std::string_view layouts, std::string_view ini) {
+  // The manager over these files, on the screen.
+  LayoutManager& Open(std::string_view layouts, std::string_view ini) {
     drive_.Write(R"(C:\Zarvo\layouts.dat)", layouts);
     drive_.Write(R"(C:\Zarvo\zarvo.ini)", ini);
+    return Open();
   }
   LayoutManager& Open() {
     window_ = MakeLayoutWindow(tools_);
@@ -58,6 +47,18 @@ class LayoutWindowTest : public testing::Test {
     return dynamic_cast<LayoutManager&>(*window_);
   }
   [[nodiscard]] std::string Layouts() const { return drive_.Read(R"(C:\Zarvo\layouts.dat)"); }
+
+  // What the window shows: the switches that are on, "default" if that can be chosen, the layouts,
+  // the chosen one, the default one, the panels of the chosen one, their sizes.
+  static std::string Look(const LayoutManager& manager) {
+    EXPECT_EQ(Entries(manager.cboListaLayout2), Entries(manager.cboListaLayout));
+    return std::string(manager.chkAlwaysOnTop->Value() == 1 ? "top " : "") +
+           (manager.chkEnableAutoload->Value() == 1 ? "autoload " : "") +
+           (manager.cboListaLayout2->Enabled() ? "default " : "") +
+           Entries(manager.cboListaLayout) + "; " + manager.cboListaLayout->Text() + "; " +
+           manager.cboListaLayout2->Text() + "; " + Entries(manager.lstEmulatori) + "; " +
+           Entries(manager.lstEmulatoriSize);
+  }
 
   // Types a name into the dialog that `button` opens and presses Enter.
   static void Name(PushButton* button, std::string_view name) {
@@ -67,18 +68,6 @@ class LayoutWindowTest : public testing::Test {
     });
     button->click();
   }
-
-  // The texts of the warnings shown since the last look.
-  std::vector<std::string> Warnings() {
-    std::vector<std::string> texts;
-    for (const RecordedBoxes::Shown& box : std::exchange(boxes_.shown, {})) {
-      EXPECT_EQ(box.icon, BoxIcon::kExclamation);
-      EXPECT_EQ(box.title, "Zarvo v0.1");
-      texts.push_back(box.text);
-    }
-    return texts;
-  }
-  void TearDown() override { EXPECT_THAT(Warnings(), testing::IsEmpty()); }
 
   TempDrive drive_;
   FailingFiles files_{drive_.files()};

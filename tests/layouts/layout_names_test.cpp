@@ -7,7 +7,6 @@ namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 using LayoutNamesTest = LayoutWindowTest;
 
@@ -18,22 +17,22 @@ TEST_F(LayoutNamesTest, WithoutALayoutOnlyAddDoesAnything) {
     button->click();
   }
   EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\layouts.dat)"));
-  EXPECT_THAT(sections_.told, IsEmpty());
+  EXPECT_THAT(sections_.told, testing::IsEmpty());
   Name(manager.cmdAdd, "First");
   EXPECT_EQ(Layouts(), "[First]\r\n-\r\n");
-  EXPECT_EQ(manager.cboListaLayout->Text(), "First");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "First");
+  EXPECT_EQ(Look(manager), "First; First; First; ; ");
 }
 
 TEST_F(LayoutNamesTest, TheDialogAsksForANameByMode) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, ""));
+  const auto look = [](const NameDialog& dialog) {
+    return dialog.Caption() + ": " + dialog.txtRinomina->Text() +
+           (dialog.cmdAdd->Visible() ? " (Add)" : "") +
+           (dialog.cmdRename->Visible() ? " (Rename)" : "");
+  };
   {
-    const ModalPlay<NameDialog> play([](NameDialog& dialog) {
-      EXPECT_EQ(dialog.Caption(), "Add a new layout");
-      EXPECT_EQ(dialog.txtRinomina->Text(), "New Layout");
-      EXPECT_TRUE(dialog.cmdAdd->Visible());
-      EXPECT_FALSE(dialog.cmdRename->Visible());
+    const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
+      EXPECT_EQ(look(dialog), "Add a new layout: New Layout (Add)");
       dialog.txtRinomina->SetText("");
       EXPECT_FALSE(dialog.cmdAdd->Enabled());
       PressKey(dialog.txtRinomina, Qt::Key_Return);
@@ -44,11 +43,8 @@ TEST_F(LayoutNamesTest, TheDialogAsksForANameByMode) {
     });
     manager.cmdAdd->click();
   }
-  const ModalPlay<NameDialog> play([](NameDialog& dialog) {
-    EXPECT_EQ(dialog.Caption(), "Rename layout");
-    EXPECT_EQ(dialog.txtRinomina->Text(), "Evening");
-    EXPECT_FALSE(dialog.cmdAdd->Visible());
-    EXPECT_TRUE(dialog.cmdRename->Visible());
+  const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
+    EXPECT_EQ(look(dialog), "Rename layout: Evening (Rename)");
     PressKey(dialog.txtRinomina, Qt::Key_Escape);
   });
   manager.cmdRename->click();
@@ -56,24 +52,19 @@ TEST_F(LayoutNamesTest, TheDialogAsksForANameByMode) {
 }
 
 TEST_F(LayoutNamesTest, AddAppendsTheNameAndMakesTheFirstTheDefault) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
-  LayoutManager& manager = Open();
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 1, "Night"));
   Name(manager.cmdAdd, "Weekend");
   EXPECT_EQ(Layouts(), std::string(kTwoLayouts) + "[Weekend]\r\n-\r\n");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Evening", "Night", "Weekend"));
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Evening", "Night", "Weekend"));
-  EXPECT_EQ(manager.cboListaLayout->Text(), "Weekend");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "Evening");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), IsEmpty());
+  EXPECT_EQ(Look(manager), "autoload default Evening|Night|Weekend; Weekend; Evening; ; ");
 }
 
 TEST_F(LayoutNamesTest, ATakenNameIsRefused) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, ""));
+  const auto refused = ElementsAre("! Name already exist!");
   const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
     dialog.txtRinomina->SetText("Night");
     dialog.cmdAdd->click();
-    EXPECT_THAT(Warnings(), ElementsAre("Name already exist!"));
+    EXPECT_THAT(Take(boxes_), refused);
     EXPECT_FALSE(dialog.IsUnloaded()) << "after a failed Add the dialog can be used again";
     EXPECT_EQ(manager.cboListaLayout->Text(), "Night");
     dialog.txtRinomina->SetText("night");
@@ -82,19 +73,17 @@ TEST_F(LayoutNamesTest, ATakenNameIsRefused) {
   });
   manager.cmdAdd->click();
   Name(manager.cmdRename, "Evening");  // that the dialog is gone is seen by the helper
-  EXPECT_THAT(Warnings(), ElementsAre("Name already exist!"));
+  EXPECT_THAT(Take(boxes_), refused);
   EXPECT_EQ(Layouts(), std::string(kTwoLayouts) + "[night]\r\n-\r\n");
 }
 
 TEST_F(LayoutNamesTest, ANameThatTheFileCannotHoldIsRefused) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, ""));
   for (PushButton* opener : {manager.cmdAdd, manager.cmdRename}) {
     const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
-      PushButton* accept = dialog.cmdAdd->Visible() ? dialog.cmdAdd : dialog.cmdRename;
       dialog.txtRinomina->setText(QString(QChar(0x65E5)));
-      accept->click();
-      EXPECT_THAT(Warnings(), ElementsAre("A layout can't have this name!"));
+      (opener == manager.cmdAdd ? dialog.cmdAdd : dialog.cmdRename)->click();
+      EXPECT_THAT(Take(boxes_), ElementsAre("! A layout can't have this name!"));
       EXPECT_FALSE(dialog.IsUnloaded());
       dialog.cmdCancel->click();
     });
@@ -104,87 +93,65 @@ TEST_F(LayoutNamesTest, ANameThatTheFileCannotHoldIsRefused) {
 }
 
 TEST_F(LayoutNamesTest, RenameMovesTheNameToTheEndAndKeepsThePlaceInTheFile) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Evening"));
-  LayoutManager& manager = Open();
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Night", "Dusk"));
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Night", "Dusk"));
-  EXPECT_EQ(manager.cboListaLayout->Text(), "Dusk");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "Dusk") << "the default goes with its name";
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("MAME", "RAINE"));
-  EXPECT_EQ(Layouts().substr(0, 8), "[Dusk]\r\n");
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Night", "Dusk"));
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, "Evening"));
+  for (int i = 0; i < 2; ++i) {
+    Name(manager.cmdRename, "Dusk");
+    EXPECT_EQ(Look(manager), "Night|Dusk; Dusk; Dusk; MAME|RAINE; Large|Small");
+    EXPECT_EQ(Layouts(), "[Dusk]" + std::string(kTwoLayouts.substr(9)));
+  }
   manager.cboListaLayout->SetListIndex(0);
   Name(manager.cmdRename, "Dawn");
   EXPECT_EQ(manager.cboListaLayout2->Text(), "Dusk") << "another default stays";
-}
 
-TEST_F(LayoutNamesTest, RenameLeavesNoDefaultWhereThereWasNone) {
-  GivenFiles(kTwoLayouts, Ini(0, 0, ""));
-  LayoutManager& manager = Open();
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_EQ(manager.cboListaLayout2->ListIndex(), -1);
+  LayoutManager& without_default = Open(kTwoLayouts, Ini(0, 0, ""));
+  Name(without_default.cmdRename, "Dusk");
+  EXPECT_EQ(without_default.cboListaLayout2->ListIndex(), -1);
 }
 
 TEST_F(LayoutNamesTest, RemoveSelectsTheNeighbour) {
-  GivenFiles("[A]\r\n-\r\n[B]\r\nMAIN,1,2\r\nM72,1,2,3,4\r\n-\r\n[C]\r\n-\r\n", Ini(0, 1, "C"));
-  LayoutManager& manager = Open();
+  LayoutManager& manager =
+      Open("[A]\r\n-\r\n[B]\r\nMAIN,1,2\r\nM72,1,2,6345,4620\r\n-\r\n[C]\r\n-\r\n", Ini(0, 0, "C"));
   manager.cboListaLayout->SetListIndex(2);
   manager.cmdRemove->click();
-  EXPECT_EQ(manager.cboListaLayout->Text(), "B");
-  EXPECT_EQ(manager.cboListaLayout2->Text(), "A") << "the removed one was the default";
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
+  EXPECT_EQ(Look(manager), "A|B; B; A; M72; Medium") << "the removed one was the default";
   manager.cboListaLayout->SetListIndex(0);
   manager.cmdRemove->click();
-  EXPECT_EQ(manager.cboListaLayout->Text(), "B");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
-  EXPECT_EQ(Layouts(), "[B]\r\nMAIN,1,2\r\nM72,1,2,3,4\r\n-\r\n");
+  EXPECT_EQ(Look(manager), "B; B; B; M72; Medium");
+  EXPECT_EQ(Layouts(), "[B]\r\nMAIN,1,2\r\nM72,1,2,6345,4620\r\n-\r\n");
   manager.cmdRemove->click();
   EXPECT_EQ(Layouts(), "");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), IsEmpty());
+  EXPECT_EQ(Look(manager), "; ; ; ; ");
   manager.cmdOk->click();
   EXPECT_THAT(drive_.Read(R"(C:\Zarvo\zarvo.ini)"), testing::HasSubstr("DefaultLayout = \r\n"));
 }
 
 TEST_F(LayoutNamesTest, AFailedWriteIsToldAndTheListsShowTheFile) {
-  GivenFiles(kTwoLayouts, Ini(0, 1, "Night"));
-  LayoutManager& manager = Open();
-  const auto expect_file_shown = [&](const std::string& selected) {
-    EXPECT_THAT(ItemsOf(*manager.cboListaLayout), ElementsAre("Evening", "Night"));
-    EXPECT_THAT(ItemsOf(*manager.cboListaLayout2), ElementsAre("Evening", "Night"));
-    EXPECT_EQ(manager.cboListaLayout->Text(), selected);
-    EXPECT_EQ(manager.cboListaLayout2->Text(), "Night");
-    EXPECT_EQ(Layouts(), kTwoLayouts);
-  };
-  const auto failed = ElementsAre("layouts.dat: No space left on device");
+  LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, "Night"));
+  const auto failed = ElementsAre("! layouts.dat: No space left on device");
   files_.Fail(FileStep::kReplace, "");
   const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
     dialog.cmdAdd->click();
-    EXPECT_THAT(Warnings(), failed);
-    expect_file_shown("Evening");
+    EXPECT_THAT(Take(boxes_), failed);
+    EXPECT_EQ(Look(manager), "Evening|Night; Evening; Night; MAME|RAINE; Large|Small");
     EXPECT_FALSE(dialog.IsUnloaded()) << "the player may try again";
     dialog.cmdCancel->click();
   });
   manager.cmdAdd->click();
   manager.cboListaLayout->SetListIndex(1);
-  Name(manager.cmdRename, "Dusk");
-  EXPECT_THAT(Warnings(), failed);
-  expect_file_shown("Night");
-  manager.cmdRemove->click();
-  EXPECT_THAT(Warnings(), failed);
-  expect_file_shown("Night");
-  manager.cmdSaveLayout->click();
-  EXPECT_THAT(Warnings(), failed);
-  expect_file_shown("Night");
-  EXPECT_THAT(ItemsOf(*manager.lstEmulatori), ElementsAre("M72"));
+  for (int change = 0; change < 3; ++change) {
+    if (change == 0) Name(manager.cmdRename, "Dusk");
+    if (change == 1) manager.cmdRemove->click();
+    if (change == 2) manager.cmdSaveLayout->click();
+    EXPECT_THAT(Take(boxes_), failed);
+    EXPECT_EQ(Look(manager), "Evening|Night; Night; Night; M72; Medium");
+  }
+  EXPECT_EQ(Layouts(), kTwoLayouts);
   manager.cmdOk->click();
-  EXPECT_THAT(Warnings(), ElementsAre("zarvo.ini: No space left on device"));
+  EXPECT_THAT(Take(boxes_), ElementsAre("! zarvo.ini: No space left on device"));
 }
 
 TEST_F(LayoutNamesTest, TheWindowIsOutOfTheTopMostBandWhileTheDialogStands) {
-  GivenFiles(kTwoLayouts, Ini(1, 0, ""));
-  LayoutManager& manager = Open();
+  LayoutManager& manager = Open(kTwoLayouts, Ini(1, 0, ""));
   const auto on_top = [&] {
     return manager.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
   };
@@ -192,7 +159,7 @@ TEST_F(LayoutNamesTest, TheWindowIsOutOfTheTopMostBandWhileTheDialogStands) {
   for (const bool by_cancel : {true, false}) {
     const ModalPlay<NameDialog> play([&](NameDialog& dialog) {
       EXPECT_FALSE(on_top());
-      by_cancel ? dialog.cmdCancel->click() : dialog.cmdRename->click();
+      (by_cancel ? dialog.cmdCancel : dialog.cmdRename)->click();
     });
     manager.cmdRename->click();
     EXPECT_TRUE(on_top());

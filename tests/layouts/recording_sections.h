@@ -22,7 +22,7 @@ class RecordingSections : public SectionHost, public MainPlace {
   }
 
   void OpenSection(const EmulatorProfile& profile) override {
-    Note("open", profile);
+    told.push_back("open " + std::string(profile.section_word));
     if (!without_data_file.contains(profile.emulator)) Stand(profile.emulator, {});
   }
   void SaveOpenPanels() override {}
@@ -53,10 +53,6 @@ class RecordingSections : public SectionHost, public MainPlace {
   std::vector<std::string> told;
 
  private:
-  void Note(const std::string& what, const EmulatorProfile& profile) {
-    told.push_back(what + " " + std::string(profile.section_word));
-  }
-
   AppState& app_;
 };
 

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "catalogue/data_file.h"
+#include "layouts/layout_manager.h"
 #include "panel/panel_fixture.h"
 
 namespace zarvo {
@@ -19,7 +20,7 @@ class MainWindowTest : public testing::Test {
     PutHeader("one ");
     drive_.Write(R"(C:\Zarvo\cfg\Mame.cfg)", "\"C:\\a.exe\"\r\n");
   }
-  ~MainWindowTest() override { EXPECT_TRUE(boxes_.shown.empty()) << "an unexpected box"; }
+  ~MainWindowTest() override { EXPECT_THAT(Take(boxes_), IsEmpty()) << "an unexpected box"; }
 
   void PutHeader(const std::string& word) {
     std::string text = "# comment\r\n\r\n";
@@ -71,35 +72,28 @@ class MainWindowTest : public testing::Test {
 TEST_F(MainWindowTest, StartsInItsOrder) {
   std::filesystem::remove_all(drive_.Host(R"(C:\Zarvo\cfg)"));
   std::filesystem::remove_all(drive_.Host(R"(C:\Zarvo\Data)"));
-  int autoloads = 0;
+  std::vector<int> ticker_at_autoload;
   on_autoload_ = [&] {
-    ++autoloads;
+    ticker_at_autoload.push_back(main_.Timer1.Interval());
     EXPECT_TRUE(drive_.Exists(R"(C:\Zarvo\Cfg)") && drive_.Exists(R"(C:\Zarvo\Data)"));
-    EXPECT_EQ(main_.Top(), 400);
-    EXPECT_EQ(main_.Left(), 500);
+    EXPECT_EQ(std::pair(main_.Top(), main_.Left()), std::pair(400, 500));
     EXPECT_EQ(drive_.files().CurrentFolder(), R"(C:\Zarvo)");
-    if (autoloads == 1) {
-      EXPECT_EQ(main_.Timer1.Interval(), 0) << "the ticker starts last";
-    }
   };
-  bool folders_at_welcome = true;
   boxes_.on_show = [&] {
-    folders_at_welcome = drive_.Exists(R"(C:\Zarvo\Data)");
+    EXPECT_EQ(drive_.Exists(R"(C:\Zarvo\Data)"), !ticker_at_autoload.empty());
     EXPECT_FALSE(main_.isVisible());
     EXPECT_EQ(main_.Caption(), "Zarvo v0.1");
     EXPECT_EQ(main_.lblVersion->Caption(), "v0.1");
   };
   main_.StartUp();
-  ASSERT_EQ(boxes_.shown.size(), 1U);
-  EXPECT_EQ(boxes_.shown[0].icon, BoxIcon::kInformation);
-  EXPECT_EQ(boxes_.shown[0].title, "Zarvo v0.1");
-  EXPECT_EQ(boxes_.shown[0].text,
-            "Welcome to Zarvo! Probably it's the first time you launch this program!\rPlease "
-            "remember to put Data Files into the <data> directory!\rThe latest releases of these "
-            "Data Files can be downloaded from http://zarvo.example/\rTake a look at Readme.txt "
-            "for more info.");
-  EXPECT_FALSE(folders_at_welcome);
-  EXPECT_EQ(autoloads, 1);
+  EXPECT_THAT(
+      Take(boxes_),
+      ElementsAre(
+          "i Welcome to Zarvo! Probably it's the first time you launch this program!|Please "
+          "remember to put Data Files into the <data> directory!|The latest releases of "
+          "these Data Files can be downloaded from http://zarvo.example/|Take a look at "
+          "Readme.txt for more info."));
+  EXPECT_THAT(ticker_at_autoload, ElementsAre(0)) << "the ticker starts last";
   EXPECT_EQ(main_.Timer1.Interval(), 10000);
   EXPECT_EQ(app_.ProgramFolder, R"(C:\Zarvo)");
   EXPECT_EQ(Facts(), "Zarvo v0.1|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-");
@@ -108,11 +102,9 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
   // A folder in Cfg is no file; a file is.
   drive_.MakeFolder(R"(C:\Zarvo\Cfg\folder)");
   main_.StartUp();
-  EXPECT_EQ(boxes_.shown.size(), 2U);
+  EXPECT_EQ(Take(boxes_).size(), 1U);
   drive_.Write(R"(C:\Zarvo\Cfg\x)", "");
   main_.StartUp();
-  EXPECT_EQ(boxes_.shown.size(), 2U);
-  boxes_.shown.clear();
 }
 
 TEST_F(MainWindowTest, AppearsWithAllItsControlsOnceTextsCanBeDrawn) {
@@ -147,29 +139,33 @@ TEST_F(MainWindowTest, TheEndAsksAndSavesWhatIsOpen) {
   ClickMouse(Selector(Emulator::kMame));
   EXPECT_EQ(app_.lblHideEmuSelect, "MAME");
   EXPECT_TRUE(sections_.Panel(Emulator::kMame).isVisible());
-  const auto end = [&](BoxAnswer answer, bool by_desktop) {
-    boxes_.answers = {answer};
-    if (by_desktop) {
-      main_.close();
-    } else {
-      ClickMouse(main_.lblExit);
-    }
-    ASSERT_EQ(boxes_.shown.size(), 1U);
-    EXPECT_EQ(boxes_.shown[0].text, "Do you really want to quit ?");
-    EXPECT_EQ(boxes_.shown[0].icon, BoxIcon::kExclamation);
-    boxes_.shown.clear();
-  };
-  for (const bool by_desktop : {false, true}) {
-    end(BoxAnswer::kNo, by_desktop);
+  boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kNo, BoxAnswer::kYes};
+  for (const bool by_desktop : {false, true, true}) {
     EXPECT_TRUE(main_.isVisible());
     EXPECT_THAT(told_, IsEmpty());
     EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\cfg\Mame.set)"));
+    by_desktop ? static_cast<void>(main_.close()) : ClickMouse(main_.lblExit);
+    EXPECT_EQ(boxes_.shown.at(0).icon, BoxIcon::kExclamation);
+    EXPECT_THAT(Take(boxes_), ElementsAre("? Do you really want to quit ?"));
   }
-  end(BoxAnswer::kYes, true);
   EXPECT_THAT(told_, ElementsAre("end"));
   EXPECT_TRUE(drive_.Read(R"(C:\Zarvo\cfg\Mame.set)").starts_with("\"Aliens\","));
   EXPECT_TRUE(drive_.Read(R"(C:\Zarvo\cfg\Mame.cfg)").starts_with("\"C:\\a.exe\"\r\n\"C:\\Emu"));
   EXPECT_FALSE(drive_.Exists(R"(C:\Zarvo\zarvo.ini)"));
+}
+
+TEST_F(MainWindowTest, PlacesComeBackToTheTwipRoundAfterRound) {
+  const std::string layout = "[A]\r\nMAIN,407,501\r\nMAME,-8,1237,2415,4627\r\n-\r\n";
+  drive_.Write(R"(C:\Zarvo\layouts.dat)", layout);
+  main_.ShowModeless();
+  LayoutManager manager({drive_.files(), app_, boxes_, sections_, main_});
+  manager.cboListaLayout->SetListIndex(0);
+  for (int round = 0; round < 10; ++round) {
+    manager.cmdLoadLayout->click();
+    QApplication::processEvents();
+    manager.cmdSaveLayout->click();
+  }
+  EXPECT_EQ(drive_.Read(R"(C:\Zarvo\layouts.dat)"), layout);
 }
 
 TEST_F(MainWindowTest, TheHoverReadsTheFactsAnewEachTime) {
