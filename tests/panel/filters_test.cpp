@@ -2,7 +2,6 @@
 #include <QAbstractItemView>
 #include <QMenu>
 
-#include "fakes/key_press.h"
 #include "panel/panel_fixture.h"
 
 namespace zarvo {
@@ -13,9 +12,6 @@ using testing::IsEmpty;
 
 class FiltersTest : public PanelTest {
  protected:
-  static constexpr std::string_view kNoScan =
-      "! No 'SCN' file found in </CFG> directory.|Please scan your rom directory from section "
-      "<CONF>";
   static constexpr int kAvailable = 3;
 
   static void ChooseFromPopup(ComboBox* combo, int index) {
@@ -100,16 +96,14 @@ TEST_F(FiltersTest, ShiftAloneResetsTheFiltersOfMameOnly) {
                                 games.cboFilterManufactor, games.cboFilterYear};
     for (ComboBox* const pressed : combos) {
       for (ComboBox* const combo : combos) combo->SetListIndex(1);
-      const auto press = [&](Qt::Key key, Qt::KeyboardModifiers held) {
-        QKeyEvent event(QEvent::KeyPress, key, held);
+      for (const Qt::KeyboardModifiers with : {Qt::ControlModifier, Qt::NoModifier}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_F2, Qt::ShiftModifier | with);
         QApplication::sendEvent(pressed, &event);
-      };
-      press(Qt::Key_F2, Qt::ShiftModifier | Qt::ControlModifier);
-      for (ComboBox* const combo : combos) EXPECT_EQ(combo->ListIndex(), 1);
-      press(Qt::Key_F2, Qt::ShiftModifier);
-      for (ComboBox* const combo : combos) {
-        EXPECT_EQ(combo->ListIndex(), resets ? 0 : 1);
-        EXPECT_EQ(combo->BackColor().value, resets ? 12632256U : 14985898U);
+        const bool reset = resets && with == Qt::NoModifier;
+        for (ComboBox* const combo : combos) {
+          EXPECT_EQ(combo->ListIndex(), reset ? 0 : 1);
+          EXPECT_EQ(combo->BackColor().value, reset ? 12632256U : 14985898U);
+        }
       }
     }
   }
@@ -119,16 +113,16 @@ TEST_F(FiltersTest, WithoutAScanFileAllGamesComeBackOnTheConfigurationPage) {
   for (const Emulator emulator : {Emulator::kMame, Emulator::kCallus, Emulator::kRaine}) {
     SCOPED_TRACE(ProfileOf(emulator).word);
     EmulatorPanel& panel = OpenConfigured(emulator);
-    const int all = panel.games->lstRom->ListCount();
-    bool visible = false;
-    boxes_.on_show = [&] { visible = panel.games->lstRom->Visible(); };
+    const std::string all = Entries(panel.games->lstRom);
+    const std::string count = panel.games->lblRomCount->Caption();
+    boxes_.on_show = [&] { EXPECT_TRUE(panel.games->lstRom->Visible()); };
     panel.games->cboFilterMisc->SetListIndex(kAvailable);
-    EXPECT_EQ(TakeBoxes(), std::vector{std::string(kNoScan)});
-    EXPECT_TRUE(visible);
+    EXPECT_THAT(TakeBoxes(), ElementsAre("! No 'SCN' file found in </CFG> directory.|Please scan "
+                                         "your rom directory from section <CONF>"));
     EXPECT_EQ(panel.games->cboFilterMisc->Text(), "All Supported");
     EXPECT_EQ(panel.games->cboFilterMisc->BackColor().value, 12632256U);
-    EXPECT_EQ(panel.games->lstRom->ListCount(), all);
-    EXPECT_EQ(panel.games->lblRomCount->Caption(), std::to_string(all));
+    EXPECT_EQ(Entries(panel.games->lstRom), all);
+    EXPECT_EQ(panel.games->lblRomCount->Caption(), count);
     EXPECT_EQ(Pages(panel), "img conf");
   }
 }
@@ -179,8 +173,8 @@ TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
                                        "! Mame.scn: No space left on device"));
 }
 
-// The four captions of the popup, without showing it to anybody.
-std::string PopupOver(QWidget* widget, Qt::MouseButton button) {
+// The captions of the popup that a button of the mouse brings up over a list.
+std::string PopupOver(const ListBox* list, Qt::MouseButton button = Qt::RightButton) {
   std::string captions = "(none)";
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -193,31 +187,30 @@ std::string PopupOver(QWidget* widget, Qt::MouseButton button) {
     menu->close();
   });
   timer.start(0);
-  PressMouse(widget, {5, 5}, button);
-  ReleaseMouse(widget, {5, 5}, button);
+  PressMouse(list->viewport(), {5, 5}, button);
+  ReleaseMouse(list->viewport(), {5, 5}, button);
   return captions;
 }
 
 TEST_F(FiltersTest, ThePopupShowsFourFactsOfTheSelectedGame) {
   EmulatorPanel& panel = OpenConfigured(Emulator::kMame, {"Aliens (JP)", "Gone"});
-  QWidget* const big = panel.games->lstRom->viewport();
-  QWidget* const small = panel.favourites->lstPref->viewport();
-  EXPECT_EQ(PopupOver(small, Qt::RightButton), "mnuMame:[Konami][1990][Shooter]-[Clone]");
-  EXPECT_EQ(PopupOver(big, Qt::RightButton), "mnuMame:[][][]-[]") << "nothing is selected there";
-  panel.games->lstRom->SetListIndex(4);
-  EXPECT_EQ(PopupOver(big, Qt::RightButton), "mnuMame:[Sega][1990][Shooter]-[Original]");
-  EXPECT_EQ(panel.games->lstRom->Text(), "Zaxxon") << "the right button selects nothing";
+  ListBox* const big = panel.games->lstRom;
+  ListBox* const small = panel.favourites->lstPref;
+  EXPECT_EQ(PopupOver(small), "mnuMame:[Konami][1990][Shooter]-[Clone]");
+  EXPECT_EQ(PopupOver(big), "mnuMame:[][][]-[]") << "nothing is selected there";
+  big->SetListIndex(4);
+  EXPECT_EQ(PopupOver(big), "mnuMame:[Sega][1990][Shooter]-[Original]");
+  EXPECT_EQ(big->Text(), "Zaxxon") << "the right button selects nothing";
   EXPECT_EQ(PopupOver(big, Qt::LeftButton), "(none)");
   panel.favourites->SetEntries({"Aliens"});
-  EXPECT_EQ(PopupOver(small, Qt::RightButton), "(none)");
+  EXPECT_EQ(PopupOver(small), "(none)");
 
-  const EmulatorPanel& m72 = OpenConfigured(Emulator::kM72);
-  EXPECT_EQ(PopupOver(m72.favourites->lstPref->viewport(), Qt::RightButton),
-            "mnuM72:[Irem][1987][Shooter]-[Original]");
-  m72.favourites->lstPref->SetListIndex(2);  // not in the data file: the menu stays as it was
-  EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
-  EXPECT_EQ(PopupOver(m72.favourites->lstPref->viewport(), Qt::RightButton),
-            "mnuM72:[Irem][1987][Shooter]-[Original]");
+  ListBox* const m72 = OpenConfigured(Emulator::kM72).favourites->lstPref;
+  for (const int index : {0, 2}) {  // the other is not in the data file: the menu stays as it was
+    m72->SetListIndex(index);
+    EXPECT_EQ(TakeBoxes().size(), index == 0 ? 0U : 1U);
+    EXPECT_EQ(PopupOver(m72), "mnuM72:[Irem][1987][Shooter]-[Original]");
+  }
 }
 
 }  // namespace
