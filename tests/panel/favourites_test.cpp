@@ -68,10 +68,8 @@ TEST_F(FavouritesTest, TheIconOfTheDragTellsTheTarget) {
   const QImage over = move_to(panel.favourites->lstPref);
   EXPECT_NE(over, begin);
   EXPECT_EQ(move_to(panel.logo), begin);
-  EXPECT_EQ(move_to(panel.favourites->lstPref), over);
   ReleaseMouse(from, {-500, -500});
   EXPECT_TRUE(icon().isNull());
-  EXPECT_EQ(panel.favourites->lstPref->ListCount(), 0);
 }
 
 TEST_F(FavouritesTest, DeleteSelectsTheNextEntryAndRunsItsCycle) {

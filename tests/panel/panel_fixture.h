@@ -85,11 +85,11 @@ class PanelTest : public testing::Test {
   void PutCfg(Emulator emulator, const std::vector<std::string>& favourites = {},
               std::string_view layout_word = "up") {
     const std::string word(ProfileOf(emulator).word);
-    std::string text =
-        Lines({R"(C:\Emu\)" + word + R"(\)" + word + ".exe", R"(C:\Emu\)" + word + R"(\Roms)",
-               R"(C:\Snaps)", "GIF", R"(C:\Emu\)" + word, std::string(layout_word)}) +
-        Lines(favourites);
-    drive_.Write(CfgPath(emulator), text);
+    const std::string folder = R"(C:\Emu\)" + word;
+    drive_.Write(CfgPath(emulator),
+                 Lines({folder + "\\" + word + ".exe", folder + R"(\Roms)", R"(C:\Snaps)", "GIF",
+                        folder, std::string(layout_word)}) +
+                     Lines(favourites));
   }
   void PutSettings(Emulator emulator, std::string_view bytes) {
     drive_.Write(SetPath(emulator), bytes);
@@ -138,16 +138,13 @@ class PanelTest : public testing::Test {
 
   // The pages that are visible, for one look.
   static std::string Pages(const EmulatorPanel& panel) {
+    const std::pair<const Control*, const char*> all[] = {
+        {panel.picSnap->imgSnap, "img"}, {panel.picSnap, "snap"}, {panel.picSettings, "settings"},
+        {panel.picInfo, "info"},         {panel.picHelp, "help"}, {panel.picConf, "conf"}};
     std::string pages;
-    const auto note = [&](const Control& control, std::string_view name) {
-      if (control.Visible()) pages.append(pages.empty() ? "" : " ").append(name);
-    };
-    note(*panel.picSnap->imgSnap, "img");
-    note(*panel.picSnap, "snap");
-    note(*panel.picSettings, "settings");
-    note(*panel.picInfo, "info");
-    note(*panel.picHelp, "help");
-    note(*panel.picConf, "conf");
+    for (const auto& [page, name] : all) {
+      if (page->Visible()) pages.append(pages.empty() ? "" : " ").append(name);
+    }
     return pages;
   }
   static std::string Caption(const EmulatorPanel& panel) { return panel.lblRomSettings->Caption(); }
