@@ -156,6 +156,11 @@ class PanelTest : public testing::Test {
   static ComboBox* Combo(const EmulatorPanel& panel, std::string_view name) {
     return panel.picSettings->Option(name).combo;
   }
+  // The game in the caption, what a combo of its settings shows, and its rom folder.
+  static std::string Current(const EmulatorPanel& panel, std::string_view combo) {
+    return Caption(panel) + " " + std::to_string(Combo(panel, combo)->ListIndex()) + " " +
+           panel.picSettings->txtRomPath->Text();
+  }
   static CheckBox* Check(const EmulatorPanel& panel, std::string_view name) {
     return panel.picSettings->Option(name).check;
   }

@@ -103,19 +103,16 @@ TEST_F(StartTest, AnotherGameBorrowsTheControls) {
   EmulatorPanel& panel = OpenConfigured(Emulator::kRaine, {"Rainbow Islands"});
   Press(panel.imgButSet);
   PressEntry(panel.games->lstRom, 0);
-  ComboBox* const mode = Combo(panel, "cboScreenMode");
   for (const Case& at : cases) {
     SCOPED_TRACE(at.store);
     std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
     if (!at.store.empty()) PutSettings(Emulator::kRaine, at.store + "\r\n");
-    mode->SetListIndex(2);
+    Combo(panel, "cboScreenMode")->SetListIndex(2);
     panel.picSettings->txtRomPath->SetText(R"(C:\Mine)");
     runs_.clear();
     Enter(panel.favourites->lstPref);
     EXPECT_THAT(runs_, ElementsAre(testing::HasSubstr(at.runs_with)));
-    EXPECT_EQ(Caption(panel), "Bubble Bobble");
-    EXPECT_EQ(mode->ListIndex(), 2);
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Mine)");
+    EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Bubble Bobble 2 C:\Mine)");
     if (!at.store.empty()) {
       EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)), at.store + "\r\n");
     }
