@@ -28,14 +28,6 @@ class Layouts : public testing::Test {
  protected:
   Layouts() { app_.ProgramFolder = "C:\\Zarvo"; }
 
-  std::vector<LayoutRecord> RecordsOf(std::string_view text, bool complete = true) {
-    drive_.Write(kLayouts, text);
-    const auto block = store_.ReadBlock("A");
-    if (!block) return {{.word = "no block"}};
-    EXPECT_EQ(block->complete, complete) << text;
-    return block->records;
-  }
-
   TempDrive drive_;
   AppState app_;
   LayoutStore store_{drive_.files(), app_};
@@ -61,64 +53,67 @@ TEST_F(Layouts, AMissingFileIsAnErrorToReadersAndEmptyToWriters) {
 }
 
 TEST_F(Layouts, ReadsWhatCanBeUnderstoodOfADamagedBlock) {
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,400,-500\r\nMAME,1,2,3\r\nM72,3,4,5,6\r\n-\r\n", false),
-              ElementsAre(kMain));
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,400,-500\r\nMAME,1,2,3,32768\r\n-\r\n", false),
-              ElementsAre(kMain));
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,400,-500,7\r\n-\r\n", false), IsEmpty());
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN\r\n-\r\n", false), IsEmpty());
-  EXPECT_THAT(RecordsOf("[A]\r\nELSE,x\r\n\r\nmain,1,2\r\nMAIN,400,-500\r\n-\r\n"),
-              ElementsAre(kMain));
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,400,-500\r\n[B]\r\nMAME,1,2,3,4\r\n-\r\n"),
-              ElementsAre(kMain));
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,400,-500\r\nM72,3,4,2415,4620\r\n"), ElementsAre(kMain));
-  EXPECT_THAT(RecordsOf("[A]\nMAIN,400,-500\nM72,3,4,2415,4620\n-\n"), ElementsAre(kMain, kM72));
-  EXPECT_THAT(RecordsOf("[A]\r\nMAIN,-32768,32767\r\n-\r\nMAME,1,2,3,4\r\n[B]\r\n-"),
-              ElementsAre(LayoutRecord{.word = "MAIN", .top = -32768, .left = 32767}));
-  EXPECT_THAT(RecordsOf("[A]"), IsEmpty());
+  struct Row {
+    std::string_view text;
+    std::vector<LayoutRecord> records;
+    bool complete = true;
+  };
+  const std::vector<Row> rows = {
+      {"[A]\r\nMAIN,400,-500\r\nMAME,1,2,3\r\nM72,3,4,5,6\r\n-\r\n", {kMain}, false},
+      {"[A]\r\nMAIN,400,-500\r\nMAME,1,2,3,32768\r\n-\r\n", {kMain}, false},
+      {"[A]\r\nMAIN,400,-500,7\r\n-\r\n", {}, false},
+      {"[A]\r\nMAIN\r\n-\r\n", {}, false},
+      {"[A]\r\nELSE,x\r\n\r\nmain,1,2\r\nMAIN,400,-500\r\n-\r\n", {kMain}},
+      {"[A]\r\nMAIN,400,-500\r\n[B]\r\nMAME,1,2,3,4\r\n-\r\n", {kMain}},
+      {"[A]\r\nMAIN,400,-500\r\nM72,3,4,2415,4620\r\n", {kMain}},
+      {"[A]\nMAIN,400,-500\nM72,3,4,2415,4620\n-\n", {kMain, kM72}},
+      {"[A]\r\nMAIN,-32768,32767\r\n-\r\nMAME,1,2,3,4\r\n[B]\r\n-",
+       {{.word = "MAIN", .top = -32768, .left = 32767}}},
+      {"[A]", {}}};
+  for (const Row& row : rows) {
+    drive_.Write(kLayouts, row.text);
+    const auto block = store_.ReadBlock("A");
+    ASSERT_TRUE(block) << row.text;
+    EXPECT_EQ(block->records, row.records) << row.text;
+    EXPECT_EQ(block->complete, row.complete) << row.text;
+  }
 }
 
 TEST_F(Layouts, RewritesOneBlockAndNoOther) {
+  using Store = LayoutStore;
   struct Row {
-    std::string_view what;
-    std::function<Status(LayoutStore&)> change;
+    std::function<Status(Store&)> change;
     std::string_view before;
     std::string_view after;
   };
-  const auto save = [](std::string_view name, const std::vector<LayoutRecord>& records) {
-    return [=](LayoutStore& store) { return store.SaveBlock(name, records); };
-  };
+  const auto save = [](Store& store) { return store.SaveBlock("B", {kMain}); };
   const auto remove = [](std::string_view name) {
-    return [=](LayoutStore& store) { return store.RemoveBlock(name); };
+    return [=](Store& store) { return store.RemoveBlock(name); };
   };
-  const auto rename = [](std::string_view from, std::string_view to) {
-    return [=](LayoutStore& store) { return store.RenameBlock(from, to); };
-  };
-  const auto add = [](LayoutStore& store) { return store.AddBlock("N]"); };
   const std::vector<Row> rows = {
-      {"save in place", save("B", {kMain, kMame}),
+      {[](Store& store) {
+         return store.SaveBlock("B", {kMain, kMame});
+       },
        "[A]\r\n-\r\n[B]\r\nMAIN,1,1\r\n-\r\n[C]\r\n-\r\n",
        "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\nMAME,1,2,6345,7260\r\n-\r\n[C]\r\n-\r\n"},
-      {"save the last", save("B", {kMain}), "[A]\r\n-\r\n[B]\r\nMAIN,1,1\r\nM72,1,1,1,1\r\n-\r\n",
+      {save, "[A]\r\n-\r\n[B]\r\nMAIN,1,1\r\nM72,1,1,1,1\r\n-\r\n",
        "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\n-\r\n"},
-      {"save a new one", save("B", {kMain}), "[A]\r\n-\r\n",
-       "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\n-\r\n"},
-      {"save behind a cut line", save("B", {kMain}), "[A]\r\n-",
-       "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\n-\r\n"},
-      {"save keeps line ends", save("B", {kMain}), "[A]\nMAIN,1\n-\n[B]\n-\n[C]\nx\n-\n",
+      {save, "[A]\r\n-\r\n", "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\n-\r\n"},
+      {save, "[A]\r\n-", "[A]\r\n-\r\n[B]\r\nMAIN,400,-500\r\n-\r\n"},
+      {save, "[A]\nMAIN,1\n-\n[B]\n-\n[C]\nx\n-\n",
        "[A]\nMAIN,1\n-\n[B]\r\nMAIN,400,-500\r\n-\r\n[C]\nx\n-\n"},
-      {"remove the first", remove("A"), "[A]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n[C]\r\n-\r\n",
-       "[B]\r\n-\r\n[C]\r\n-\r\n"},
-      {"remove the last", remove("B"), "[A]\r\n-\r\n[B]\r\nMAIN,1,1\r\n-\r\n", "[A]\r\n-\r\n"},
-      {"remove the only one", remove("A"), "[A]\r\n-\r\n", ""},
-      {"remove none", remove("X"), "[A]\r\n-\r\n", "[A]\r\n-\r\n"},
-      {"rename in place", rename("A", "Z"), "[A]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n",
-       "[Z]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n"},
-      {"add", add, "[A]\r\n-\r\n", "[A]\r\n-\r\n[N]]\r\n-\r\n"}};
+      {remove("A"), "[A]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n[C]\r\n-\r\n", "[B]\r\n-\r\n[C]\r\n-\r\n"},
+      {remove("B"), "[A]\r\n-\r\n[B]\r\nMAIN,1,1\r\n-\r\n", "[A]\r\n-\r\n"},
+      {remove("A"), "[A]\r\n-\r\n", ""},
+      {remove("X"), "[A]\r\n-\r\n", "[A]\r\n-\r\n"},
+      {[](Store& store) { return store.RenameBlock("A", "Z"); },
+       "[A]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n", "[Z]\r\nMAIN,1,1\r\n-\r\n[B]\r\n-\r\n"},
+      {[](Store& store) { return store.AddBlock("N]"); }, "[A]\r\n-\r\n",
+       "[A]\r\n-\r\n[N]]\r\n-\r\n"}};
   for (const Row& row : rows) {
     drive_.Write(kLayouts, row.before);
-    EXPECT_TRUE(row.change(store_)) << row.what;
-    EXPECT_EQ(drive_.Read(kLayouts), row.after) << row.what;
+    EXPECT_TRUE(row.change(store_)) << row.after;
+    EXPECT_EQ(drive_.Read(kLayouts), row.after) << row.before;
   }
   EXPECT_FALSE(drive_.Exists("C:\\Zarvo\\layouts.tmp"));
 }
@@ -162,9 +157,6 @@ TEST_F(Layouts, TheIniIsWrittenLineByLine) {
                 "\r\n \r\n[Layouts]\r\nLayoutAlwaysOnTop = 1\r\nAutoloadOnStartup = 0\r\n"
                 "DefaultLayout = \r\n \r\n" +
                 rule + "\r\n End of file\r\n" + rule + "\r\n");
-  EXPECT_TRUE(*store_.ReadSwitch(kAlwaysOnTopKey));
-  EXPECT_FALSE(*store_.ReadSwitch(kAutoloadKey));
-  EXPECT_EQ(*store_.ReadDefaultLayout(), "");
   ASSERT_TRUE(store_.SaveIni({.autoload = true, .default_layout = "a = [b]"}));
   EXPECT_FALSE(*store_.ReadSwitch(kAlwaysOnTopKey));
   EXPECT_TRUE(*store_.ReadSwitch(kAutoloadKey));
@@ -179,34 +171,28 @@ TEST_F(Layouts, AKeyIsTheTextUpToTheFirstEqualsSign) {
 
 TEST_F(Layouts, AutoloadGivesTheChosenLayoutOrNothing) {
   struct Row {
-    std::string_view what;
     std::string_view ini;
     std::vector<LayoutRecord> records;
   };
-  const std::vector<Row> rows = {
-      {"on", "AutoloadOnStartup = 1\r\nDefaultLayout = Three\r\n", {kMain}},
-      {"the other way round", "DefaultLayout = Three\r\nAutoloadOnStartup = 1\r\n", {kMain}},
-      {"off", "AutoloadOnStartup = 0\r\nDefaultLayout = Three\r\n", {}},
-      {"no name", "AutoloadOnStartup = 1\r\nDefaultLayout = \r\n", {}},
-      {"a name that is gone", "AutoloadOnStartup = 1\r\nDefaultLayout = Four\r\n", {}},
-      {"no switch", "DefaultLayout = Three\r\n", {}},
-      {"no key", "AutoloadOnStartup = 1\r\n", {}}};
+  const std::vector<Row> rows = {{"AutoloadOnStartup = 1\r\nDefaultLayout = Three\r\n", {kMain}},
+                                 {"DefaultLayout = Three\r\nAutoloadOnStartup = 1\r\n", {kMain}},
+                                 {"AutoloadOnStartup = 0\r\nDefaultLayout = Three\r\n", {}},
+                                 {"AutoloadOnStartup = 1\r\nDefaultLayout = \r\n", {}},
+                                 {"AutoloadOnStartup = 1\r\nDefaultLayout = Four\r\n", {}},
+                                 {"DefaultLayout = Three\r\n", {}},
+                                 {"AutoloadOnStartup = 1\r\n", {}}};
   EXPECT_THAT(store_.AutoloadRecords(), IsEmpty());
   for (const Row& row : rows) {
     drive_.Write(kIni, row.ini);
     drive_.Write(kLayouts, std::string(kThree) + "[]\r\nMAIN,7,7\r\n-\r\n");
-    EXPECT_EQ(store_.AutoloadRecords(), row.records) << row.what;
+    EXPECT_EQ(store_.AutoloadRecords(), row.records) << row.ini;
   }
   drive_.Write(kIni, rows[0].ini);
   drive_.Write(kLayouts, "[Three]\r\nMAIN,400,-500\r\nMAME,?\r\n-\r\n");
   EXPECT_THAT(store_.AutoloadRecords(), ElementsAre(kMain));
 }
 
-TEST_F(Layouts, SizesAndNames) {
-  EXPECT_EQ(SizeWord(2415, 4620), "Small");
-  EXPECT_EQ(SizeWord(6345, 4620), "Medium");
-  EXPECT_EQ(SizeWord(6345, 7260), "Large");
-  EXPECT_EQ(SizeWord(2415, 7260), "");
+TEST_F(Layouts, ANameIsOneLine) {
   EXPECT_TRUE(IsLayoutName("My [first] \xE8 layout]"));
   EXPECT_FALSE(IsLayoutName(""));
   EXPECT_FALSE(IsLayoutName("two\r\nlines"));

@@ -9,8 +9,6 @@
 namespace zarvo {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Optional;
 
 constexpr std::string_view kFile = R"(C:\Zarvo\cfg\Mame.cfg)";
@@ -26,15 +24,27 @@ class CfgFile : public testing::Test {
     drive_.Write(kFile, text);
     return ReadCfg(drive_.files(), app_, mame_);
   }
-
-  static CfgValues Sample() {
-    return {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
-            .rom_path = R"(C:\Emu\Mame\Roms)",
-            .snap_path = R"(C:\Emu\Snapshot\Mame)",
-            .snap_format = "GIF",
-            .emulator_folder = "C:\\Emu\\Mame",
-            .layout_word = "up",
-            .favourites = {}};
+  // The fields that were read, in the order of the file and with "|" behind each.
+  static std::string Text(const CfgFields& fields) {
+    std::string text;
+    for (const auto& field : {fields.exe_path, fields.rom_path, fields.snap_path,
+                              fields.snap_format, fields.emulator_folder, fields.layout_word}) {
+      text += field.value_or("-") + "|";
+    }
+    if (!fields.favourites) return text + "-";
+    for (const std::string& favourite : *fields.favourites) text += favourite + "|";
+    return text;
+  }
+  [[nodiscard]] Status Write(DosFiles& files, std::vector<std::string> favourites,
+                             Emulator emulator = Emulator::kMame) {
+    return WriteCfg(files, app_, ProfileOf(emulator),
+                    {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
+                     .rom_path = R"(C:\Emu\Mame\Roms)",
+                     .snap_path = R"(C:\Emu\Snapshot\Mame)",
+                     .snap_format = "GIF",
+                     .emulator_folder = "C:\\Emu\\Mame",
+                     .layout_word = "up",
+                     .favourites = std::move(favourites)});
   }
 
   TempDrive drive_;
@@ -43,47 +53,24 @@ class CfgFile : public testing::Test {
 };
 
 TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
-  CfgValues values = Sample();
-  values.favourites = {"Zaxxon", "Puck, Man"};
-  ASSERT_TRUE(WriteCfg(drive_.files(), app_, mame_, values));
+  ASSERT_TRUE(Write(drive_.files(), {"Zaxxon", "Puck, Man"}));
   EXPECT_EQ(drive_.Read(kFile), std::string(kSample) + "\"Zaxxon\"\r\n\"Puck, Man\"\r\n");
   EXPECT_EQ(drive_.files().CurrentFolder(), "C:\\Zarvo\\cfg");
-  const CfgFields fields = ReadCfg(drive_.files(), app_, mame_);
-  EXPECT_THAT(fields.exe_path, Optional(values.exe_path));
-  EXPECT_THAT(fields.rom_path, Optional(values.rom_path));
-  EXPECT_THAT(fields.snap_path, Optional(values.snap_path));
-  EXPECT_THAT(fields.snap_format, Optional(values.snap_format));
-  EXPECT_THAT(fields.emulator_folder, Optional(values.emulator_folder));
-  EXPECT_THAT(fields.layout_word, Optional(values.layout_word));
-  EXPECT_THAT(fields.favourites, Optional(ElementsAre("Zaxxon", "Puck, Man")));
 }
 
 TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
-  const EmulatorProfile& m72 = ProfileOf(Emulator::kM72);
-  drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)", std::string(kSample) + "\"R-Type\"\r\n");
-  const CfgFields fields = ReadCfg(drive_.files(), app_, m72);
-  EXPECT_THAT(fields.layout_word, Optional(std::string("up")));
-  EXPECT_FALSE(fields.favourites);
-  CfgValues values = Sample();
-  values.favourites = {"R-Type"};
-  ASSERT_TRUE(WriteCfg(drive_.files(), app_, m72, values));
+  drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)",
+               "\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\nx");
+  EXPECT_EQ(Text(ReadCfg(drive_.files(), app_, ProfileOf(Emulator::kM72))), "E|R|S|G|F|up|-");
+  ASSERT_TRUE(Write(drive_.files(), {"R-Type"}, Emulator::kM72));
   EXPECT_EQ(drive_.Read("C:\\Zarvo\\cfg\\M72.cfg"), kSample);
 }
 
 TEST_F(CfgFile, AFileThatEndsEarlyGivesTheFieldsItHas) {
-  const CfgFields three = Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n");
-  EXPECT_THAT(three.snap_path, Optional(std::string("S")));
-  EXPECT_FALSE(three.snap_format);
-  EXPECT_FALSE(three.favourites);
-  EXPECT_FALSE(Read("").exe_path);
-  const CfgFields six = Read(kSample);
-  EXPECT_THAT(six.favourites, Optional(IsEmpty()));
-}
-
-TEST_F(CfgFile, AMissingFileGivesNothing) {
-  const CfgFields fields = ReadCfg(drive_.files(), app_, mame_);
-  EXPECT_FALSE(fields.exe_path);
-  EXPECT_FALSE(fields.favourites);
+  EXPECT_EQ(Text(ReadCfg(drive_.files(), app_, mame_)), "-|-|-|-|-|-|-") << "no file";
+  EXPECT_EQ(Text(Read("")), "-|-|-|-|-|-|-");
+  EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n")), "E|R|S|-|-|-|-");
+  EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\n")), "E|R|S|G|F|up|");
 }
 
 TEST_F(CfgFile, ReadsAValueByItsQuotesOrUpToTheNextComma) {
@@ -108,40 +95,31 @@ TEST_F(CfgFile, ReadsAValueByItsQuotesOrUpToTheNextComma) {
 }
 
 TEST_F(CfgFile, WhatCanBeWrittenReadsBackTheSame) {
-  struct Row {
-    std::string_view value;
-    bool can;
-  };
-  const std::vector<Row> rows = {{"Pac", true},       {"", true},        {" a", true},
-                                 {"a,b", true},       {"a \"b\"", true}, {"a\"", true},
-                                 {"\"a\"", false},    {" a\"", false},   {"a\",b", false},
-                                 {"a\"\r\nb", false}, {"\xE8 \"", true}, {"\"", false}};
-  for (const Row& row : rows) {
-    EXPECT_EQ(CanBeWritten(row.value), row.can) << row.value;
-    CfgValues values = Sample();
-    values.favourites = {"before", std::string(row.value), "behind"};
-    ASSERT_TRUE(WriteCfg(drive_.files(), app_, mame_, values));
+  const std::vector<std::pair<std::string, bool>> rows = {
+      {"Pac", true},     {"", true},          {" a", true},      {"a,b", true},
+      {"a \"b\"", true}, {"a\"", true},       {"\"a\"", false},  {" a\"", false},
+      {"a\",b", false},  {"a\"\r\nb", false}, {"\xE8 \"", true}, {"\"", false}};
+  for (const auto& [value, can] : rows) {
+    EXPECT_EQ(CanBeWritten(value), can) << value;
+    ASSERT_TRUE(Write(drive_.files(), {"before", value, "behind"}));
     const auto favourites = ReadCfg(drive_.files(), app_, mame_).favourites;
-    ASSERT_EQ(favourites->size(), 3U) << row.value;
-    EXPECT_EQ((*favourites)[1] == row.value, row.can) << row.value;
-    EXPECT_EQ((*favourites)[2], "behind") << row.value;
+    ASSERT_EQ(favourites->size(), 3U) << value;
+    EXPECT_EQ((*favourites)[1] == value, can) << value;
+    EXPECT_EQ((*favourites)[2], "behind") << value;
   }
 }
 
 TEST_F(CfgFile, AFileCutAnywhereGivesItsWholeLinesInFrontOfTheCut) {
-  const std::string whole = std::string(kSample) + "\"Zaxxon\"\r\n\"Asteroids\"\r\n";
-  for (std::size_t length = 0; length < whole.size(); ++length) {
-    const CfgFields fields = Read(whole.substr(0, length));
-    const auto lines = std::count(whole.begin(), whole.begin() + static_cast<long>(length), '\n');
-    if (lines >= 1) {
-      EXPECT_THAT(fields.exe_path, Optional(std::string("C:\\Emu\\Mame\\Mame.exe")));
+  const std::string lines[] = {"E", "R", "S", "G", "F", "up", "Zaxxon", "Asteroids"};
+  std::string text;
+  std::string fields;
+  for (const std::string& line : lines) {
+    const std::string whole = "\"" + line + "\"\r\n";
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+      EXPECT_THAT(Text(Read(text + whole.substr(0, length))), testing::StartsWith(fields));
     }
-    if (lines >= 5) {
-      EXPECT_THAT(fields.emulator_folder, Optional(std::string("C:\\Emu\\Mame")));
-    }
-    if (lines >= 7) {
-      EXPECT_EQ(fields.favourites->front(), "Zaxxon");
-    }
+    text += whole;
+    fields += line + "|";
   }
 }
 
@@ -149,7 +127,7 @@ TEST_F(CfgFile, AFailedWriteKeepsTheOldFileAndNamesIt) {
   drive_.Write(kFile, kSample);
   FailingFiles files(drive_.files());
   files.Fail(FileStep::kReplace, "Mame.cfg");
-  const Status written = WriteCfg(files, app_, mame_, {});
+  const Status written = Write(files, {"Zaxxon"});
   ASSERT_FALSE(written);
   EXPECT_EQ(written.error().message, "Mame.cfg: No space left on device");
   EXPECT_EQ(drive_.Read(kFile), kSample);

@@ -35,27 +35,25 @@ TEST_F(OptionRulesTest, RecordIsRedAndBoldAndExcludesPlayback) {
   EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
   CheckBox* const record = Check(panel, "chkRecord");
   CheckBox* const playback = Check(panel, "chkPlayback");
-  const auto values = [&] { return std::pair(record->Value(), playback->Value()); };
+  const auto look = [&] {
+    return std::string(record->Value() == 1 ? "record " : "") +
+           (playback->Value() == 1 ? "playback " : "") + std::to_string(record->ForeColor().value) +
+           (record->font().bold() ? " bold" : "") + playback->ToolTipText();
+  };
   Press(record);
-  EXPECT_EQ(record->ForeColor().value, 128U);
-  EXPECT_TRUE(record->font().bold());
+  EXPECT_EQ(look(), "record 128 bold Playback joystick input from file \"*.inp\" ");
   // Both go off, and no picker opens; the next click turns the wanted one on.
   Press(playback);
-  EXPECT_EQ(values(), std::pair(0, 0));
-  EXPECT_EQ(record->ForeColor().value, 0U);
-  EXPECT_FALSE(record->font().bold());
-  EXPECT_EQ(playback->ToolTipText(), " Playback joystick input from file \"*.inp\" ");
+  EXPECT_EQ(look(), "0 Playback joystick input from file \"*.inp\" ");
   TurnPlaybackOn(panel, false);
-  EXPECT_EQ(values(), std::pair(0, 0)) << "Cancel";
-  EXPECT_EQ(playback->ToolTipText(), " Playback:  <> ");
+  EXPECT_EQ(look(), "0 Playback:  <> ") << "Cancel";
   TurnPlaybackOn(panel, true);
-  EXPECT_EQ(values(), std::pair(0, 1));
-  EXPECT_EQ(playback->ToolTipText(), " Playback:  <aliens.inp> ");
+  EXPECT_EQ(look(), "playback 0 Playback:  <aliens.inp> ");
   EXPECT_EQ(panel.recording->lblHideInp, "aliens.inp");
   Press(record);
-  EXPECT_EQ(values(), std::pair(0, 0));
+  EXPECT_EQ(look(), "0 Playback:  <aliens.inp> ");
   Press(record);
-  EXPECT_EQ(values(), std::pair(1, 0));
+  EXPECT_EQ(look(), "record 128 bold Playback:  <aliens.inp> ");
   EXPECT_EQ(panel.recording->lblHideInp, "aliens.inp") << "kept";
 }
 
@@ -104,7 +102,7 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
     Qt::Key key;
     const char* text;
     Qt::KeyboardModifiers held;
-    const char* after;  // of "12" with the cursor at its end; a refused key leaves "0"
+    std::string after;  // of "12" with the cursor at its end; a refused key leaves "0"
   };
   const Key keys[] = {
       {Qt::Key_9, "9", Qt::NoModifier, "129"},      {Qt::Key_9, "9", Qt::KeypadModifier, "129"},
@@ -116,22 +114,19 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
       {Qt::Key_Return, "\r", Qt::NoModifier, "0"},  {Qt::Key_F1, "", Qt::NoModifier, "0"},
   };
   const EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
-  const std::string words =
-      "Format not valid!  |You must enter only 0-9 or|optionally '-' for negative values";
-  for (const char* name : {"txtSkipC", "txtSkipR"}) {
-    TextBox* const box = panel.picSettings->Option(name).text;
-    const bool is_row = std::string_view(name) == "txtSkipR";
+  for (const bool is_row : {false, true}) {
+    TextBox* const box = panel.picSettings->Option(is_row ? "txtSkipR" : "txtSkipC").text;
+    const std::string refusal =
+        std::string(is_row ? "! [Warning!] " : "! ") +
+        "Format not valid!  |You must enter only 0-9 or|optionally '-' for negative values";
     for (const Key& at : keys) {
-      SCOPED_TRACE(std::string(name) + " key " + std::to_string(at.key));
+      SCOPED_TRACE(box->objectName().toStdString() + " key " + std::to_string(at.key));
       box->SetText("12");
       box->end(false);
       QKeyEvent event(QEvent::KeyPress, at.key, at.held, QString::fromLatin1(at.text));
       QApplication::sendEvent(box, &event);
       EXPECT_EQ(box->Text(), at.after);
-      const bool refused = std::string_view(at.after) == "0";
-      EXPECT_EQ(TakeBoxes(),
-                refused ? std::vector<std::string>{(is_row ? "! [Warning!] " : "! ") + words}
-                        : std::vector<std::string>{});
+      EXPECT_EQ(TakeBoxes(), std::vector(at.after == "0" ? 1 : 0, refusal));
     }
     box->SetText("7");
     box->end(false);

@@ -5,14 +5,9 @@ namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class PagesTest : public PanelTest {
  protected:
-  // A record of Raine, whose seven fields are quick to read.
-  static std::string RaineRecord(const std::string& key, int mode) {
-    return "\"" + key + "\",\"C:\\Own\"," + std::to_string(mode) + ",0,0,1,0\r\n";
-  }
   static int Mode(const EmulatorPanel& panel) { return Combo(panel, "cboScreenMode")->ListIndex(); }
 };
 
@@ -37,30 +32,29 @@ TEST_F(PagesTest, EveryButtonButSettingsSavesTheCurrentGameBeforeItTurnsThePage)
       std::filesystem::remove(drive_.Host(SetPath(profile.emulator)));
       Press(panel.*at.button);
       EXPECT_EQ(Pages(panel), at.pages);
-      EXPECT_EQ(Keys(profile.emulator),
-                std::vector<std::string>{at.saves ? Caption(panel) : "(none)"});
+      EXPECT_EQ(Keys(profile.emulator), at.saves ? Caption(panel) + "|" : "(none)");
     }
   }
 }
 
 TEST_F(PagesTest, AButtonSinksUnderTheMouse) {
   const EmulatorPanel& panel = OpenConfigured(Emulator::kM72);
-  const int lefts[] = {2430, 3210, 3990, 4770, 5550};
-  ImageBox* const buttons[] = {panel.imgButSnap, panel.imgButSet, panel.imgButInfo,
-                               panel.imgButHelp, panel.imgButOpts};
-  for (int i = 0; i < 5; ++i) {
-    const auto at = [&] { return std::pair(buttons[i]->Left(), buttons[i]->Top()); };
-    EXPECT_EQ(at(), std::pair(lefts[i], 120));
-    PressMouse(buttons[i], {3, 3});
-    EXPECT_EQ(at(), std::pair(lefts[i] + 10, 130));
-    ReleaseMouse(buttons[i], {3, 3});
-    EXPECT_EQ(at(), std::pair(lefts[i], 120));
+  int left = 2430;
+  for (ImageBox* const button :
+       {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+    const auto place = [&] { return std::pair(button->Left(), button->Top()); };
+    PressMouse(button, {3, 3});
+    EXPECT_EQ(place(), std::pair(left + 10, 130));
+    ReleaseMouse(button, {3, 3});
+    EXPECT_EQ(place(), std::pair(left, 120));
+    left += 780;
   }
 }
 
 // A selection moves the caption on every page, and with it the controls of the settings page.
 TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
-  PutSettings(Emulator::kRaine, RaineRecord("Bubble Bobble", 4));
+  const std::string store = "\"Bubble Bobble\",\"C:\\Own\",4,0,0,1,0\r\n";
+  PutSettings(Emulator::kRaine, store);
   EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
   ListBox* const list = panel.games->lstRom;
   for (ImageBox* const button :
@@ -68,15 +62,10 @@ TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
     Press(button);
     SCOPED_TRACE(Pages(panel));
     PressEntry(list, 1);
-    EXPECT_EQ(Caption(panel), "Rainbow Islands");
-    EXPECT_EQ(Mode(panel), 0);
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Emu\Raine\Roms)");
+    EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Rainbow Islands 0 C:\Emu\Raine\Roms)");
     PressEntry(list, 0);
-    EXPECT_EQ(Caption(panel), "Bubble Bobble");
-    EXPECT_EQ(Mode(panel), 4);
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Own)");
-    std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
-    PutSettings(Emulator::kRaine, RaineRecord("Bubble Bobble", 4));
+    EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Bubble Bobble 4 C:\Own)");
+    PutSettings(Emulator::kRaine, store);
   }
 }
 
@@ -100,13 +89,13 @@ TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
     std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
     PressEntry(list, 1);
     PressEntry(list, 0);
-    EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("(none)")) << Pages(panel);
+    EXPECT_EQ(Keys(Emulator::kRaine), "(none)") << Pages(panel);
   }
   Press(panel.imgButSet);
   Combo(panel, "cboScreenMode")->SetListIndex(2);
   PressEntry(list, 1);
-  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("Bubble Bobble"));
-  EXPECT_EQ(Record(Emulator::kRaine, "Bubble Bobble"), R"("C:\Emu\Raine\Roms",2,0,0,0,0)");
+  EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)),
+            "\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",2,0,0,0,0\r\n");
   EXPECT_EQ(Mode(panel), 0) << "no record: the defaults";
   Combo(panel, "cboScreenMode")->SetListIndex(5);
   // The same entry again: saved and loaded once more, so nothing is lost.
@@ -114,57 +103,39 @@ TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
   EXPECT_EQ(Mode(panel), 5);
   PressEntry(list, 0);
   EXPECT_EQ(Mode(panel), 2);
-  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre("Bubble Bobble", "Rainbow Islands"));
-}
-
-TEST_F(PagesTest, TheFavouritesRunTheSameCycleAndLeaveTheOtherListAlone) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kSystem16, {"Shinobi", "Aurail"});
-  Press(panel.imgButInfo);
-  PressEntry(panel.games->lstRom, 0);
-  EXPECT_EQ(panel.favourites->lstPref->Text(), "Aurail");
-  PressEntry(panel.favourites->lstPref, 1);
-  EXPECT_EQ(Caption(panel), "Shinobi");
-  EXPECT_EQ(panel.picInfo->FieldLabel(Field::kRomFile)->Caption(), "shinobi.zip");
-  EXPECT_EQ(panel.games->lstRom->Text(), "Aurail");
+  EXPECT_EQ(Keys(Emulator::kRaine), "Bubble Bobble|Rainbow Islands|");
 }
 
 TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
   struct Case {
-    const char* name;
-    std::string store;
-    std::string favourite;
-    std::string game;
-    int horizontal;  // cboCallusHR: preset 0, default 10
-    std::string folder;
+    std::string store;  // the beginning of the file; none without
+    std::vector<std::string> favourites;
+    std::string shown;  // the game, cboCallusHR with preset 0 and default 10, the rom folder
   };
-  const std::string tail = ",0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0\r\n";
   const Case cases[] = {
-      {"no store", "(none)", "", "1941", 0, R"(C:\Emu\Callus\Roms)"},
-      {"no record", R"("x","C:\x",3)" + tail, "", "1941", 10, R"(C:\Emu\Callus\Roms)"},
-      {"a record", R"("1941","C:\Own",5)" + tail, "", "1941", 5, R"(C:\Own)"},
-      {"a favourite", R"("Strider","C:\Own",6)" + tail, "Strider", "Strider", 6, R"(C:\Own)"},
-      {"the default record", R"("[DEFAULT]","C:\All",7)" + tail, "", "1941", 7, R"(C:\All)"},
-      {"no folder", R"("1941","",5)" + tail, "", "1941", 5, R"(C:\Emu\Callus\Roms)"},
-      {"an empty line first", "\r\n" + (R"("1941","C:\Own",5)" + tail), "", "1941", 0,
-       R"(C:\Emu\Callus\Roms)"},
+      {"", {}, R"(1941 0 C:\Emu\Callus\Roms)"},
+      {R"("x","C:\x",3)", {}, R"(1941 10 C:\Emu\Callus\Roms)"},
+      {R"("1941","C:\Own",5)", {}, R"(1941 5 C:\Own)"},
+      {R"("Strider","C:\Own",6)", {"Strider"}, R"(Strider 6 C:\Own)"},
+      {R"("[DEFAULT]","C:\All",7)", {}, R"(1941 7 C:\All)"},
+      {R"("1941","",5)", {}, R"(1941 5 C:\Emu\Callus\Roms)"},
+      {"\r\n\"1941\",\"C:\\Own\",5", {}, R"(1941 0 C:\Emu\Callus\Roms)"},
   };
   for (const bool empty_caption : {false, true}) {
     for (const Case& at : cases) {
-      SCOPED_TRACE(std::string(at.name) + (empty_caption ? ", empty caption" : ""));
-      PutCfg(Emulator::kCallus, at.favourite.empty() ? std::vector<std::string>{}
-                                                     : std::vector<std::string>{at.favourite});
-      EmulatorPanel& panel = Open(Emulator::kCallus);
+      SCOPED_TRACE(at.store + (empty_caption ? ", empty caption" : ""));
+      EmulatorPanel& panel = OpenConfigured(Emulator::kCallus, at.favourites);
       std::filesystem::remove(drive_.Host(SetPath(Emulator::kCallus)));
-      if (at.store != "(none)") PutSettings(Emulator::kCallus, at.store);
+      if (!at.store.empty()) {
+        PutSettings(Emulator::kCallus, at.store + ",0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0\r\n");
+      }
       if (empty_caption) {
         panel.favourites->lstPref->SetItems(panel.favourites->lstPref->Items());
         panel.games->Fill(GameState::kAllSupported);
         panel.lblRomSettings->SetCaption("");
       }
       Press(panel.imgButSet);
-      EXPECT_EQ(Caption(panel), at.game);
-      EXPECT_EQ(Combo(panel, "cboHR")->ListIndex(), at.horizontal);
-      EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.folder);
+      EXPECT_EQ(Current(panel, "cboHR"), at.shown);
       sections_.CloseOpenPanels();
     }
   }
@@ -192,7 +163,8 @@ TEST_F(PagesTest, StartValues) {
     TakeBoxes();
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.empty_folder);
     panel.SaveSettings("now");
-    EXPECT_EQ(Record(at.emulator, "now"), "\"" + at.empty_folder + "\"," + at.record);
+    EXPECT_EQ(drive_.Read(SetPath(at.emulator)),
+              "\"now\",\"" + at.empty_folder + "\"," + at.record + "\r\n");
   }
 }
 
@@ -206,17 +178,15 @@ TEST_F(PagesTest, ApplyToAllAsksThenLeavesTheDefaultRecordAlone) {
     const std::string question =
         "? This will:|1) Erase all the previously saved configurations|2) Apply the current "
         "settings to all the games||Are you sure?";
-    boxes_.answers = {BoxAnswer::kNo};
+    boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kYes};
     Press(panel.picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question));
     EXPECT_EQ(drive_.Read(SetPath(profile.emulator)), before);
-    boxes_.answers = {BoxAnswer::kYes};
     Press(panel.picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question, "i Default configurations saved!"));
-    EXPECT_THAT(Keys(profile.emulator), ElementsAre("[DEFAULT]"));
-    const std::string game = Caption(panel);
+    EXPECT_EQ(Keys(profile.emulator), "[DEFAULT]|");
     Press(panel.imgButInfo);
-    EXPECT_THAT(Keys(profile.emulator), ElementsAre("[DEFAULT]", game));
+    EXPECT_EQ(Keys(profile.emulator), "[DEFAULT]|" + Caption(panel) + "|");
   }
 }
 
@@ -227,7 +197,7 @@ TEST_F(PagesTest, WithoutAGameTheEmptyCaptionIsSavedAndNothingBreaks) {
   for (ImageBox* const button : {panel.imgButInfo, panel.imgButSet, panel.imgButHelp}) {
     Press(button);
   }
-  EXPECT_THAT(Keys(Emulator::kRaine), ElementsAre(""));
+  EXPECT_EQ(Keys(Emulator::kRaine), "|");
   Press(panel.imgButSnap);
   EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
 }

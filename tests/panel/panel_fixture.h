@@ -16,6 +16,7 @@
 #include "fakes/recorded_boxes.h"
 #include "fakes/temp_drive.h"
 #include "panel/sections.h"
+#include "shell/looks.h"
 
 namespace zarvo {
 
@@ -84,11 +85,11 @@ class PanelTest : public testing::Test {
   void PutCfg(Emulator emulator, const std::vector<std::string>& favourites = {},
               std::string_view layout_word = "up") {
     const std::string word(ProfileOf(emulator).word);
-    std::string text =
-        Lines({R"(C:\Emu\)" + word + R"(\)" + word + ".exe", R"(C:\Emu\)" + word + R"(\Roms)",
-               R"(C:\Snaps)", "GIF", R"(C:\Emu\)" + word, std::string(layout_word)}) +
-        Lines(favourites);
-    drive_.Write(CfgPath(emulator), text);
+    const std::string folder = R"(C:\Emu\)" + word;
+    drive_.Write(CfgPath(emulator),
+                 Lines({folder + "\\" + word + ".exe", folder + R"(\Roms)", R"(C:\Snaps)", "GIF",
+                        folder, std::string(layout_word)}) +
+                     Lines(favourites));
   }
   void PutSettings(Emulator emulator, std::string_view bytes) {
     drive_.Write(SetPath(emulator), bytes);
@@ -104,30 +105,22 @@ class PanelTest : public testing::Test {
     for (const std::string& value : values) text += "\"" + value + "\"\r\n";
     return text;
   }
-  // The keys of a settings store, in its order; "(none)" without a store.
-  [[nodiscard]] std::vector<std::string> Keys(Emulator emulator) const {
-    if (!drive_.Exists(SetPath(emulator))) return {"(none)"};
-    std::vector<std::string> keys;
+  // The keys of a settings store, in its order and with "|" behind each; "(none)" without a store.
+  [[nodiscard]] std::string Keys(Emulator emulator) const {
+    if (!drive_.Exists(SetPath(emulator))) return "(none)";
+    std::string keys;
     for (const std::string& line : Split(drive_.Read(SetPath(emulator)))) {
-      keys.push_back(line.substr(1, line.find('"', 1) - 1));
+      keys += line.substr(1, line.find('"', 1) - 1) + "|";
     }
     return keys;
   }
-  // The record of a key without the key, or "(none)".
-  [[nodiscard]] std::string Record(Emulator emulator, const std::string& key) const {
-    if (!drive_.Exists(SetPath(emulator))) return "(none)";
-    for (const std::string& line : Split(drive_.Read(SetPath(emulator)))) {
-      if (line.starts_with("\"" + key + "\",")) return line.substr(key.size() + 3);
-    }
-    return "(none)";
-  }
-  static std::vector<std::string> Split(std::string_view text) {
-    std::vector<std::string> lines;
+  static std::vector<std::string> Split(std::string_view text, std::string_view by = "\r\n") {
+    std::vector<std::string> parts;
     while (!text.empty()) {
-      lines.emplace_back(text.substr(0, text.find("\r\n")));
-      text.remove_prefix(std::min(text.size(), lines.back().size() + 2));
+      parts.emplace_back(text.substr(0, text.find(by)));
+      text.remove_prefix(std::min(text.size(), parts.back().size() + by.size()));
     }
-    return lines;
+    return parts;
   }
 
   EmulatorPanel& Open(Emulator emulator) {
@@ -141,39 +134,17 @@ class PanelTest : public testing::Test {
     return Open(emulator);
   }
 
-  // What the boxes since the last call said: "i", "!" or "?" by their kind, a title that isn't the
-  // usual one in brackets, then the text with "|" for a line break.
-  std::vector<std::string> TakeBoxes() {
-    std::vector<std::string> told;
-    for (const RecordedBoxes::Shown& box : boxes_.shown) {
-      std::string line = "i ";
-      if (box.icon == BoxIcon::kExclamation) line = "! ";
-      if (box.buttons == BoxButtons::kYesNo) line = "? ";
-      if (box.title != "Zarvo v0.1") line += "[" + box.title + "] ";
-      for (const char c : box.text) line += c == '\r' ? '|' : c;
-      told.push_back(line);
-    }
-    boxes_.shown.clear();
-    return told;
-  }
+  std::vector<std::string> TakeBoxes() { return Take(boxes_); }
 
-  static std::vector<std::string> Names(const ListBox* list) {
-    std::vector<std::string> names;
-    for (int i = 0; i < list->ListCount(); ++i) names.emplace_back(list->Items().At(i));
-    return names;
-  }
   // The pages that are visible, for one look.
   static std::string Pages(const EmulatorPanel& panel) {
+    const std::pair<const Control*, const char*> all[] = {
+        {panel.picSnap->imgSnap, "img"}, {panel.picSnap, "snap"}, {panel.picSettings, "settings"},
+        {panel.picInfo, "info"},         {panel.picHelp, "help"}, {panel.picConf, "conf"}};
     std::string pages;
-    const auto note = [&](const Control& control, std::string_view name) {
-      if (control.Visible()) pages.append(pages.empty() ? "" : " ").append(name);
-    };
-    note(*panel.picSnap->imgSnap, "img");
-    note(*panel.picSnap, "snap");
-    note(*panel.picSettings, "settings");
-    note(*panel.picInfo, "info");
-    note(*panel.picHelp, "help");
-    note(*panel.picConf, "conf");
+    for (const auto& [page, name] : all) {
+      if (page->Visible()) pages.append(pages.empty() ? "" : " ").append(name);
+    }
     return pages;
   }
   static std::string Caption(const EmulatorPanel& panel) { return panel.lblRomSettings->Caption(); }
@@ -184,6 +155,11 @@ class PanelTest : public testing::Test {
   }
   static ComboBox* Combo(const EmulatorPanel& panel, std::string_view name) {
     return panel.picSettings->Option(name).combo;
+  }
+  // The game in the caption, what a combo of its settings shows, and its rom folder.
+  static std::string Current(const EmulatorPanel& panel, std::string_view combo) {
+    return Caption(panel) + " " + std::to_string(Combo(panel, combo)->ListIndex()) + " " +
+           panel.picSettings->txtRomPath->Text();
   }
   static CheckBox* Check(const EmulatorPanel& panel, std::string_view name) {
     return panel.picSettings->Option(name).check;

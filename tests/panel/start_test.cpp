@@ -48,10 +48,8 @@ TEST_F(StartTest, EnterAndDoubleClickRunTheBatchFile) {
     SCOPED_TRACE(word);
     PutEmulator(at.emulator, at.rom);
     EmulatorPanel& panel = OpenConfigured(at.emulator);
-    if (panel.games->lstRom != nullptr) {
-      panel.favourites->Add(panel.games->lstRom->Text());
-      panel.favourites->lstPref->SetListIndex(0);
-    }
+    if (panel.games->lstRom != nullptr) panel.favourites->Add(panel.games->lstRom->Text());
+    panel.favourites->lstPref->SetListIndex(0);
     const std::string run = R"(C:\Emu\)" + word + R"(> C:\Emu\)" + word + R"(\)" + word + ".exe" +
                             at.arguments + "\r\n";
     for (ListBox* const list : {panel.games->lstRom, panel.favourites->lstPref}) {
@@ -63,7 +61,7 @@ TEST_F(StartTest, EnterAndDoubleClickRunTheBatchFile) {
         EXPECT_FALSE(drive_.Exists(R"(C:\Emu\)" + word + R"(\lancia.bat)"));
       }
     }
-    EXPECT_THAT(Keys(at.emulator), ElementsAre("(none)")) << "a start saves no record";
+    EXPECT_EQ(Keys(at.emulator), "(none)") << "a start saves no record";
     EXPECT_EQ(Pages(panel), "img snap");
   }
 }
@@ -92,34 +90,31 @@ TEST_F(StartTest, TheStoredRecordRuns) {
 // also the unsaved ones.
 TEST_F(StartTest, AnotherGameBorrowsTheControls) {
   struct Case {
-    const char* store;
+    std::string store;
     const char* runs_with;
   };
   const Case cases[] = {
-      {"(none)", "-screenmode 0"},
-      {"\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",5,0,0,0,0\r\n", "-screenmode 0"},
-      {"\"Rainbow Islands\",\"C:\\Emu\\Raine\\Roms\",6,0,0,0,0\r\n", "-screenmode VB3"},
-      {"\"[DEFAULT]\",\"C:\\Emu\\Raine\\Roms\",7,0,0,0,0\r\n", "-screenmode VBAF"},
+      {"", "-screenmode 0"},
+      {R"("Bubble Bobble","C:\Emu\Raine\Roms",5,0,0,0,0)", "-screenmode 0"},
+      {R"("Rainbow Islands","C:\Emu\Raine\Roms",6,0,0,0,0)", "-screenmode VB3"},
+      {R"("[DEFAULT]","C:\Emu\Raine\Roms",7,0,0,0,0)", "-screenmode VBAF"},
   };
   PutEmulator(Emulator::kRaine, "rainbow");
   EmulatorPanel& panel = OpenConfigured(Emulator::kRaine, {"Rainbow Islands"});
   Press(panel.imgButSet);
   PressEntry(panel.games->lstRom, 0);
-  ComboBox* const mode = Combo(panel, "cboScreenMode");
   for (const Case& at : cases) {
     SCOPED_TRACE(at.store);
     std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
-    if (std::string_view(at.store) != "(none)") PutSettings(Emulator::kRaine, at.store);
-    mode->SetListIndex(2);
+    if (!at.store.empty()) PutSettings(Emulator::kRaine, at.store + "\r\n");
+    Combo(panel, "cboScreenMode")->SetListIndex(2);
     panel.picSettings->txtRomPath->SetText(R"(C:\Mine)");
     runs_.clear();
     Enter(panel.favourites->lstPref);
     EXPECT_THAT(runs_, ElementsAre(testing::HasSubstr(at.runs_with)));
-    EXPECT_EQ(Caption(panel), "Bubble Bobble");
-    EXPECT_EQ(mode->ListIndex(), 2);
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Mine)");
-    if (std::string_view(at.store) != "(none)") {
-      EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)), at.store);
+    EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Bubble Bobble 2 C:\Mine)");
+    if (!at.store.empty()) {
+      EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)), at.store + "\r\n");
     }
   }
 }
@@ -138,56 +133,52 @@ TEST_F(StartTest, EnterWithoutAGame) {
   EXPECT_THAT(runs_, IsEmpty());
 }
 
-TEST_F(StartTest, AMissingEmulatorLeadsToItsPicker) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
-    std::string shown;
-    const ModalPlay<FilePicker> play([&](FilePicker& picker) {
-      shown = picker.lblSelExeHide + " " + picker.txtShowFiltri->Text() + " " + picker.Caption();
-      picker.cmdCancel->click();
-    });
-    Enter(panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref);
-    const std::string title =
-        profile.emulator == Emulator::kRaine ? "[Warning! - No EXE found!] " : "";
-    EXPECT_THAT(TakeBoxes(),
-                ElementsAre("! " + title +
-                            "The emulator could not be found in the specified path|Please check "
-                            "the paths in section CONF"));
-    EXPECT_EQ(shown, std::string(profile.section_word) + " *.exe Emulator's Full Path");
-    EXPECT_EQ(Pages(panel), profile.emulator == Emulator::kSystem16 ? "snap conf" : "conf");
-    EXPECT_THAT(runs_, IsEmpty());
-  }
-}
-
-TEST_F(StartTest, AMissingRomLeadsToItsPicker) {
+TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
   const char* const searches[] = {"Aliens (aliens.zip)", "1941 (1941.zip)",
                                   "Bubble Bobble (bublbobl.zip)", "Aurail (aurail.zip)",
                                   "Battle Chopper (bchopper.zip)"};
   drive_.MakeFolder(R"(C:\Found)");
   for (const EmulatorProfile& profile : Profiles()) {
     SCOPED_TRACE(profile.word);
-    PutEmulator(profile.emulator, "other");
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+    const std::string word(profile.section_word);
+    const bool is_raine = profile.emulator == Emulator::kRaine;
+    const auto enter = [&]() -> EmulatorPanel& {
+      EmulatorPanel& panel = OpenConfigured(profile.emulator);
+      Enter(panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref);
+      return panel;
+    };
     std::string shown;
+    {
+      const ModalPlay<FilePicker> play([&](FilePicker& picker) {
+        shown = picker.lblSelExeHide + " " + picker.txtShowFiltri->Text() + " " + picker.Caption();
+        picker.cmdCancel->click();
+      });
+      EXPECT_EQ(Pages(enter()), profile.emulator == Emulator::kSystem16 ? "snap conf" : "conf");
+    }
+    EXPECT_THAT(TakeBoxes(),
+                ElementsAre(std::string(is_raine ? "! [Warning! - No EXE found!] " : "! ") +
+                            "The emulator could not be found in the specified path|Please check "
+                            "the paths in section CONF"));
+    EXPECT_EQ(shown, word + " *.exe Emulator's Full Path");
+
+    sections_.CloseOpenPanels();
+    PutEmulator(profile.emulator, "other");
     const ModalPlay<FolderPicker> play([&](FolderPicker& picker) {
       shown = picker.lblSelDirHide + " " + picker.Caption() + " at " + picker.dirSelDir->Path();
       EXPECT_THAT(picker.Caption(), testing::HasSubstr("(" + picker.txtPattern->Text() + ")"));
       picker.OpenAt('C', R"(C:\Found)");
       picker.cmdSeleziona->click();
     });
-    Enter(panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref);
-    const std::string title =
-        profile.emulator == Emulator::kRaine ? "[Warning! - No Rom found!] " : "";
+    const EmulatorPanel& panel = enter();
+    EXPECT_EQ(Pages(panel), profile.emulator == Emulator::kMame ? "settings" : "snap settings");
     EXPECT_THAT(TakeBoxes(),
-                ElementsAre("! " + title +
+                ElementsAre(std::string(is_raine ? "! [Warning! - No Rom found!] " : "! ") +
                             "Rom not found in the specified directory!||1) Check if the path is "
                             "correct!|2) Check if you have the rom!|3) Check if it has the right "
                             "name!"));
-    EXPECT_EQ(shown, std::string(profile.section_word) + "SETTINGS Search Rom for " +
+    EXPECT_EQ(shown, word + "SETTINGS Search Rom for " +
                          searches[static_cast<int>(profile.emulator)] + R"( at C:\Emu\)" +
                          std::string(profile.word) + R"(\Roms)");
-    EXPECT_EQ(Pages(panel), profile.emulator == Emulator::kMame ? "settings" : "snap settings");
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Found)");
     EXPECT_THAT(runs_, IsEmpty());
   }
@@ -215,104 +206,54 @@ TEST_F(StartTest, TheRomPickerOfTheSettingsPageKnowsTheParentsOfMame) {
 // Where the pickers of the configuration page open. Q is no drive.
 TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
   struct Case {
-    const char* name;
     Emulator emulator;
     Label* ConfPage::*button;
-    std::vector<std::string> lines;  // of the configuration file
-    std::string word, pattern, folder;
+    const char* cfg;  // the lines of the configuration file
+    std::string shown;
   };
-  const std::string here = "(the current folder)";
+  const auto exe = &ConfPage::cmdSfoglia;
+  const auto roms = &ConfPage::cmdSelDir;
+  const auto snaps = &ConfPage::cmdDirSnap;
   const Case cases[] = {
-      {"exe",
-       Emulator::kMame,
-       &ConfPage::cmdSfoglia,
-       {R"(C:\Emu\a.exe)"},
-       "MAME",
-       "*.exe",
-       R"(C:\Emu)"},
-      {"exe gone",
-       Emulator::kMame,
-       &ConfPage::cmdSfoglia,
-       {R"(C:\No\a.exe)"},
-       "MAME",
-       "*.exe",
-       here},
-      {"no exe", Emulator::kM72, &ConfPage::cmdSfoglia, {""}, "M72", "*.exe", here},
-      {"drive of the rom folder",
-       Emulator::kMame,
-       &ConfPage::cmdSelDir,
-       {R"(Q:\a.exe)", R"(C:\Emu)"},
-       "MAMEROM",
-       "*.zip",
-       R"(C:\Emu)"},
-      {"drive of the exe",
-       Emulator::kRaine,
-       &ConfPage::cmdSelDir,
-       {R"(Q:\a.exe)", R"(C:\Emu)"},
-       "RAINEROM",
-       "*.zip",
-       here},
-      {"no second folder",
-       Emulator::kCallus,
-       &ConfPage::cmdSelDir,
-       {R"(C:\a.exe)", R"(C:\No)", "", "GIF", R"(C:\Emu)"},
-       "CALLUSROM",
-       "*.zip",
-       here},
-      {"second folder",
-       Emulator::kM72,
-       &ConfPage::cmdSelDir,
-       {R"(C:\a.exe)", R"(C:\No)", "", "GIF", R"(C:\Emu)"},
-       "M72ROM",
-       "*.zip",
-       R"(C:\Emu\Ziproms)"},
-      {"drive of the emulator",
-       Emulator::kMame,
-       &ConfPage::cmdDirSnap,
-       {"", "", R"(C:\Emu)", "GIF", R"(Q:\m)"},
-       "MAMESNAP",
-       "*.gif",
-       here},
-      {"drive of the snaps",
-       Emulator::kSystem16,
-       &ConfPage::cmdDirSnap,
-       {"", "", R"(C:\Emu)", "JPG", R"(Q:\m)"},
-       "SYSTEM16SNAP",
-       "*.jpg",
-       R"(C:\Emu)"},
-      {"bitmaps",
-       Emulator::kCallus,
-       &ConfPage::cmdDirSnap,
-       {"", "", R"(C:\No)", "BMP", ""},
-       "CALLUSSNAP",
-       "*.bmp",
-       here},
+      {Emulator::kMame, exe, "C:\\Emu\\a.exe", "MAME *.exe C:\\Emu"},
+      {Emulator::kMame, exe, "C:\\No\\a.exe", "MAME *.exe here"},
+      {Emulator::kM72, exe, "|", "M72 *.exe here"},
+      // The drive is that of the rom folder, or that of the executable.
+      {Emulator::kMame, roms, "Q:\\a.exe|C:\\Emu", "MAMEROM *.zip C:\\Emu"},
+      {Emulator::kRaine, roms, "Q:\\a.exe|C:\\Emu", "RAINEROM *.zip here"},
+      // Some have a second folder to look at.
+      {Emulator::kCallus, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "CALLUSROM *.zip here"},
+      {Emulator::kM72, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "M72ROM *.zip C:\\Emu\\Ziproms"},
+      // The drive is that of the emulator, or that of the snaps.
+      {Emulator::kMame, snaps, "||C:\\Emu|GIF|Q:\\m", "MAMESNAP *.gif here"},
+      {Emulator::kSystem16, snaps, "||C:\\Emu|JPG|Q:\\m", "SYSTEM16SNAP *.jpg C:\\Emu"},
+      {Emulator::kCallus, snaps, "||C:\\No|BMP||", "CALLUSSNAP *.bmp here"},
   };
   drive_.MakeFolder(R"(C:\Emu\Ziproms)");
   for (const Case& at : cases) {
-    SCOPED_TRACE(at.name);
-    drive_.Write(CfgPath(at.emulator), Lines(at.lines));
+    drive_.Write(CfgPath(at.emulator), Lines(Split(at.cfg, "|")));
     EmulatorPanel& panel = Open(at.emulator);
     const std::string current = files_.CurrentFolder();
-    const auto check = [&](const std::string& word, const TextBox* pattern,
-                           const FolderList* folders) {
-      EXPECT_EQ(word, at.word);
-      EXPECT_EQ(pattern->Text(), at.pattern);
-      EXPECT_EQ(folders->Path(), at.folder == here ? current : at.folder);
+    std::string shown;
+    const auto show = [&](const std::string& word, const TextBox* pattern,
+                          const FolderList* folders) {
+      const std::string folder = folders->Path();
+      shown = word + " " + pattern->Text() + " " + (folder == current ? "here" : folder);
     };
-    if (at.button == &ConfPage::cmdSfoglia) {
+    if (at.button == exe) {
       const ModalPlay<FilePicker> play([&](FilePicker& picker) {
-        check(picker.lblSelExeHide, picker.txtShowFiltri, picker.dirSelExe);
+        show(picker.lblSelExeHide, picker.txtShowFiltri, picker.dirSelExe);
         picker.cmdCancel->click();
       });
       Press(panel.picConf->*at.button);
     } else {
       const ModalPlay<FolderPicker> play([&](FolderPicker& picker) {
-        check(picker.lblSelDirHide, picker.txtPattern, picker.dirSelDir);
+        show(picker.lblSelDirHide, picker.txtPattern, picker.dirSelDir);
         picker.cmdCancel->click();
       });
       Press(panel.picConf->*at.button);
     }
+    EXPECT_EQ(shown, at.shown) << at.cfg;
     sections_.CloseOpenPanels();
   }
 }

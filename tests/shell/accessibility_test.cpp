@@ -95,7 +95,6 @@ TEST_F(AccessibilityTest, AMessageBoxSaysItsText) {
     seen = true;
     Visit(*box, 2);
     EXPECT_EQ(box->objectName().toStdString(), "msgBox");
-    EXPECT_EQ(box->text().toStdString(), "<b>A</b>\nB");
     box->button(QMessageBox::No)->click();
   });
   timer.start(0);
