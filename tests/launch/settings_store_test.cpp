@@ -4,19 +4,13 @@
 
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
+#include "platform/in_brief.h"
 
 namespace zarvo {
 namespace {
 
 constexpr std::string_view kStore = R"(C:\Zarvo\cfg\Raine.set)";
 constexpr std::string_view kTemporary = R"(C:\Zarvo\cfg\Raineset.tmp)";
-
-// The bytes of a store that is written here with ' for " and | for CR and LF.
-std::string Bytes(std::string_view text) {
-  std::string bytes;
-  for (const char c : text) bytes += c == '|' ? "\r\n" : std::string(1, c == '\'' ? '"' : c);
-  return bytes;
-}
 
 // Raine's record is the shortest: rom folder, three lists, two check boxes.
 class SettingsStore : public testing::Test {

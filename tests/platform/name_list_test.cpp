@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/names.h"
+#include "platform/in_brief.h"
 
 namespace zarvo {
 namespace {
