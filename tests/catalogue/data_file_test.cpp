@@ -71,21 +71,6 @@ TEST_F(DataFile, CutAtEveryLengthGivesWhatIsComplete) {
   }
 }
 
-TEST_F(DataFile, ReadsPastLinesThatAreTooLongAndBinaryJunk) {
-  std::string junk;
-  unsigned state = 12345;
-  for (int i = 0; i < 200000; ++i) {
-    state = state * 1103515245 + 12345;
-    junk += static_cast<char>(state >> 16);
-  }
-  const std::string name(32000, 'n');
-  PutData(junk + "\r\n" + std::string(40000, 'x') + "\r\n" + name + ";long;\r\n" + "Next;" +
-          std::string(40000, 'y') + ";\r\nEnd;end;\r\n");
-  EXPECT_EQ(RomOf(name), "long");
-  EXPECT_EQ(RomOf("Next"), "(none)");
-  EXPECT_EQ(RomOf("End"), "end");
-}
-
 TEST_F(DataFile, TheHeaderIsTakenByPositionAsFarAsItGoes) {
   EXPECT_EQ(HeaderOf(), StringList()) << "no file";
   std::string rest;

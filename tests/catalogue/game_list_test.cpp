@@ -75,16 +75,6 @@ TEST_F(GameList, WithoutTheFileOfItsStateTheListStaysAsItWas) {
   EXPECT_THAT(Filled(GameState::kClones), IsEmpty());
 }
 
-TEST_F(GameList, HoldsAsManyGamesAsAListCan) {
-  std::string bytes;
-  for (int game = 0; game < 40000; ++game)
-    bytes += "Game " + std::to_string(10000 + game) + ";g;\n";
-  PutData(bytes);
-  const StringList names = Filled(GameState::kAllSupported);
-  ASSERT_EQ(names.size(), 32767U);
-  EXPECT_EQ(names.back(), "Game 42766");
-}
-
 TEST_F(GameList, AvailableAndMissingReadTheScanFileAlone) {
   PutScan(Bytes("'Zeta;Y'|'Beta;N'|'alpha;Y'\n''||'|'No mark'|'Lower;y'|") +
           "'Odd;more;Y'\r\n\"Unended;N");

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 #include "import/import_fixture.h"
 
 namespace zarvo {
@@ -41,42 +39,25 @@ TEST(CatalogueBuilder, SortsAsTheGameListDoesAndNoTwoGamesShareAName) {
 }
 
 TEST(CatalogueBuilder, TakesWhatIsAskedFor) {
-  using Ask = std::function<void(ImportOptions&)>;
-  const std::tuple<Ask, LeftOut, int, const char*> cases[] = {
-      {[](auto& o) {
-         o.years = {{1981, 1989}, {1996, 1996}};
-       },  //
-       LeftOut::kYear, 4, "c64 mslug mslugb"},
-      {[](auto& o) { o.unknown_years = true; }, LeftOut::kYear, 5, "empty pacman"},
-      {[](auto& o) { o.arcade = true; },  //
-       LeftOut::kNotArcade, 1, "empty mslug mslugb pacman puckman"},
-      {[](auto& o) { o.working = true; },  //
-       LeftOut::kNotWorking, 1, "c64 empty mslug mslugb puckman"},
-      {[](auto& o) {
-         o.drivers = {"x", "c64.cpp"};
-       },  //
-       LeftOut::kDriver, 4, "c64 mslug mslugb"},
-      // The makers that are asked for are those spelled anew.
-      {[](auto& o) {
-         o.makers = {"Namco", "bootleg"};
-         o.maker_names = {{"Namco (Midway license)", "Namco"}};
-       },
-       LeftOut::kMaker, 4, "mslugb pacman puckman"},
-      // A clone has the genre of its parent.
-      {[](auto& o) {
-         o.with_genre = true;
-         o.genres = {{"puckman", "Labyrinth"}, {"mslugb", "Action"}};
-       },
-       LeftOut::kNoGenre, 3, "mslugb pacman puckman"},
+  const std::tuple<std::vector<std::string>, LeftOut, int, const char*> cases[] = {
+      {{"--years=1981-1989,1996"}, LeftOut::kYear, 4, "c64 mslug mslugb "},
+      {{"--years=????"}, LeftOut::kYear, 5, "empty pacman "},
+      {{"--arcade"}, LeftOut::kNotArcade, 1, "empty mslug mslugb pacman puckman "},
+      {{"--working"}, LeftOut::kNotWorking, 1, "c64 empty mslug mslugb puckman "},
+      {{"--driver=x", "--driver=c64.cpp"}, LeftOut::kDriver, 4, "c64 mslug mslugb "},
+      // Makers as they are spelled anew; a clone has the genre of its parent.
+      {{"--maker=Namco", "--maker=bootleg"}, LeftOut::kMaker, 4, "mslugb pacman puckman "},
+      {{"--with-genre"}, LeftOut::kNoGenre, 3, "mslugb pacman puckman "},
   };
-  for (const auto& [ask, reason, left, expected] : cases) {
-    ImportOptions options;
-    ask(options);
+  for (const auto& [words, reason, left, expected] : cases) {
+    ImportOptions options = ParseOptions(words).value();
+    options.maker_names = {{"Namco (Midway license)", "Namco"}};
+    options.genres = {{"puckman", "Labyrinth"}, {"mslugb", "Action"}};
     const Imported imported = ImportText(TestList("listxml.xml"), options);
     std::string roms;
     for (const std::string& game : imported.games) {
       const std::size_t begin = game.find(';') + 1;
-      roms += (roms.empty() ? "" : " ") + game.substr(begin, game.find(';', begin) - begin);
+      roms += game.substr(begin, game.find(';', begin) - begin) + " ";
     }
     EXPECT_EQ(roms, expected);
     EXPECT_EQ(imported.Left(reason), left) << expected;

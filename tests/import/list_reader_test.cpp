@@ -212,14 +212,5 @@ TEST(ListReader, SeesACabinetThatCanBeATable) {
   EXPECT_FALSE(cocktail("<dipvalue name=\"Cockpit\"/><dipvalue value=\"1\"/><a/>"));
 }
 
-TEST(InputWindow, CountsLinesInPiecesOfAnySize) {
-  std::string text;
-  for (int i = 0; i < 9000; ++i) text += i % 3 == 0 ? "\n" : "\n.";
-  for (std::size_t size = 0; size < text.size(); size += 997) {
-    const auto counted = std::count(text.begin(), text.begin() + static_cast<long>(size), '\n');
-    EXPECT_EQ(CountLineFeeds(text.data(), size), static_cast<std::size_t>(counted)) << size;
-  }
-}
-
 }  // namespace
 }  // namespace zarvo

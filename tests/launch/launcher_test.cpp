@@ -6,6 +6,7 @@
 #include <array>
 #include <filesystem>
 #include <set>
+#include <sstream>
 
 #include "fakes/failing_files.h"
 #include "fakes/recorded_boxes.h"
@@ -49,10 +50,14 @@ class ScriptedPanel : public LaunchPanel {
 // Each emulator stands in C:\Emu\<word>; the archives that a game's record names in C:\Mine.
 class LauncherTest : public testing::Test {
  protected:
-  LauncherTest() { app_.ProgramFolder = "C:\\Zarvo"; }
+  LauncherTest() {
+    app_.ProgramFolder = "C:\\Zarvo";
+    app_.messages.MsgNoRom = "no rom";
+    app_.messages.MsgRomOverwrite = "overwrite?";
+  }
 
   // Archives are named between blanks.
-  void Use(const EmulatorProfile& profile, std::string_view mine, std::string_view own = "") {
+  void Use(const EmulatorProfile& profile, const std::string& mine, const std::string& own = "") {
     profile_ = &profile;
     panel_ = ScriptedPanel();
     folder_ = "C:\\Emu\\" + std::string(profile.word);
@@ -66,11 +71,11 @@ class LauncherTest : public testing::Test {
     for (const auto& [folder, names, bytes] :
          {std::tuple("C:\\Mine", mine, "mine"), {own_.c_str(), own, "own"}}) {
       drive_.MakeFolder(folder);
-      std::istringstream words{std::string(names)};
+      std::istringstream words(names);
       for (std::string name; words >> name;) drive_.Write(JoinPath(folder, name + ".ZIP"), bytes);
     }
   }
-  void UseMame(std::string_view mine, std::string_view own = "") {
+  void UseMame(const std::string& mine, const std::string& own = "") {
     Use(ProfileOf(Emulator::kMame), mine, own);
   }
   void UseOwnFolder() { panel_.options.rom_folder = own_; }
@@ -96,34 +101,22 @@ class LauncherTest : public testing::Test {
     EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
     EXPECT_TRUE(boxes_.answers.empty()) << "a question didn't come";
     std::string told;
-    for (const auto& box : boxes_.shown) told += Told(box) + ": ";
+    for (const auto& box : boxes_.shown) {
+      EXPECT_EQ(box.icon, BoxIcon::kExclamation) << box.text;
+      told += (box.title == "Zarvo v0.1" ? "" : box.title + "|") + box.text + ": ";
+    }
     constexpr std::array kEnds = {"ran", "no emulator", "no rom", "refused", "unknown", "failed"};
     return told + kEnds[static_cast<std::size_t>(end)] + found;
   }
 
-  // The rom that a question is about, "both" for that on both folders; of a warning the words.
-  std::string Told(const RecordedBoxes::Shown& box) const {
-    const std::string title = box.title == "Zarvo v0.1" ? "" : box.title + "|";
-    if (box.buttons != BoxButtons::kYesNo) {
-      EXPECT_TRUE(box.icon == BoxIcon::kExclamation && box.buttons == BoxButtons::kOk);
-      return title + (box.text == app_.messages.MsgNoRom ? "MsgNoRom" : box.text);
-    }
-    if (box.text == kBothStand) return title + "both?";
-    const std::size_t end = box.text.find(": " + app_.messages.MsgRomOverwrite);
-    return title + (end == std::string::npos ? box.text : box.text.substr(0, end) + "?");
-  }
-
   [[nodiscard]] std::string Archives() const {
-    std::set<std::string> archives;
+    std::string archives;
     const auto entries = drive_.files().ListFolder(own_);
-    if (!entries) return "";
-    for (const FolderEntry& entry : *entries) {
-      if (!EqualNoCase(entry.name.substr(entry.name.find('.') + 1), "zip")) continue;
-      archives.insert(" " + entry.name + "=" + drive_.Read(JoinPath(own_, entry.name)));
+    for (const FolderEntry& entry : entries ? *entries : std::vector<FolderEntry>()) {
+      if (!MatchesPattern(entry.name, "*.zip")) continue;
+      archives += " " + entry.name + "=" + drive_.Read(JoinPath(own_, entry.name));
     }
-    std::string text;
-    for (const std::string& archive : archives) text += archive;
-    return text;
+    return archives;
   }
 
   mutable TempDrive drive_;
@@ -152,8 +145,8 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
     SCOPED_TRACE(profile.word);
     const bool mame = profile.emulator == Emulator::kMame;
     const std::string no_rom = profile.emulator == Emulator::kRaine
-                                   ? "Warning! - No Rom found!|MsgNoRom: no rom"
-                                   : "MsgNoRom: no rom";
+                                   ? "Warning! - No Rom found!|no rom: no rom"
+                                   : "no rom: no rom";
     Use(profile, "SF2");
     for (const char* folder : {"C:\\Nowhere", "", "Mine"}) {
       panel_.options.rom_folder = folder;
@@ -171,9 +164,9 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
 
     Use(profile, "sf2", "sf2");
     boxes_.answers = {BoxAnswer::kNo};
-    EXPECT_EQ(Start(), "sf2?: refused");
+    EXPECT_EQ(Start(), "sf2: overwrite?: refused");
     boxes_.answers = {BoxAnswer::kYes};
-    EXPECT_EQ(Start(), "sf2?: ran with sf2.ZIP=own");
+    EXPECT_EQ(Start(), "sf2: overwrite?: ran with sf2.ZIP=own");
 
     Use(profile, "", "sf2");
     EXPECT_EQ(Start(), no_rom) << "no question for what the rom folder lacks";
@@ -237,15 +230,19 @@ TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
   const std::vector<Row> rows = {
       {"sf", "sf", "", {}, "ran with sf.zip=mine"},
       {"sf", "sf2 sf", "", {}, "ran with sf2.zip=mine"},
-      {"neogeo", "neogeo", "", {}, "MsgNoRom: no rom"},
+      {"neogeo", "neogeo", "", {}, "no rom: no rom"},
       {"neogeo", "sf2", "", {}, "ran with sf2.zip=mine"},
-      {"sf", "sf2", "sf2", {yes}, "sf2?: ran with sf2.ZIP=own"},
-      {"sf", "sf2 sf", "sf2", {yes, yes}, "sf2?: both?: ran with sf2.ZIP=own"},
-      {"sf", "sf2 sf", "sf2", {yes, no}, "sf2?: both?: refused"},
-      {"neogeo", "sf2 neogeo", "sf2", {yes}, "sf2?: MsgNoRom: no rom"},
-      {"sf", "sf", "sf", {yes}, "sf?: ran with sf.ZIP=own"},
-      {"sf", "sf", "sf", {no}, "sf?: refused"},
-      {"..\\Emu\\secret", "", "", {}, "MsgNoRom: no rom"}};
+      {"sf", "sf2", "sf2", {yes}, "sf2: overwrite?: ran with sf2.ZIP=own"},
+      {"sf",
+       "sf2 sf",
+       "sf2",
+       {yes, yes},
+       "sf2: overwrite?: " + kBothStand + ": ran with sf2.ZIP=own"},
+      {"sf", "sf2 sf", "sf2", {yes, no}, "sf2: overwrite?: " + kBothStand + ": refused"},
+      {"neogeo", "sf2 neogeo", "sf2", {yes}, "sf2: overwrite?: no rom: no rom"},
+      {"sf", "sf", "sf", {yes}, "sf: overwrite?: ran with sf.ZIP=own"},
+      {"sf", "sf", "sf", {no}, "sf: overwrite?: refused"},
+      {"..\\Emu\\secret", "", "", {}, "no rom: no rom"}};
   for (const Row& row : rows) {
     UseMame(row.mine, row.own);
     drive_.Write("C:\\Emu\\secret.zip", "secret");
@@ -257,7 +254,7 @@ TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
     UseMame("", parent);
     UseOwnFolder();
     panel_.parent = parent;
-    EXPECT_EQ(Start(), parent == "sf" ? "ran with sf.ZIP=own" : "MsgNoRom: no rom");
+    EXPECT_EQ(Start(), parent == "sf" ? "ran with sf.ZIP=own" : "no rom: no rom");
   }
   UseMame("sf2");
   std::filesystem::remove(drive_.Host(own_));

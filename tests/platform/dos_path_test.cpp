@@ -8,6 +8,7 @@
 namespace zarvo {
 namespace {
 
+using namespace std::string_view_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -52,12 +53,12 @@ TEST(DosPath, KnowsWhatDosCanName) {
   for (const char* name : {"A", "MAME.EXE", "12345678.123", "m72", "PUCKMA~1.ZIP", "a_b-c!.$&#"}) {
     EXPECT_TRUE(IsDosName(name)) << name;
   }
-  for (const char* name :
-       {"",     ".",          "..",  ".cfg",    "a.",   "123456789", "a.1234", "a.b.c",
-        "a b",  "a.b ",       "a+b", "a,b",     "a;b",  "a=b",       "a[b",    "a:b",
-        "a\\b", "a/b",        "a*",  "a?",      "a\"b", "a|b",       "a<b",    "100%",
-        "\x01", "Pok\xE9mon", "con", "AUX.txt", "lpt1", "Com9.x"}) {
+  for (const char* name : {"", ".", "..", ".cfg", "a.", "123456789", "a.1234", "a.b.c", "a.b ",
+                           "con", "AUX.txt", "lpt1", "Com9.x"}) {
     EXPECT_FALSE(IsDosName(name)) << name;
+  }
+  for (const char c : " +,;=[:\\/*?\"|<%\x01\xE9"sv) {
+    EXPECT_FALSE(IsDosName(std::string("a") + c + "b")) << c;
   }
 }
 
@@ -66,14 +67,12 @@ TEST(DosPath, KnowsNamesThatCannotLeadElsewhere) {
                            "contra", "caf\xE9", ".hidden", "a~1", "a+b#"}) {
     EXPECT_TRUE(IsPlainName(name)) << name;
   }
-  for (const char* name :
-       {"",      ".",   "..",  "...", "a\\b",    "a/b",  "..\\a", "C:a", "a*",  "a?",
-        "\"a\"", "'a'", "`a`", "a b", "a\xA0z",  "a\tb", "a\nb",  "a|b", "a>b", "a<b",
-        "a&b",   "a;b", "$a",  "%a%", "a^b",     "a!b",  "(a)",   "{a}", "[a]", "a=b",
-        "a,b",   "@a",  "-a",  "con", "NUL.zip", "\x7F", "\x81"}) {
+  for (const char* name : {"", ".", "..", "...", "..\\a", "C:a", "-a", "con", "NUL.zip"}) {
     EXPECT_FALSE(IsPlainName(name)) << name;
   }
-  EXPECT_FALSE(IsPlainName(std::string_view("a\0b", 3)));
+  for (const char c : "\\/*?\"'`<>|&;$%^!(){}[]=,@: \xA0\t\n\x7F\x81\0"sv) {
+    EXPECT_FALSE(IsPlainName(std::string("a") + c + "b")) << c;
+  }
 }
 
 TEST(DosPath, PatternsMatchAsInAFileList) {

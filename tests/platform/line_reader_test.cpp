@@ -3,30 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <sstream>
+
+#include "platform/piece_source.h"
 
 namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// Gives its text in pieces of a fixed size, as a pipe or a slow disk may.
-class PieceSource : public ByteSource {
- public:
-  PieceSource(std::string text, std::size_t piece) : text_(std::move(text)), piece_(piece) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t count = text_.copy(buffer, std::min(size, piece_), at_);
-    at_ += count;
-    return count;
-  }
-
- private:
-  std::string text_;
-  std::size_t piece_;
-  std::size_t at_ = 0;
-};
 
 std::vector<std::string> Lines(const std::string& text, std::size_t piece = 1 << 20) {
   LineReader reader(std::make_unique<PieceSource>(text, piece));
