@@ -61,12 +61,5 @@ TEST(FilterItems, OddManufacturersStandToTheByteInTheirPlace) {
   for (const auto& [place, name] : odd) EXPECT_EQ(items[place], name);
 }
 
-TEST(M72Games, StandInTheirOwnOrder) {
-  EXPECT_THAT(M72Games(),
-              ElementsAre("Battle Chopper", "Dragon Breed", "Gallop - Armed Police Unit",
-                          "Hammerin'Harry", "Image Fight", "Legend of Hero Tonma", "Mr.Heli (JP)",
-                          "Ninja Spirit", "R-Type (US)", "R-Type (JP)", "R-Type 2", "X-Multiply"));
-}
-
 }  // namespace
 }  // namespace zarvo

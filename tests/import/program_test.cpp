@@ -39,8 +39,12 @@ TEST_F(ImportProgram, WritesTheFileAndASummary) {
   ASSERT_EQ(Run("-o out.dat " + list_), 0) << Said();
   EXPECT_THAT(Output(), testing::StartsWith("*M.A.M.E.\r\n*Arcade\r\n*0.251\r\n"));
   EXPECT_THAT(Output(), testing::EndsWith("Namco;n/a;n/a;n/a;\r\n"));
-  EXPECT_THAT(Said(), HasSubstr("6 games of 12 entries in the list\n"));
-  EXPECT_THAT(Said(), HasSubstr("1 left out: devices\n"));
+  EXPECT_EQ(Said(),
+            "       6 games of 12 entries in the list\n       3 originals\n       1 clones\n"
+            "       2 Neo-Geo games\n       1 left out: BIOS sets\n       1 left out: devices\n"
+            "       1 left out: mechanical machines\n       1 left out: sets that can't be run\n"
+            "       1 left out: sets whose name is no file name\n"
+            "       1 left out: sets listed twice\n");
   EXPECT_EQ(FileCount(), 2);
   const std::string file = Output();
   ASSERT_EQ(Run("--quiet < " + list_ + " > out.dat"), 0);

@@ -11,6 +11,7 @@
 #include "fakes/failing_files.h"
 #include "fakes/recorded_boxes.h"
 #include "fakes/temp_drive.h"
+#include "platform/dos_path.h"
 
 namespace zarvo {
 namespace {
@@ -80,10 +81,10 @@ class LauncherTest : public testing::Test {
   }
   void UseOwnFolder() { panel_.options.rom_folder = own_; }
 
-  std::string Start() { return StartWith(drive_.files()); }
+  std::string Start() { return Start(drive_.files()); }
   // What the boxes said and how the launch ended; after a run with the archives that it found. What
   // stood on the drive stands there again.
-  std::string StartWith(DosFiles& files) {
+  std::string Start(DosFiles& files) {
     const std::string before = Archives();
     batch_.clear();
     boxes_.shown.clear();
@@ -159,7 +160,7 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
     FailingFiles files(drive_.files());
     files.Fail(FileStep::kCopy, "sf2.zip");
     Use(profile, "SF2");
-    EXPECT_EQ(StartWith(files),
+    EXPECT_EQ(Start(files),
               mame ? R"(C:\Emu\Mame\roms\sf2.zip: No space left on device: failed)" : no_rom);
 
     Use(profile, "sf2", "sf2");
@@ -258,7 +259,7 @@ TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
   }
   UseMame("sf2");
   std::filesystem::remove(drive_.Host(own_));
-  EXPECT_EQ(StartWith(drive_.files()), "ran with sf2.zip=mine") << "MAME makes its rom folder";
+  EXPECT_EQ(Start(), "ran with sf2.zip=mine") << "MAME makes its rom folder";
 }
 
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
@@ -271,7 +272,7 @@ TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
     panel_.parent = "sf";
     FailingFiles files(drive_.files());
     files.Fail(step, name);
-    EXPECT_EQ(StartWith(files), message + ": failed");
+    EXPECT_EQ(Start(files), message + ": failed");
   }
   UseMame("sf2");
   run_result_ = Error{"DOSBox is not installed."};

@@ -42,13 +42,7 @@ TEST(OptionTable, EveryControlSaysWhatItIsInARoomOfItsOwnOnWholePixels) {
   }
 }
 
-TEST(OptionTable, DefaultsTakeTheConfiguredRomFolderOrTheFixedOne) {
-  const EmulatorProfile& callus = ProfileOf(Emulator::kCallus);
-  EXPECT_EQ(DefaultValues(callus, "C:\\Mine").rom_folder, "C:\\Mine");
-  EXPECT_EQ(DefaultValues(callus, "").rom_folder, "C:\\emu\\callus");
-}
-
-TEST(OptionTable, PresetsOfTheSettingsPage) {
+TEST(OptionTable, PresetsOfTheSettingsPageAndTheFixedRomFolder) {
   const std::pair<Emulator, std::string> rows[] = {
       {Emulator::kMame,
        " cboScreenRes=0 cboMonitor=0 cboFrames=0 cboSoundCard=1 cboSampleRate=1 cboControls=0"
@@ -70,6 +64,7 @@ TEST(OptionTable, PresetsOfTheSettingsPage) {
     }
     EXPECT_EQ(found, presets);
   }
+  EXPECT_EQ(DefaultValues(ProfileOf(Emulator::kCallus), "").rom_folder, "C:\\emu\\callus");
 }
 
 }  // namespace

@@ -159,33 +159,19 @@ TEST_F(RunTest, WhatCannotBeRunIsSaidPlainly) {
   EXPECT_THAT(Planned(), HasSubstr("executable"));
 }
 
-// Looks at the configuration while the child would run.
-class LookingRunner : public ChildRunner {
- public:
-  RunOutcome Run(const HostCommand& command) override {
-    std::ifstream file(command.arguments.at(2));
-    seen.assign(std::istreambuf_iterator<char>(file), {});
-    mode = fs::status(command.arguments.at(2)).permissions();
-    return {};  // not started
-  }
-  std::string seen;
-  fs::perms mode{};
-};
-
 TEST_F(RunTest, TheConfigurationStandsForTheRunAndIsDeletedAfterIt) {
-  const std::string path = drive_.root() / "run.conf";
-  const RunPlan plan = {{"/bin/dosbox", {"-userconf", "-conf", path}, "/"}, "[autoexec]\n", path};
-  LookingRunner runner;
-  EXPECT_FALSE(CarryOut(plan, runner)->started);
-  EXPECT_EQ(runner.seen, "[autoexec]\n");
-  EXPECT_EQ(runner.mode, fs::perms(0600));
+  const fs::path path = drive_.root() / "run.conf";
+  const fs::path seen = drive_.root() / "seen";
+  const RunPlan plan = {{"/bin/cp", {"-p", path, seen}, "/"}, "[autoexec]\n", path};
+  EXPECT_TRUE(CarryOut(plan, runner_)->started);
+  EXPECT_EQ(drive_.Read("C:\\seen"), "[autoexec]\n");
+  EXPECT_EQ(fs::status(seen).permissions(), fs::perms(0600));
   EXPECT_FALSE(fs::exists(path));
 
   // A file that somebody laid there is neither used nor deleted.
-  std::ofstream(path) << "foreign";
-  runner.seen = "not run";
-  EXPECT_THAT(CarryOut(plan, runner).error().message, HasSubstr("File exists"));
-  EXPECT_EQ(runner.seen, "not run");
+  fs::rename(seen, path);
+  EXPECT_THAT(CarryOut(plan, runner_).error().message, HasSubstr("File exists"));
+  EXPECT_FALSE(fs::exists(seen));
   EXPECT_TRUE(fs::exists(path));
 }
 
