@@ -49,10 +49,9 @@ Expected ReadExpected(const EmulatorProfile& profile) {
   return expected;
 }
 
-class CommandLineOf : public testing::TestWithParam<Emulator> {};
-
-TEST_P(CommandLineOf, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
-  const EmulatorProfile& profile = ProfileOf(GetParam());
+// Each at each of its values, all others at their defaults.
+void ExpectPieces(const EmulatorProfile& profile) {
+  const Emulator emulator = profile.emulator;
   const std::string word(profile.word);
   const CommandInput defaults{
       .emulator_path = "C:\\Emu\\" + word + "\\" + word + ".exe",
@@ -61,10 +60,10 @@ TEST_P(CommandLineOf, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
       .recording = "first.inp",
       .now = {.year = 2004, .month = 12, .day = 1, .hour = 23, .minute = 7, .second = 30}};
   const auto [head, sayings] = ReadExpected(profile);
-  const auto options = OptionsOf(GetParam());
+  const auto options = OptionsOf(emulator);
   std::map<std::string, std::vector<std::string>> items;
   for (const Saying& saying : sayings) {
-    const std::size_t index = OptionIndex(GetParam(), saying.option);
+    const std::size_t index = OptionIndex(emulator, saying.option);
     const bool is_text = options[index].kind == OptionKind::kText;
     auto& listed = items[saying.option];
     if (options[index].kind == OptionKind::kCombo && saying.value != "-1") {
@@ -78,7 +77,7 @@ TEST_P(CommandLineOf, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
     value = {.number = is_text ? 0 : std::stoi(saying.value), .text = saying.value};
     std::string line = head;
     for (const Saying& one : sayings) {
-      const std::size_t other = OptionIndex(GetParam(), one.option);
+      const std::size_t other = OptionIndex(emulator, one.option);
       const OptionValue& at = input.options.values[other];
       const bool says = options[other].kind == OptionKind::kText
                             ? one.value == at.text
@@ -95,12 +94,9 @@ TEST_P(CommandLineOf, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, CommandLineOf,
-                         testing::Values(Emulator::kMame, Emulator::kCallus, Emulator::kRaine,
-                                         Emulator::kSystem16, Emulator::kM72),
-                         [](const auto& named) {
-                           return std::string(ProfileOf(named.param).word);
-                         });
+TEST(CommandLine, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
+  for (const EmulatorProfile& profile : Profiles()) ExpectPieces(profile);
+}
 
 // Whole lines, from options that act on one another.
 struct WholeLine {
