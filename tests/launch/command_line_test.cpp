@@ -108,17 +108,11 @@ struct WholeLine {
 TEST(CommandLine, WholeLines) {
   const std::vector<WholeLine> rows = {
       {Emulator::kMame, {{"cboSoundCard", 0}, {"cboSampleRate", 0}}, " -ignorecfg -soundcard 0"},
-      {Emulator::kMame,
-       {{"chkL90", 1}, {"chkR90", 1}, {"cboVesaMode", 2}, {"chkTweaked", 1}, {"cboGamma", 10}},
-       " -ignorecfg -soundcard 1 -gamma 1.00 -tweak -vesamode vesa2b -ror -rol"},
       {Emulator::kMame, {{"chkPlayback", 1}}, " -ignorecfg -soundcard 1"},
       {Emulator::kCallus,
        {{"chkNoSound", 1}, {"cboVR", 2}, {"cboHR", 13}, {"cboDevice2", -1}, {"chkStereo", 1}},
        " -resv 384 224 -res 800 600 -frameskip AUTO -nosound -setinput 1 KEY1"
        " -setinput 3 KEY1 -setinput 4 KEY1 -stereo ON"},
-      {Emulator::kSystem16,
-       {{"chkAnalogJoy", 1}, {"cboControls", 5}},
-       " -RX 320 -RY 240 -SCANLINES -NOTITLE -SOUNDCARD 0 -R 22050 -JOYTYPE 12 -JOY"},
       {Emulator::kM72, {{"cboVR", 1}}, " -r 22050"}};
   for (const WholeLine& row : rows) {
     CommandInput input{.emulator_path = "emu.exe",

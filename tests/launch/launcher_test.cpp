@@ -219,38 +219,28 @@ TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
 
 // What MAME does with the archives of a clone and its parent, by where they stand.
 TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
-  struct Row {
-    const char* parent;
-    const char* mine;
-    const char* own;
-    std::deque<BoxAnswer> answers;
-    std::string told;
+  const auto play = [this](const char* parent, const char* mine, const char* own,
+                           std::string_view answers) {
+    UseMame(mine, own);
+    panel_.parent = parent;
+    for (const char c : answers) {
+      boxes_.answers.push_back(c == 'y' ? BoxAnswer::kYes : BoxAnswer::kNo);
+    }
+    return Start();
   };
-  const auto yes = BoxAnswer::kYes;
-  const auto no = BoxAnswer::kNo;
-  const std::vector<Row> rows = {
-      {"sf", "sf", "", {}, "ran with sf.zip=mine"},
-      {"sf", "sf2 sf", "", {}, "ran with sf2.zip=mine"},
-      {"neogeo", "neogeo", "", {}, "no rom: no rom"},
-      {"neogeo", "sf2", "", {}, "ran with sf2.zip=mine"},
-      {"sf", "sf2", "sf2", {yes}, "sf2: overwrite?: ran with sf2.ZIP=own"},
-      {"sf",
-       "sf2 sf",
-       "sf2",
-       {yes, yes},
-       "sf2: overwrite?: " + kBothStand + ": ran with sf2.ZIP=own"},
-      {"sf", "sf2 sf", "sf2", {yes, no}, "sf2: overwrite?: " + kBothStand + ": refused"},
-      {"neogeo", "sf2 neogeo", "sf2", {yes}, "sf2: overwrite?: no rom: no rom"},
-      {"sf", "sf", "sf", {yes}, "sf: overwrite?: ran with sf.ZIP=own"},
-      {"sf", "sf", "sf", {no}, "sf: overwrite?: refused"},
-      {"..\\Emu\\secret", "", "", {}, "no rom: no rom"}};
-  for (const Row& row : rows) {
-    UseMame(row.mine, row.own);
-    drive_.Write("C:\\Emu\\secret.zip", "secret");
-    panel_.parent = row.parent;
-    boxes_.answers = row.answers;
-    EXPECT_EQ(Start(), row.told) << row.parent << "|" << row.mine << "|" << row.own;
-  }
+  const std::string asked = "sf2: overwrite?: ";
+  EXPECT_EQ(play("sf", "sf", "", ""), "ran with sf.zip=mine");
+  EXPECT_EQ(play("sf", "sf2 sf", "", ""), "ran with sf2.zip=mine");
+  EXPECT_EQ(play("neogeo", "neogeo", "", ""), "no rom: no rom");
+  EXPECT_EQ(play("neogeo", "sf2", "", ""), "ran with sf2.zip=mine");
+  EXPECT_EQ(play("sf", "sf2", "sf2", "y"), asked + "ran with sf2.ZIP=own");
+  EXPECT_EQ(play("sf", "sf2 sf", "sf2", "yy"), asked + kBothStand + ": ran with sf2.ZIP=own");
+  EXPECT_EQ(play("sf", "sf2 sf", "sf2", "yn"), asked + kBothStand + ": refused");
+  EXPECT_EQ(play("neogeo", "sf2 neogeo", "sf2", "y"), asked + "no rom: no rom");
+  EXPECT_EQ(play("sf", "sf", "sf", "y"), "sf: overwrite?: ran with sf.ZIP=own");
+  EXPECT_EQ(play("sf", "sf", "sf", "n"), "sf: overwrite?: refused");
+  drive_.Write("C:\\Emu\\secret.zip", "secret");
+  EXPECT_EQ(play("..\\Emu\\secret", "", "", ""), "no rom: no rom");
   for (const std::string parent : {"sf", "neogeo"}) {
     UseMame("", parent);
     UseOwnFolder();

@@ -26,8 +26,7 @@ class SettingsStore : public testing::Test {
     return values;
   }
 
-  // Loads into a page of "C:\Page 8 9 16 1 1" and gives it with the outcome: "record C:\A 1 2 3 1
-  // 0".
+  // Loads into a page of "C:\Page 8 9 16 1 1"; gives outcome and page: "record C:\A 1 2 3 1 0".
   std::string Load(std::string_view key) {
     OptionValues page = Values("C:\\Page", {8, 9, 16, 1, 1});
     const LoadOutcome outcome = LoadSettings(drive_.files(), app_, raine_, key, page);

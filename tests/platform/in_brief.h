@@ -3,15 +3,15 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/name_list.h"
 
 namespace zarvo {
 
-inline std::vector<std::string> Names(const NameList& list) {
-  std::vector<std::string> names;
-  for (int index = 0; index < list.Count(); ++index) names.emplace_back(list.At(index));
+// The names with a comma behind each.
+inline std::string Names(const NameList& list) {
+  std::string names;
+  for (int index = 0; index < list.Count(); ++index) names.append(list.At(index)).append(",");
   return names;
 }
 

@@ -1,6 +1,5 @@
 #include "platform/name_list.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/in_brief.h"
@@ -14,7 +13,7 @@ TEST(NameList, SortedInsertionPutsEqualNamesBehindEachOther) {
   EXPECT_EQ(list.InsertSorted("amidar"), 0);
   EXPECT_EQ(list.InsertSorted("PENGO"), 2);
   EXPECT_EQ(list.InsertSorted("Frogger"), 1);
-  EXPECT_THAT(Names(list), testing::ElementsAre("amidar", "Frogger", "Pengo", "PENGO"));
+  EXPECT_EQ(Names(list), "amidar,Frogger,Pengo,PENGO,");
   EXPECT_EQ(list.Find("PENGO"), 3);
   EXPECT_EQ(list.Find("pengo"), -1);
 }
@@ -23,13 +22,13 @@ TEST(NameList, SortKeepsTheOrderOfEqualNames) {
   NameList list;
   for (const char* name : {"b", "B", "a", "C", "A", ""}) list.Append(name);
   list.Sort();
-  EXPECT_THAT(Names(list), testing::ElementsAre("", "a", "A", "b", "B", "C"));
+  EXPECT_EQ(Names(list), ",a,A,b,B,C,");
   list.Remove(1);
   list.Remove(4);
-  EXPECT_THAT(Names(list), testing::ElementsAre("", "A", "b", "B"));
+  EXPECT_EQ(Names(list), ",A,b,B,");
   list.Clear();
   list.Append("new");
-  EXPECT_THAT(Names(list), testing::ElementsAre("new"));
+  EXPECT_EQ(Names(list), "new,");
 }
 
 TEST(NameList, AFullListStaysAsItIs) {
@@ -37,7 +36,8 @@ TEST(NameList, AFullListStaysAsItIs) {
   for (int count = 0; count < 32767; ++count) list.Append("b");
   list.Append("c");
   EXPECT_EQ(list.InsertSorted("a"), -1);
-  EXPECT_EQ(Names(list), std::vector<std::string>(32767, "b"));
+  EXPECT_EQ(list.Count(), 32767);
+  EXPECT_EQ(Names(list).find_first_not_of("b,"), std::string::npos);
 }
 
 }  // namespace
