@@ -72,7 +72,7 @@ void ExpectForm(const EmulatorProfile& profile) {
   for (const Fields& game : games) {
     SCOPED_TRACE(game[0]);
     ASSERT_EQ(game.size(), 21U);
-    EXPECT_EQ(std::count(game.begin(), game.end(), ""), 0);
+    ASSERT_EQ(std::count(game.begin(), game.end(), ""), 0);
     EXPECT_TRUE(game[0].front() != '#' && game[0] == TrimBlanks(game[0]));
     EXPECT_LT(CompareNoCase(before, game[0]), 0) << "in the order of the list, and unique";
     before = game[0];

@@ -10,17 +10,12 @@ using testing::HasSubstr;
 Result<ImportOptions> Parse(std::vector<std::string> words) { return ParseOptions(words); }
 
 TEST(ImportOptions, AreReadInBothForms) {
-  const auto options = Parse({"-o", "out.dat", "--years=1975-1999,2001,????", "--driver", "cps1",
-                              "--driver", "m72", "--header", "name=A=B", "--arcade", "list.xml"});
+  const auto options = Parse(
+      {"-o", "out.dat", "--driver", "cps1", "--driver=m72", "--header", "name=A=B", "list.xml"});
   ASSERT_TRUE(options.ok());
   EXPECT_EQ(options->output + " " + options->input, "out.dat list.xml");
-  ASSERT_EQ(options->years.size(), 2U);
-  EXPECT_EQ(options->years[0].last, 1999);
-  EXPECT_EQ(options->years[1].first, 2001);
-  EXPECT_TRUE(options->unknown_years);
   EXPECT_EQ(options->drivers.size(), 2U);
   EXPECT_EQ(options->header[0], "A=B");
-  EXPECT_TRUE(options->arcade && !options->working);
   EXPECT_EQ(Parse({"--", "-x"})->input, "-x") << "a name may begin with a dash";
   EXPECT_EQ(Parse({"-"})->input, "-");
 }
