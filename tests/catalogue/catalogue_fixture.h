@@ -9,7 +9,6 @@
 
 #include "catalogue/data_file.h"
 #include "fakes/memory_files.h"
-#include "platform/name_list.h"
 
 namespace zarvo {
 
@@ -37,18 +36,6 @@ class CatalogueTest : public testing::Test {
 
   void PutData(std::string bytes) { files_.Put(R"(C:\Zarvo\Data\Mame.dat)", std::move(bytes)); }
   void PutScan(std::string bytes) { files_.Put(R"(C:\Zarvo\cfg\Mame.scn)", std::move(bytes)); }
-
-  static std::vector<std::string> Names(const NameList& list) {
-    std::vector<std::string> names;
-    names.reserve(static_cast<std::size_t>(list.Count()));
-    for (int i = 0; i < list.Count(); ++i) names.emplace_back(list.At(i));
-    return names;
-  }
-  static NameList ListOf(const std::vector<std::string>& names) {
-    NameList list;
-    for (const std::string& name : names) list.Append(name);
-    return list;
-  }
 
   MemoryFiles files_;
   AppState app_;

@@ -1,30 +1,33 @@
 #include "catalogue/game_list.h"
 
 #include "catalogue/catalogue_fixture.h"
+#include "platform/in_brief.h"
 
 namespace zarvo {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-using StringList = std::vector<std::string>;
-
+// Lists are written with a comma behind each name.
 class GameList : public CatalogueTest {
  protected:
-  FillResult Fill(GameState state) { return FillList(files_, app_, mame_, state, list_); }
-  void Filter(ValueFilter filter, std::string_view value) {
-    FilterList(files_, app_, mame_, filter, value, list_);
+  std::string Filled(GameState state, FillResult result = FillResult::kFilled) {
+    EXPECT_EQ(FillList(files_, app_, mame_, state, list_), result);
+    return Names(list_);
   }
-  StringList Listed() const { return Names(list_); }
+  std::string Filtered(ValueFilter filter, std::string_view value) {
+    FilterList(files_, app_, mame_, filter, value, list_);
+    return Names(list_);
+  }
+  void PutList(std::string_view text) {
+    list_.Clear();
+    for (std::size_t end = 0; (end = text.find(',')) != text.npos; text.remove_prefix(end + 1)) {
+      list_.Append(text.substr(0, end));
+    }
+  }
 
   NameList list_;
 };
 
-class FillingAList : public GameList {};
-class FilteringAList : public GameList {};
-
-TEST_F(FillingAList, EveryStateHoldsItsGames) {
+TEST_F(GameList, EveryStateHoldsItsGames) {
   PutData(Header() +                      //
           "alpha;a;O;-;\r\n"              //
           "Beta;b;C;alpha;\r\n"           //
@@ -36,178 +39,115 @@ TEST_F(FillingAList, EveryStateHoldsItsGames) {
           "Eta;e;C;neo;geo;\r\n"          // "neo;ge" isn't "neogeo"
           "Theta;t;X;neogeo\r\n"          // a field that isn't closed
           "Iota;i;;;\r\n");
-  const struct {
-    GameState state;
-    StringList names;
-  } kStates[] = {
-      {GameState::kAllSupported,
-       {"alpha", "Beta", "delta", "Epsilon", "Eta", "Gamma", "Iota", "Theta", "Zeta"}},
-      {GameState::kOriginals, {"alpha", "delta", "Zeta"}},
-      {GameState::kClones, {"Beta", "Eta"}},
-      {GameState::kNoNeoGeo, {"alpha", "Beta", "Eta", "Iota", "Zeta"}},
-      {GameState::kNeoGeo, {"delta", "Epsilon", "Gamma", "Theta"}},
+  const std::pair<GameState, const char*> states[] = {
+      {GameState::kAllSupported, "alpha,Beta,delta,Epsilon,Eta,Gamma,Iota,Theta,Zeta,"},
+      {GameState::kOriginals, "alpha,delta,Zeta,"},
+      {GameState::kClones, "Beta,Eta,"},
+      {GameState::kNoNeoGeo, "alpha,Beta,Eta,Iota,Zeta,"},
+      {GameState::kNeoGeo, "delta,Epsilon,Gamma,Theta,"},
   };
-  for (const auto& state : kStates) {
-    EXPECT_EQ(Fill(state.state), FillResult::kFilled);
-    EXPECT_EQ(Listed(), state.names);
-  }
+  for (const auto& [state, names] : states) EXPECT_EQ(Filled(state), names);
 }
 
-TEST_F(FillingAList, EndsAtALineThatCantBeCut) {
+TEST_F(GameList, EndsAtALineThatCantBeCut) {
   PutData("A;a;O;-;\r\nNo semicolon\r\nB;b;O;-;\r\n");
-  EXPECT_EQ(Fill(GameState::kAllSupported), FillResult::kFilled);
-  EXPECT_THAT(Listed(), ElementsAre("A"));
+  EXPECT_EQ(Filled(GameState::kAllSupported), "A,");
   PutData("A;a;O;-;\r\nShort;b\r\nB;b;O;-;\r\n");
-  EXPECT_EQ(Fill(GameState::kAllSupported), FillResult::kFilled);
-  EXPECT_THAT(Listed(), ElementsAre("A", "B", "Short"));
-  for (const GameState state : {GameState::kOriginals, GameState::kNoNeoGeo}) {
-    EXPECT_EQ(Fill(state), FillResult::kFilled);
-    EXPECT_THAT(Listed(), ElementsAre("A"));
-  }
+  EXPECT_EQ(Filled(GameState::kAllSupported), "A,B,Short,");
+  EXPECT_EQ(Filled(GameState::kOriginals), "A,");
+  EXPECT_EQ(Filled(GameState::kNoNeoGeo), "A,");
 }
 
-TEST_F(FillingAList, WithoutADataFileOnlyAllSupportedEmptiesTheList) {
-  list_ = ListOf({"Old"});
-  EXPECT_EQ(Fill(GameState::kNeoGeo), FillResult::kNoDataFile);
-  EXPECT_THAT(Listed(), ElementsAre("Old"));
-  EXPECT_EQ(Fill(GameState::kAllSupported), FillResult::kNoDataFile);
-  EXPECT_THAT(Listed(), IsEmpty());
-}
-
-TEST_F(FillingAList, AHeaderWithoutRecordsEmptiesTheList) {
-  PutData(Header());
-  list_ = ListOf({"Old"});
-  EXPECT_EQ(Fill(GameState::kClones), FillResult::kFilled);
-  EXPECT_THAT(Listed(), IsEmpty());
-}
-
-TEST_F(FillingAList, HoldsAsManyGamesAsAListCan) {
-  std::string bytes;
-  for (int game = 0; game < 40000; ++game)
-    bytes += "Game " + std::to_string(10000 + game) + ";g;\n";
-  PutData(bytes);
-  EXPECT_EQ(Fill(GameState::kAllSupported), FillResult::kFilled);
-  ASSERT_EQ(list_.Count(), 32767);
-  EXPECT_EQ(list_.At(32766), "Game 42766");
-}
-
-TEST_F(FillingAList, AvailableAndMissingReadTheScanFileAlone) {
-  PutScan(
-      "\"Zeta;Y\"\r\n\"Beta;N\"\r\n\"alpha;Y\"\n\"\"\r\n\r\n\"\r\n\"No mark\"\r\n\"Lower;y\"\r\n"
-      "'Odd;more;Y'\r\n\"Unended;N");
-  EXPECT_EQ(Fill(GameState::kAvailable), FillResult::kFilled);
-  EXPECT_THAT(Listed(), ElementsAre("alpha", "Odd", "Zeta"));
-  EXPECT_EQ(Fill(GameState::kMissing), FillResult::kFilled);
-  EXPECT_THAT(Listed(), ElementsAre("Beta"));
-}
-
-TEST_F(FillingAList, WithoutAScanFileTheListStaysAsItWas) {
-  PutData("A;a;O;-;\r\n");
-  list_ = ListOf({"Old"});
-  EXPECT_EQ(Fill(GameState::kAvailable), FillResult::kNoScanFile);
+TEST_F(GameList, WithoutTheFileOfItsStateTheListStaysAsItWas) {
+  PutList("Old,");
+  EXPECT_EQ(Filled(GameState::kNeoGeo, FillResult::kNoDataFile), "Old,");
+  EXPECT_EQ(Filled(GameState::kAvailable, FillResult::kNoScanFile), "Old,");
+  files_.Put(R"(C:\Zarvo\cfg\M72.scn)", "\"A;N\"\r\n");
   EXPECT_EQ(FillList(files_, app_, ProfileOf(Emulator::kM72), GameState::kMissing, list_),
             FillResult::kNoScanFile);
-  EXPECT_THAT(Listed(), ElementsAre("Old"));
+  EXPECT_EQ(Names(list_), "Old,");
+  EXPECT_EQ(Filled(GameState::kAllSupported, FillResult::kNoDataFile), "");
+  PutData(Header());
+  PutList("Old,");
+  EXPECT_EQ(Filled(GameState::kClones), "");
 }
 
-TEST_F(FillingAList, TakesAScanFileWhoseReplacementWasCutOff) {
+TEST_F(GameList, AvailableAndMissingReadTheScanFileAlone) {
+  PutScan(Bytes("'Zeta;Y'|'Beta;N'|'alpha;Y'\n''||'|'No mark'|'Lower;y'|") +
+          "'Odd;more;Y'\r\n\"Unended;N");
+  EXPECT_EQ(Filled(GameState::kAvailable), "alpha,Odd,Zeta,");
+  EXPECT_EQ(Filled(GameState::kMissing), "Beta,");
+}
+
+TEST_F(GameList, TakesAScanFileWhoseReplacementWasCutOff) {
   files_.Put(R"(C:\Zarvo\cfg\Mamescn.tmp)", "\"A;Y\"\r\n");
-  EXPECT_EQ(Fill(GameState::kAvailable), FillResult::kFilled);
-  EXPECT_THAT(Listed(), ElementsAre("A"));
+  EXPECT_EQ(Filled(GameState::kAvailable), "A,");
 }
 
-TEST_F(FilteringAList, KeepsTheGamesWithTheValue) {
+TEST_F(GameList, FilteringKeepsTheGamesWithTheValue) {
   PutData(Header() + Record("alpha;a;O;-;Action;Sega;1988") +
           Record("Beta;b;O;-;Actions;Sega + Co;1989") + Record("Gamma;g;O;-;Action;SNK;????") +
           Record("Omega;o;O;-;;;"));
-  const struct {
-    ValueFilter filter;
-    std::string_view value;
-    StringList names;
-  } kSteps[] = {
-      {ValueFilter::kGenre, "Action", {"alpha", "Gamma"}},
-      {ValueFilter::kGenre, "action", {}},
-      {ValueFilter::kGenre, "", {"Omega"}},
-      {ValueFilter::kManufactor, "Sega", {"alpha"}},
-      {ValueFilter::kYear, "????", {"Gamma"}},
-      {ValueFilter::kYear, "1999", {}},
+  const std::tuple<ValueFilter, std::string_view, const char*> steps[] = {
+      {ValueFilter::kGenre, "Action", "alpha,Gamma,"},
+      {ValueFilter::kGenre, "action", ""},
+      {ValueFilter::kGenre, "", "Omega,"},
+      {ValueFilter::kManufactor, "Sega", "alpha,"},
+      {ValueFilter::kYear, "????", "Gamma,"},
+      {ValueFilter::kYear, "1999", ""},
   };
-  for (const auto& step : kSteps) {
-    list_ = ListOf({"alpha", "Beta", "Gamma", "Omega"});
-    Filter(step.filter, step.value);
-    EXPECT_EQ(Listed(), step.names) << step.value;
+  for (const auto& [filter, value, names] : steps) {
+    PutList("alpha,Beta,Gamma,Omega,");
+    EXPECT_EQ(Filtered(filter, value), names) << value;
   }
   EXPECT_FALSE(files_.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
-TEST_F(FilteringAList, TheNeutralItemReadsAndChangesNothing) {
-  list_ = ListOf({"Not in the file"});
-  Filter(ValueFilter::kGenre, "- Genre");
-  Filter(ValueFilter::kManufactor, "- Manufactor");
-  Filter(ValueFilter::kYear, "- Year");
-  EXPECT_THAT(Listed(), ElementsAre("Not in the file"));
-  EXPECT_THAT(files_.opened, IsEmpty());
-  EXPECT_THAT(files_.written, IsEmpty());
+TEST_F(GameList, TheNeutralItemReadsAndChangesNothing) {
+  PutList("Not in the file,");
+  Filtered(ValueFilter::kGenre, "- Genre");
+  Filtered(ValueFilter::kManufactor, "- Manufactor");
+  EXPECT_EQ(Filtered(ValueFilter::kYear, "- Year"), "Not in the file,");
+  EXPECT_THAT(files_.opened, testing::IsEmpty());
+  EXPECT_THAT(files_.written, testing::IsEmpty());
 }
 
-TEST_F(FilteringAList, WalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
+TEST_F(GameList, FilteringWalksForwardAloneAndComparesOnlyTheLengthOfTheName) {
   PutData(Record("Ace;1;O;-;Puzzle;x;1980") + "# Bat;\r\n" + Record("Bat II;2;O;-;Action;x;1980") +
           Record("Bat;3;O;-;Puzzle;x;1980") + Record("Cat;4;O;-;Action;x;1980") +
           Record("Dog;5;O;-;Action;x;1980") + "Eel\r\n" + Record("Fox;7;O;-;Action;x;1980") +
-          Record("Gnu Z;8;O;-;Action;x;1980") + Record("Gnu A;9;O;-;Action;x;1980"));
-  const struct {
-    std::string_view what;
-    StringList list, kept;
-  } kWalks[] = {
-      {"the longer record that comes first answers, and its own name goes back",
-       {"Bat", "Cat"},
-       {"Bat II", "Cat"}},
-      {"a name that the file doesn't know takes all later names with it",
-       {"Bat", "Bull", "Cat", "Dog"},
-       {"Bat II"}},
-      {"a name whose record lies behind is lost, and all after it", {"Cat", "Ace", "Dog"}, {"Cat"}},
-      {"twice the same name needs two records", {"Dog", "Dog", "Fox"}, {"Dog"}},
-      {"a record without the field passes no filter", {"Eel", "Fox"}, {"Fox"}},
-      {"what the file has unsorted comes back sorted", {"Gnu", "Gnu A"}, {"Gnu A", "Gnu Z"}},
-      {"case matters", {"cat", "Dog"}, {}},
+          Record("Gnu Z;8;O;-;Action;x;1980") + Record("Gnu A;9;O;-;Action;x;1980") +
+          Record("\"Quoted\";q;O;-;Action;x;1980") +
+          Record("Caf\xE9 \x93Z\x94;c;O;-;Action;x;1980"));
+  const std::pair<const char*, const char*> walks[] = {
+      // The longer record that comes first answers, and its own name goes back.
+      {"Bat,Cat,", "Bat II,Cat,"},
+      // A name that the file doesn't know takes all later names with it.
+      {"Bat,Bull,Cat,Dog,", "Bat II,"},
+      {"Cat,Ace,Dog,", "Cat,"},        // a name whose record lies behind is lost, and all after it
+      {"Dog,Dog,Fox,", "Dog,"},        // twice the same name needs two records
+      {"Eel,Fox,", "Fox,"},            // a record without the field passes no filter
+      {"Gnu,Gnu A,", "Gnu A,Gnu Z,"},  // what the file has unsorted comes back sorted
+      {"cat,Dog,", ""},                // case matters
+      {"\"Quoted\",Caf\xE9 \x93Z\x94,", "\"Quoted\",Caf\xE9 \x93Z\x94,"},
   };
-  for (const auto& walk : kWalks) {
-    list_ = ListOf(walk.list);
-    Filter(ValueFilter::kGenre, "Action");
-    EXPECT_EQ(Listed(), walk.kept) << walk.what;
+  for (const auto& [list, kept] : walks) {
+    PutList(list);
+    EXPECT_EQ(Filtered(ValueFilter::kGenre, "Action"), kept) << list;
+    EXPECT_EQ(files_.written.back(), R"(c:\zarvo\data\tofilter.tmp)");
   }
 }
 
-TEST_F(FilteringAList, NamesComeBackFromTheWorkFileWhole) {
-  PutData(Record("\"Quoted\";q;O;-;Action;x;1980") +
-          Record("Caf\xE9 \x93Z\x94;c;O;-;Action;x;1980"));
-  list_ = ListOf({"\"Quoted\"", "Caf\xE9 \x93Z\x94"});
-  Filter(ValueFilter::kGenre, "Action");
-  EXPECT_THAT(Listed(), ElementsAre("\"Quoted\"", "Caf\xE9 \x93Z\x94"));
-  EXPECT_THAT(files_.written, ElementsAre(R"(c:\zarvo\data\tofilter.tmp)"));
-}
-
-TEST_F(FilteringAList, AFileThatCantBeUsedLeavesTheListAsItWas) {
-  list_ = ListOf({"A", "B"});
-  Filter(ValueFilter::kGenre, "Action");
-  EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "no data file";
+TEST_F(GameList, FilteringWithAFileThatCantBeUsedLeavesTheListAsItWas) {
+  PutList("A,B,");
+  const auto filtered = [this] { return Filtered(ValueFilter::kGenre, "Action"); };
+  EXPECT_EQ(filtered(), "A,B,") << "no data file";
   PutData(Record("A;a;O;-;Action;x;1980"));
   files_.fail_writes = true;
-  Filter(ValueFilter::kGenre, "Action");
-  EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "no work file";
+  EXPECT_EQ(filtered(), "A,B,") << "no work file";
   files_.fail_writes = false;
   files_.breaks_off = "Mame.dat";
-  Filter(ValueFilter::kGenre, "Action");
-  EXPECT_THAT(Listed(), ElementsAre("A", "B")) << "a data file that breaks off";
-}
-
-TEST_F(FilteringAList, NarrowsWhatTheScanFound) {
-  PutData(Record("A;a;O;-;Action;x;1980") + Record("B;b;O;-;Puzzle;x;1980") +
-          Record("D;d;O;-;Action;x;1980"));
-  PutScan("\"A;Y\"\r\n\"B;Y\"\r\n\"C;Y\"\r\n\"D;Y\"\r\n");
-  ASSERT_EQ(Fill(GameState::kAvailable), FillResult::kFilled);
-  Filter(ValueFilter::kGenre, "Action");
-  EXPECT_THAT(Listed(), ElementsAre("A")) << "C is gone from the file, and D with it";
+  EXPECT_EQ(filtered(), "A,B,") << "a data file that breaks off";
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Runs a list through reader and builder without a file.
 #pragma once
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -10,25 +9,9 @@
 
 #include "import/catalogue_builder.h"
 #include "import/list_reader.h"
+#include "platform/piece_source.h"
 
 namespace zarvo {
-
-// Gives a text in pieces of `piece` bytes.
-class TextSource : public ByteSource {
- public:
-  explicit TextSource(std::string_view text, std::size_t piece = std::size_t{1} << 20)
-      : rest_(text), piece_(piece) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t got = std::min({size, piece_, rest_.size()});
-    std::copy_n(rest_.data(), got, buffer);
-    rest_.remove_prefix(got);
-    return got;
-  }
-
- private:
-  std::string_view rest_;
-  std::size_t piece_;
-};
 
 struct Imported {
   std::string error;  // empty if the list was read
@@ -42,7 +25,7 @@ struct Imported {
 
 inline Imported ImportText(std::string_view list, const ImportOptions& options = {},
                            std::size_t piece = std::size_t{1} << 20) {
-  TextSource source(list, piece);
+  PieceSource source(list, piece);
   CatalogueBuilder catalogue(options);
   Imported imported;
   const Status read = ReadList(source, catalogue);

@@ -5,52 +5,40 @@
 namespace zarvo {
 namespace {
 
-struct TextCase {
-  const char* what;
-  std::string in;
-  std::string out;
-};
-
 TEST(ListText, BecomesAFieldOfTheDataFile) {
-  const TextCase cases[] = {
-      {"plain", "Pac-Man (Midway)", "Pac-Man (Midway)"},
-      {"semicolons can't stand in a field", "a;b;", "a,b,"},
-      {"one line", "two\r\nlines\tand a tab", "two  lines and a tab"},
-      {"blanks at the ends", "  Pengo ", "Pengo"},
-      {"control characters", std::string("a\0b\x7f\x1b", 5) + "\xC2\x85", "ab"},
-      {"Windows-1252 has it", "Pok\xC3\xA9mon \xE2\x82\xAC \xE2\x80\x93", "Pok\xE9mon \x80 \x96"},
-      {"accents go", "\xC4\x80\xC4\x81 \xC5\x8C\xC5\x8D \xC5\xAA\xC5\xAB \xC5\x81\xC5\x82 \xC4\x8C",
-       "Aa Oo Uu Ll C"},
-      {"an accent that follows", "e\xCC\x81", "e"},
-      {"another script", "\xE5\x80\x89\xE5\xBA\xAB", "??"},
-      {"wide letters", "\xEF\xBC\xA1\xEF\xBC\x9B", "A,"},
-      {"Roman numerals", "II \xE2\x85\xA2", "II III"},
-      {"a blank that doesn't break",
-       "a\xC2\xA0"
-       "b",
-       "a b"},
-      {"beyond the first plane", "\xF0\x9F\x8E\xAE", "?"},
-      {"not UTF-8: taken as it is", "Pok\xE9mon", "Pok\xE9mon"},
-      {"cut UTF-8", "a\xE2\x82", "a\xE2\x82"},
-      {"a byte of no meaning", "a\x81", "a"},
-      {"too long for what it says", "\xC0\xAF", "\xC0\xAF"},
+  const std::pair<std::string, std::string> cases[] = {
+      {"Pac-Man (Midway)", "Pac-Man (Midway)"},
+      {"a;b;", "a,b,"},  // semicolons can't stand in a field
+      {"two\r\nlines\tand a tab", "two  lines and a tab"},
+      {"  Pengo ", "Pengo"},
+      {std::string("a\0b\x7f\x1b", 5) + "\xC2\x85", "ab"},                   // control characters
+      {"Pok\xC3\xA9mon \xE2\x82\xAC \xE2\x80\x93", "Pok\xE9mon \x80 \x96"},  // Windows-1252 has it
+      {"\xC4\x80\xC4\x81 \xC5\x8C\xC5\x8D \xC5\xAA\xC5\xAB \xC5\x81\xC5\x82 \xC4\x8C",
+       "Aa Oo Uu Ll C"},                   // accents go
+      {"e\xCC\x81", "e"},                  // an accent that follows
+      {"\xE5\x80\x89\xE5\xBA\xAB", "??"},  // another script
+      {"\xEF\xBC\xA1\xEF\xBC\x9B", "A,"},  // wide letters
+      {"II \xE2\x85\xA2", "II III"},       // Roman numerals
+      {"a\xC2\xA0_", "a _"},               // a blank that doesn't break
+      {"\xF0\x9F\x8E\xAE", "?"},           // beyond the first plane
+      {"Pok\xE9mon", "Pok\xE9mon"},        // not UTF-8: taken as it is
+      {"a\xE2\x82", "a\xE2\x82"},          // cut UTF-8
+      {"a\x81", "a"},                      // a byte of no meaning
+      {"\xC0\xAF", "\xC0\xAF"},            // too long for what it says
   };
-  for (const TextCase& each : cases) EXPECT_EQ(ToFieldText(each.in), each.out) << each.what;
+  for (const auto& [in, out] : cases) EXPECT_EQ(ToFieldText(in), out) << in;
 }
 
 TEST(ListText, NamesDontLookLikeAnotherKindOfLine) {
-  const TextCase cases[] = {
-      {"comment", "#1 Baseball", "1 Baseball"},
-      {"header line", "* Star *", "Star *"},
-      {"blank in front", "  # *x", "x"},
-      {"a star of another script",
-       "\xE2\x98\x85"
-       "Stars",
-       "Stars"},
-      {"quotation marks", "The \"Best\"", "The 'Best'"},
-      {"nothing left", "#*#", ""},
+  const std::pair<std::string, std::string> cases[] = {
+      {"#1 Baseball", "1 Baseball"},
+      {"* Star *", "Star *"},
+      {"  # *x", "x"},
+      {"\xE2\x98\x85Stars", "Stars"},  // a star of another script
+      {"The \"Best\"", "The 'Best'"},
+      {"#*#", ""},
   };
-  for (const TextCase& each : cases) EXPECT_EQ(ToGameName(each.in), each.out) << each.what;
+  for (const auto& [in, out] : cases) EXPECT_EQ(ToGameName(in), out) << in;
 }
 
 TEST(ListText, RomNamesStayInTheirFolder) {

@@ -5,350 +5,273 @@
 
 #include <array>
 #include <filesystem>
+#include <set>
+#include <sstream>
 
 #include "fakes/failing_files.h"
-#include "launch/launcher_fixture.h"
+#include "fakes/recorded_boxes.h"
+#include "fakes/temp_drive.h"
+#include "platform/dos_path.h"
 
 namespace zarvo {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-constexpr std::array<Emulator, 4> kWithoutParents = {Emulator::kCallus, Emulator::kRaine,
-                                                     Emulator::kSystem16, Emulator::kM72};
-
-const std::string kItalian =
-    "Zarvo v0.1|La rom sf2 \xE8 gi\xE0 contenuta nella directory mame/roms. E' stato scelto invece "
-    "di utilizzare una rom contenuta in un altra cartella. Proseguendo, la rom contenuta in "
+const std::string kBothStand =
+    "La rom sf2 \xE8 gi\xE0 contenuta nella directory mame/roms. E' stato scelto invece di "
+    "utilizzare una rom contenuta in un altra cartella. Proseguendo, la rom contenuta in "
     "mame/roms verr\xE0 sovrascritta, e verr\xE0 perduta. Continuare?";
 
+// A panel whose answers the test sets, and that notes what it is asked.
+class ScriptedPanel : public LaunchPanel {
+ public:
+  bool knows_game = true;
+  std::string rom = "sf2";
+  std::string parent = "-";
+  std::string emulator_path;
+  std::string emulator_folder;
+  OptionValues options;
+  std::string calls;
+
+  void SaveCfg() override { calls += "save; "; }
+  bool FindRom(std::string_view game) override {
+    calls += "find " + std::string(game) + "; ";
+    return knows_game;
+  }
+  [[nodiscard]] std::string RomName() const override { return rom; }
+  [[nodiscard]] std::string ParentRom() const override { return parent; }
+  [[nodiscard]] std::string EmulatorPath() const override { return emulator_path; }
+  [[nodiscard]] std::string EmulatorFolder() const override { return emulator_folder; }
+  [[nodiscard]] CommandInput Command() const override {
+    return {.emulator_path = "", .rom_name = "", .options = options, .recording = "", .now = {}};
+  }
+  void ShowEmulatorPicker() override { calls += "emulator picker; "; }
+  void ShowRomPicker() override { calls += "rom picker; "; }
+};
+
+// Each emulator stands in C:\Emu\<word>; the archives that a game's record names in C:\Mine.
+class LauncherTest : public testing::Test {
+ protected:
+  LauncherTest() {
+    app_.ProgramFolder = "C:\\Zarvo";
+    app_.messages.MsgNoRom = "no rom";
+    app_.messages.MsgRomOverwrite = "overwrite?";
+  }
+
+  // Archives are named between blanks.
+  void Use(const EmulatorProfile& profile, const std::string& mine, const std::string& own = "") {
+    profile_ = &profile;
+    panel_ = ScriptedPanel();
+    folder_ = "C:\\Emu\\" + std::string(profile.word);
+    own_ = folder_ + std::string(profile.rom_sub_folder);
+    panel_.emulator_folder = folder_;
+    panel_.emulator_path = folder_ + "\\Emu.exe";
+    panel_.options = DefaultValues(profile, "C:\\Mine");
+    std::filesystem::remove_all(drive_.Host("C:\\Mine"));
+    std::filesystem::remove_all(drive_.Host(folder_));
+    drive_.Write(panel_.emulator_path, "program");
+    for (const auto& [folder, names, bytes] :
+         {std::tuple("C:\\Mine", mine, "mine"), {own_.c_str(), own, "own"}}) {
+      drive_.MakeFolder(folder);
+      std::istringstream words(names);
+      for (std::string name; words >> name;) drive_.Write(JoinPath(folder, name + ".ZIP"), bytes);
+    }
+  }
+  void UseMame(const std::string& mine, const std::string& own = "") {
+    Use(ProfileOf(Emulator::kMame), mine, own);
+  }
+  void UseOwnFolder() { panel_.options.rom_folder = own_; }
+
+  std::string Start() { return Start(drive_.files()); }
+  // What the boxes said and how the launch ended; after a run with the archives that it found. What
+  // stood on the drive stands there again.
+  std::string Start(DosFiles& files) {
+    const std::string before = Archives();
+    batch_.clear();
+    boxes_.shown.clear();
+    std::string found;
+    const auto run = [&](std::string_view line) {
+      EXPECT_EQ(line, "command.com /c lancia.bat");
+      EXPECT_TRUE(EqualNoCase(files.CurrentFolder(), folder_)) << files.CurrentFolder();
+      batch_ = drive_.Read(folder_ + "\\lancia.bat");
+      found = " with" + Archives();
+      return run_result_;
+    };
+    const LaunchEnd end = Launch(*profile_, "Street Fighter II", panel_,
+                                 {.files = files, .boxes = boxes_, .app = app_, .run = run});
+    EXPECT_EQ(Archives(), before);
+    EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
+    EXPECT_TRUE(boxes_.answers.empty()) << "a question didn't come";
+    std::string told;
+    for (const auto& box : boxes_.shown) {
+      EXPECT_EQ(box.icon, BoxIcon::kExclamation) << box.text;
+      told += (box.title == "Zarvo v0.1" ? "" : box.title + "|") + box.text + ": ";
+    }
+    constexpr std::array kEnds = {"ran", "no emulator", "no rom", "refused", "unknown", "failed"};
+    return told + kEnds[static_cast<std::size_t>(end)] + found;
+  }
+
+  [[nodiscard]] std::string Archives() const {
+    std::string archives;
+    const auto entries = drive_.files().ListFolder(own_);
+    for (const FolderEntry& entry : entries ? *entries : std::vector<FolderEntry>()) {
+      if (!MatchesPattern(entry.name, "*.zip")) continue;
+      archives += " " + entry.name + "=" + drive_.Read(JoinPath(own_, entry.name));
+    }
+    return archives;
+  }
+
+  mutable TempDrive drive_;
+  AppState app_;
+  RecordedBoxes boxes_;
+  const EmulatorProfile* profile_ = nullptr;
+  ScriptedPanel panel_;
+  std::string folder_;
+  std::string own_;
+  Status run_result_ = Success();
+  std::string batch_;
+};
+
 TEST_F(LauncherTest, TheBatchFileHoldsTheCommandLineAndIsGoneAfterTheRun) {
-  Use(Emulator::kMame);
+  UseMame("", "agsofdk");
   UseOwnFolder();
   panel_.rom = "agsofdk";
-  drive_.Write(own_ + "\\agsofdk.zip", "own");
   drive_.Write(folder_ + "\\lancia.bat", "an older and much longer line of another launch\r\n");
-  EXPECT_EQ(Start(), LaunchEnd::kRan);
+  EXPECT_EQ(Start(), "ran with agsofdk.ZIP=own");
   EXPECT_EQ(batch_, "C:\\Emu\\Mame\\Emu.exe agsofdk -ignorecfg -soundcard 1\r\n");
-  EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
-  EXPECT_THAT(Archives(), ElementsAre("agsofdk.zip=own"));
-  EXPECT_THAT(boxes_.shown, IsEmpty());
-  EXPECT_THAT(panel_.calls, ElementsAre("save cfg", "find Street Fighter II"));
+  EXPECT_EQ(panel_.calls, "save; find Street Fighter II; ");
 }
 
-TEST_F(LauncherTest, AnArchiveFromElsewhereIsCopiedForTheRunAlone) {
+TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
   for (const EmulatorProfile& profile : Profiles()) {
-    Use(profile.emulator);
-    drive_.Write("C:\\Mine\\SF2.ZIP", "mine");
-    EXPECT_EQ(Start(), LaunchEnd::kRan) << profile.word;
-    EXPECT_THAT(archives_, ElementsAre("sf2.zip=mine")) << profile.word;
-    EXPECT_THAT(Archives(), IsEmpty()) << profile.word;
+    SCOPED_TRACE(profile.word);
+    const bool mame = profile.emulator == Emulator::kMame;
+    const std::string no_rom = profile.emulator == Emulator::kRaine
+                                   ? "Warning! - No Rom found!|no rom: no rom"
+                                   : "no rom: no rom";
+    Use(profile, "SF2");
+    for (const char* folder : {"C:\\Nowhere", "", "Mine"}) {
+      panel_.options.rom_folder = folder;
+      EXPECT_EQ(Start(), no_rom) << folder;
+      EXPECT_TRUE(panel_.calls.ends_with("; rom picker; "));
+    }
+    panel_.options.rom_folder = "C:\\Mine";
+    EXPECT_EQ(Start(), "ran with sf2.zip=mine");
     EXPECT_EQ(drive_.Read("C:\\Mine\\sf2.zip"), "mine");
-    EXPECT_THAT(boxes_.shown, IsEmpty());
+    FailingFiles files(drive_.files());
+    files.Fail(FileStep::kCopy, "sf2.zip");
+    Use(profile, "SF2");
+    EXPECT_EQ(Start(files),
+              mame ? R"(C:\Emu\Mame\roms\sf2.zip: No space left on device: failed)" : no_rom);
+
+    Use(profile, "sf2", "sf2");
+    boxes_.answers = {BoxAnswer::kNo};
+    EXPECT_EQ(Start(), "sf2: overwrite?: refused");
+    boxes_.answers = {BoxAnswer::kYes};
+    EXPECT_EQ(Start(), "sf2: overwrite?: ran with sf2.ZIP=own");
+
+    Use(profile, "", "sf2");
+    EXPECT_EQ(Start(), no_rom) << "no question for what the rom folder lacks";
+    UseOwnFolder();
+    panel_.knows_game = false;
+    EXPECT_EQ(Start(), "unknown");
+    Use(profile, "");
+    UseOwnFolder();
+    EXPECT_EQ(Start(), mame || profile.emulator == Emulator::kM72 ? no_rom : "ran with")
+        << "only MAME and M72 look into their own folder";
+
+    Use(profile, "");
+    drive_.Write("C:\\Emu\\secret.zip", "secret");
+    for (const char* rom : {"..\\secret", "C:\\Emu\\secret", "", "sf2 & del", "*", "a|b", "-x"}) {
+      panel_.rom = rom;
+      for (const std::string& folder : {std::string("C:\\Mine"), own_}) {
+        panel_.options.rom_folder = folder;
+        EXPECT_EQ(Start(), no_rom) << rom;
+      }
+    }
   }
 }
 
-TEST_F(LauncherTest, MameMakesItsRomFolderIfItIsMissing) {
-  Use(Emulator::kMame);
-  std::filesystem::remove(drive_.Host(own_));
-  drive_.Write("C:\\Mine\\sf2.zip", "mine");
-  EXPECT_EQ(Start(), LaunchEnd::kRan);
-  EXPECT_THAT(archives_, ElementsAre("sf2.zip=mine"));
-}
-
 TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
-  Use(Emulator::kMame);
-  drive_.Write(own_ + "\\sf2.zip", "own");
+  UseMame("", "sf2");
   std::filesystem::create_directory_symlink(drive_.Host(own_), drive_.root() / "Link");
   for (const char* spelling : {R"(c:\EMU\mame\ROMS)", R"(C:\Emu\Mame\roms\)", "C:/Emu/Mame/roms",
                                R"(C:\Emu\Mame\x\..\.\roms)", "C:\\Link"}) {
     panel_.options.rom_folder = spelling;
-    EXPECT_EQ(Start(), LaunchEnd::kRan) << spelling;
-    EXPECT_THAT(archives_, ElementsAre("sf2.zip=own")) << spelling;
-    EXPECT_THAT(Archives(), ElementsAre("sf2.zip=own")) << spelling;
+    EXPECT_EQ(Start(), "ran with sf2.ZIP=own") << spelling;
   }
-  EXPECT_THAT(boxes_.shown, IsEmpty());
 }
 
 TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
-  struct Row {
-    Emulator emulator;
-    std::string_view title;
-    bool looks_up_first;
-  };
-  for (const Row& row :
-       {Row{Emulator::kMame, "Zarvo v0.1", false}, Row{Emulator::kCallus, "Zarvo v0.1", true},
-        Row{Emulator::kRaine, "Warning! - No EXE found!", true},
-        Row{Emulator::kSystem16, "Zarvo v0.1", false}, Row{Emulator::kM72, "Zarvo v0.1", true}}) {
-    Use(row.emulator);
-    drive_.Write("C:\\Mine\\sf2.zip", "mine");
+  for (const EmulatorProfile& profile : Profiles()) {
+    const bool looks_up_first =
+        std::set{Emulator::kCallus, Emulator::kRaine, Emulator::kM72}.count(profile.emulator) == 1;
+    const std::string title =
+        profile.emulator == Emulator::kRaine ? "Warning! - No EXE found!|" : "";
     for (const char* path : {"C:\\Emu\\None.exe", ""}) {
+      Use(profile, "sf2");
       panel_.emulator_path = path;
-      panel_.calls.clear();
-      boxes_.shown.clear();
-      EXPECT_EQ(Start(), LaunchEnd::kNoEmulator) << row.title;
-      EXPECT_EQ(Warning(), std::string(row.title) + "|" + app_.messages.MsgNoEmulator);
-      std::vector<std::string> calls = {"save cfg", "emulator picker"};
-      if (row.looks_up_first) calls.insert(calls.begin() + 1, "find Street Fighter II");
-      EXPECT_EQ(panel_.calls, calls);
-      EXPECT_THAT(Archives(), IsEmpty());
-      ExpectNothingRan();
+      EXPECT_EQ(Start(), title + app_.messages.MsgNoEmulator + ": no emulator");
+      EXPECT_EQ(panel_.calls, looks_up_first ? "save; find Street Fighter II; emulator picker; "
+                                             : "save; emulator picker; ");
     }
-  }
-}
-
-TEST_F(LauncherTest, AMissingArchiveLeadsToThePickerOfItsFolder) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    Use(profile.emulator);
-    for (const char* rom_folder : {"C:\\Mine", "C:\\Nowhere", "", "Mine"}) {
-      panel_.options.rom_folder = rom_folder;
-      boxes_.shown.clear();
-      EXPECT_EQ(Start(), LaunchEnd::kNoRom) << profile.word << " " << rom_folder;
-      const bool raine = profile.emulator == Emulator::kRaine;
-      EXPECT_EQ(Warning(),
-                (raine ? "Warning! - No Rom found!|" : "Zarvo v0.1|") + app_.messages.MsgNoRom);
-      EXPECT_EQ(panel_.calls.back(), "rom picker");
-      ExpectNothingRan();
-    }
-  }
-}
-
-TEST_F(LauncherTest, OnlyMameAndM72LookIntoTheirOwnFolder) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    Use(profile.emulator);
-    UseOwnFolder();
-    const bool looks = profile.emulator == Emulator::kMame || profile.emulator == Emulator::kM72;
-    EXPECT_EQ(Start(), looks ? LaunchEnd::kNoRom : LaunchEnd::kRan) << profile.word;
-  }
-}
-
-TEST_F(LauncherTest, AGameThatTheDataFileDoesNotKnowIsNotLaunched) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    Use(profile.emulator);
-    UseOwnFolder();
-    drive_.Write(own_ + "\\sf2.zip", "own");
-    panel_.knows_game = false;
-    EXPECT_EQ(Start(), LaunchEnd::kUnknownGame);
-    EXPECT_THAT(boxes_.shown, IsEmpty());
-    ExpectNothingRan();
-  }
-}
-
-TEST_F(LauncherTest, ARomNameThatLeadsElsewhereIsNoRom) {
-  drive_.Write("C:\\Emu\\secret.zip", "secret");
-  for (const EmulatorProfile& profile : Profiles()) {
-    for (const char* rom : {"..\\secret", "C:\\Emu\\secret", "", "sf2 & del", "*", "a|b", "-x"}) {
-      Use(profile.emulator);
-      panel_.rom = rom;
-      EXPECT_EQ(Start(), LaunchEnd::kNoRom) << profile.word << " " << rom;
-      ExpectNothingRan();
-      UseOwnFolder();
-      EXPECT_EQ(Start(), LaunchEnd::kNoRom) << profile.word << " " << rom;
-    }
-  }
-}
-
-TEST_F(LauncherTest, AParentThatLeadsElsewhereIsNoParent) {
-  Use(Emulator::kMame);
-  panel_.parent = "..\\Emu\\secret";
-  drive_.Write("C:\\Emu\\secret.zip", "secret");
-  EXPECT_EQ(Start(), LaunchEnd::kNoRom);
-}
-
-TEST_F(LauncherTest, AnArchiveThatStandsThereRunsAfterAQuestionAndStays) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    Use(profile.emulator);
-    drive_.Write("C:\\Mine\\sf2.zip", "mine");
-    drive_.Write(own_ + "\\sf2.zip", "own");
-    boxes_.answers = {BoxAnswer::kNo};
-    EXPECT_EQ(Start(), LaunchEnd::kRefused) << profile.word;
-    EXPECT_THAT(Questions(), ElementsAre(Overwrite("sf2")));
-    ExpectNothingRan();
-    EXPECT_THAT(Archives(), ElementsAre("sf2.zip=own"));
-    boxes_.answers = {BoxAnswer::kYes};
-    EXPECT_EQ(Start(), LaunchEnd::kRan) << profile.word;
-    EXPECT_THAT(archives_, ElementsAre("sf2.zip=own")) << profile.word;
-    EXPECT_THAT(Archives(), ElementsAre("sf2.zip=own")) << profile.word;
-  }
-}
-
-TEST_F(LauncherTest, NoQuestionComesForAnArchiveThatTheRomFolderLacks) {
-  for (const Emulator emulator : kWithoutParents) {
-    Use(emulator);
-    drive_.Write(own_ + "\\sf2.zip", "own");
-    EXPECT_EQ(Start(), LaunchEnd::kNoRom);
-    EXPECT_THAT(Questions(), IsEmpty());
   }
 }
 
 // What MAME does with the archives of a clone and its parent, by where they stand.
 TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
-  struct Row {
-    std::string_view what;
-    std::string parent;
-    std::vector<std::string> mine;
-    std::vector<std::string> own;
-    std::deque<BoxAnswer> answers;
-    LaunchEnd end;
-    std::vector<std::string> questions;
-    std::vector<std::string> during;
+  const auto play = [this](const char* parent, const char* mine, const char* own,
+                           std::string_view answers) {
+    UseMame(mine, own);
+    panel_.parent = parent;
+    for (const char c : answers) {
+      boxes_.answers.push_back(c == 'y' ? BoxAnswer::kYes : BoxAnswer::kNo);
+    }
+    return Start();
   };
-  const auto yes = BoxAnswer::kYes;
-  const auto no = BoxAnswer::kNo;
-  const std::vector<Row> rows = {
-      {"only the parent", "sf", {"sf"}, {}, {}, LaunchEnd::kRan, {}, {"sf.zip=mine"}},
-      {"both", "sf", {"sf2", "sf"}, {}, {}, LaunchEnd::kRan, {}, {"sf2.zip=mine"}},
-      {"neogeo alone is nothing", "neogeo", {"neogeo"}, {}, {}, LaunchEnd::kNoRom, {}, {}},
-      {"neogeo game", "neogeo", {"sf2"}, {}, {}, LaunchEnd::kRan, {}, {"sf2.zip=mine"}},
-      {"the game stands, no parent",
-       "sf",
-       {"sf2"},
-       {"sf2"},
-       {yes},
-       LaunchEnd::kRan,
-       {Overwrite("sf2")},
-       {"sf2.zip=own"}},
-      {"the game stands, both here",
-       "sf",
-       {"sf2", "sf"},
-       {"sf2"},
-       {yes, yes},
-       LaunchEnd::kRan,
-       {Overwrite("sf2"), kItalian},
-       {"sf2.zip=own"}},
-      {"the game stands, second No",
-       "sf",
-       {"sf2", "sf"},
-       {"sf2"},
-       {yes, no},
-       LaunchEnd::kRefused,
-       {Overwrite("sf2"), kItalian},
-       {}},
-      {"the game stands, neogeo here",
-       "neogeo",
-       {"sf2", "neogeo"},
-       {"sf2"},
-       {yes},
-       LaunchEnd::kNoRom,
-       {Overwrite("sf2")},
-       {}},
-      {"the parent stands",
-       "sf",
-       {"sf"},
-       {"sf"},
-       {yes},
-       LaunchEnd::kRan,
-       {Overwrite("sf")},
-       {"sf.zip=own"}},
-      {"the parent stands, No",
-       "sf",
-       {"sf"},
-       {"sf"},
-       {no},
-       LaunchEnd::kRefused,
-       {Overwrite("sf")},
-       {}}};
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.what);
-    Use(Emulator::kMame);
-    std::filesystem::remove_all(drive_.Host("C:\\Mine"));
-    std::filesystem::remove_all(drive_.Host(own_));
-    drive_.MakeFolder(own_);
-    for (const std::string& name : row.mine) drive_.Write("C:\\Mine\\" + name + ".zip", "mine");
-    for (const std::string& name : row.own) drive_.Write(own_ + "\\" + name + ".zip", "own");
-    panel_.parent = row.parent;
-    boxes_.answers = row.answers;
-    const auto before = Archives();
-    EXPECT_EQ(Start(), row.end);
-    EXPECT_EQ(Questions(), row.questions);
-    EXPECT_EQ(archives_, row.during);
-    EXPECT_EQ(Archives(), before);
-    EXPECT_TRUE(boxes_.answers.empty());
+  const std::string asked = "sf2: overwrite?: ";
+  EXPECT_EQ(play("sf", "sf", "", ""), "ran with sf.zip=mine");
+  EXPECT_EQ(play("sf", "sf2 sf", "", ""), "ran with sf2.zip=mine");
+  EXPECT_EQ(play("neogeo", "neogeo", "", ""), "no rom: no rom");
+  EXPECT_EQ(play("neogeo", "sf2", "", ""), "ran with sf2.zip=mine");
+  EXPECT_EQ(play("sf", "sf2", "sf2", "y"), asked + "ran with sf2.ZIP=own");
+  EXPECT_EQ(play("sf", "sf2 sf", "sf2", "yy"), asked + kBothStand + ": ran with sf2.ZIP=own");
+  EXPECT_EQ(play("sf", "sf2 sf", "sf2", "yn"), asked + kBothStand + ": refused");
+  EXPECT_EQ(play("neogeo", "sf2 neogeo", "sf2", "y"), asked + "no rom: no rom");
+  EXPECT_EQ(play("sf", "sf", "sf", "y"), "sf: overwrite?: ran with sf.ZIP=own");
+  EXPECT_EQ(play("sf", "sf", "sf", "n"), "sf: overwrite?: refused");
+  drive_.Write("C:\\Emu\\secret.zip", "secret");
+  EXPECT_EQ(play("..\\Emu\\secret", "", "", ""), "no rom: no rom");
+  for (const std::string parent : {"sf", "neogeo"}) {
+    UseMame("", parent);
+    UseOwnFolder();
+    panel_.parent = parent;
+    EXPECT_EQ(Start(), parent == "sf" ? "ran with sf.ZIP=own" : "no rom: no rom");
   }
-}
-
-TEST_F(LauncherTest, TheParentInTheOwnFolderIsEnoughForMame) {
-  Use(Emulator::kMame);
-  UseOwnFolder();
-  panel_.parent = "sf";
-  drive_.Write(own_ + "\\sf.zip", "own");
-  EXPECT_EQ(Start(), LaunchEnd::kRan);
-  EXPECT_THAT(Archives(), ElementsAre("sf.zip=own"));
-}
-
-TEST_F(LauncherTest, TheSharedRomsOfNeoGeoAreNoGame) {
-  Use(Emulator::kMame);
-  UseOwnFolder();
-  panel_.parent = "neogeo";
-  drive_.Write(own_ + "\\neogeo.zip", "own");
-  EXPECT_EQ(Start(), LaunchEnd::kNoRom);
+  UseMame("sf2");
+  std::filesystem::remove(drive_.Host(own_));
+  EXPECT_EQ(Start(), "ran with sf2.zip=mine") << "MAME makes its rom folder";
 }
 
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
-  struct Row {
-    FileStep step;
-    std::string_view name;
-    std::string_view message;
-  };
-  const std::vector<Row> rows = {
+  const std::tuple<FileStep, const char*, std::string> rows[] = {
       {FileStep::kWrite, "lancia.bat", R"(C:\Emu\Mame\lancia.bat: No space left on device)"},
       {FileStep::kChangeFolder, "Mame", "C:\\Emu\\Mame: No space left on device"},
-      {FileStep::kCopy, "sf2.zip", R"(C:\Emu\Mame\roms\sf2.zip: No space left on device)"}};
-  for (const Row& row : rows) {
-    Use(Emulator::kMame);
-    drive_.Write("C:\\Mine\\sf2.zip", "mine");
+      {FileStep::kCopy, "sf.zip", R"(C:\Emu\Mame\roms\sf.zip: No space left on device)"}};
+  for (const auto& [step, name, message] : rows) {
+    UseMame("sf");
+    panel_.parent = "sf";
     FailingFiles files(drive_.files());
-    files.Fail(row.step, row.name);
-    EXPECT_EQ(StartWith(files), LaunchEnd::kFailed) << row.message;
-    EXPECT_EQ(Warning(), "Zarvo v0.1|" + std::string(row.message));
-    EXPECT_THAT(Archives(), IsEmpty()) << row.message;
-    ExpectNothingRan();
+    files.Fail(step, name);
+    EXPECT_EQ(Start(files), message + ": failed");
   }
-}
-
-TEST_F(LauncherTest, ACopyOfTheParentThatFailsEndsTheLaunch) {
-  Use(Emulator::kMame);
-  panel_.parent = "sf";
-  drive_.Write("C:\\Mine\\sf.zip", "mine");
-  FailingFiles files(drive_.files());
-  files.Fail(FileStep::kCopy, "sf.zip");
-  EXPECT_EQ(StartWith(files), LaunchEnd::kFailed);
-  EXPECT_EQ(Warning(), "Zarvo v0.1|C:\\Emu\\Mame\\roms\\sf.zip: No space left on device");
-  ExpectNothingRan();
-}
-
-TEST_F(LauncherTest, ACopyThatFailsIsAMissingRomForTheOthers) {
-  for (const Emulator emulator : kWithoutParents) {
-    Use(emulator);
-    drive_.Write("C:\\Mine\\sf2.zip", "mine");
-    FailingFiles files(drive_.files());
-    files.Fail(FileStep::kCopy, "sf2.zip");
-    EXPECT_EQ(StartWith(files), LaunchEnd::kNoRom);
-    ExpectNothingRan();
-  }
-}
-
-TEST_F(LauncherTest, ARunThatFailsIsToldWhenEverythingIsPutBack) {
-  Use(Emulator::kCallus);
-  drive_.Write("C:\\Mine\\sf2.zip", "mine");
+  UseMame("sf2");
   run_result_ = Error{"DOSBox is not installed."};
-  EXPECT_EQ(Start(), LaunchEnd::kFailed);
-  EXPECT_EQ(Warning(), "Zarvo v0.1|DOSBox is not installed.");
-  EXPECT_THAT(Archives(), IsEmpty());
-  EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
-}
-
-TEST_F(LauncherTest, WithoutAnEmulatorFolderNothingIsTouched) {
+  EXPECT_EQ(Start(), "DOSBox is not installed.: failed with sf2.zip=mine");
   for (const char* folder : {"", "Emu\\Mame"}) {
-    Use(Emulator::kMame);
-    drive_.Write("C:\\Mine\\sf2.zip", "mine");
     panel_.emulator_folder = folder;
-    EXPECT_EQ(Start(), LaunchEnd::kFailed);
-    EXPECT_EQ(Warning(),
-              "Zarvo v0.1|The emulator's folder isn't known.\rPlease choose the emulator in "
-              "section CONF");
-    ExpectNothingRan();
+    EXPECT_EQ(Start(),
+              "The emulator's folder isn't known.\rPlease choose the emulator in section CONF: "
+              "failed");
   }
 }
 

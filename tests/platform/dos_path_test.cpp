@@ -3,26 +3,21 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace zarvo {
 namespace {
 
+using namespace std::string_view_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(DosPath, JoinsWithOneBackslash) {
+TEST(DosPath, IsPutTogetherAndTakenApart) {
   EXPECT_EQ(JoinPath("C:\\", "a"), "C:\\a");
   EXPECT_EQ(JoinPath("C:\\Emu", "a"), "C:\\Emu\\a");
   EXPECT_EQ(JoinPath("C:", "a"), "C:\\a");
   EXPECT_EQ(JoinPath("", "a"), "a");
-}
-
-TEST(DosPath, TakesFolderAndNameApart) {
-  struct Case {
-    const char* path;
-    const char* folder;
-    const char* name;
-  };
-  const Case cases[] = {
+  const std::array<const char*, 3> cases[] = {
       {"C:\\Emu\\Mame.exe", "C:\\Emu", "Mame.exe"},
       {"C:\\Mame.exe", "C:\\", "Mame.exe"},
       {"\\Mame.exe", "\\", "Mame.exe"},
@@ -58,12 +53,12 @@ TEST(DosPath, KnowsWhatDosCanName) {
   for (const char* name : {"A", "MAME.EXE", "12345678.123", "m72", "PUCKMA~1.ZIP", "a_b-c!.$&#"}) {
     EXPECT_TRUE(IsDosName(name)) << name;
   }
-  for (const char* name :
-       {"",     ".",          "..",  ".cfg",    "a.",   "123456789", "a.1234", "a.b.c",
-        "a b",  "a.b ",       "a+b", "a,b",     "a;b",  "a=b",       "a[b",    "a:b",
-        "a\\b", "a/b",        "a*",  "a?",      "a\"b", "a|b",       "a<b",    "100%",
-        "\x01", "Pok\xE9mon", "con", "AUX.txt", "lpt1", "Com9.x"}) {
+  for (const char* name : {"", ".", "..", ".cfg", "a.", "123456789", "a.1234", "a.b.c", "a.b ",
+                           "con", "AUX.txt", "lpt1", "Com9.x"}) {
     EXPECT_FALSE(IsDosName(name)) << name;
+  }
+  for (const char c : " +,;=[:\\/*?\"|<%\x01\xE9"sv) {
+    EXPECT_FALSE(IsDosName(std::string("a") + c + "b")) << c;
   }
 }
 
@@ -72,46 +67,27 @@ TEST(DosPath, KnowsNamesThatCannotLeadElsewhere) {
                            "contra", "caf\xE9", ".hidden", "a~1", "a+b#"}) {
     EXPECT_TRUE(IsPlainName(name)) << name;
   }
-  for (const char* name :
-       {"",      ".",   "..",  "...", "a\\b",    "a/b",  "..\\a", "C:a", "a*",  "a?",
-        "\"a\"", "'a'", "`a`", "a b", "a\xA0z",  "a\tb", "a\nb",  "a|b", "a>b", "a<b",
-        "a&b",   "a;b", "$a",  "%a%", "a^b",     "a!b",  "(a)",   "{a}", "[a]", "a=b",
-        "a,b",   "@a",  "-a",  "con", "NUL.zip", "\x7F", "\x81"}) {
+  for (const char* name : {"", ".", "..", "...", "..\\a", "C:a", "-a", "con", "NUL.zip"}) {
     EXPECT_FALSE(IsPlainName(name)) << name;
   }
-  EXPECT_FALSE(IsPlainName(std::string_view("a\0b", 3)));
+  for (const char c : "\\/*?\"'`<>|&;$%^!(){}[]=,@: \xA0\t\n\x7F\x81\0"sv) {
+    EXPECT_FALSE(IsPlainName(std::string("a") + c + "b")) << c;
+  }
 }
 
 TEST(DosPath, PatternsMatchAsInAFileList) {
-  struct Case {
-    const char* name;
-    const char* patterns;
-    bool matches;
+  const auto matches = [](std::string_view both) {  // the name, a colon, the patterns
+    const std::size_t colon = both.find(':');
+    return MatchesPattern(both.substr(0, colon), both.substr(colon + 1));
   };
-  const Case cases[] = {
-      {"puckman.zip", "*.zip", true},
-      {"PUCKMAN.ZIP", "*.zip", true},
-      {"pok\xC9.zip", "POK\xE9.*", true},
-      {"puckman.zip", "puckman.zip;pacman.zip", true},
-      {"pacman.zip", "puckman.zip; pacman.zip", true},
-      {"pacman.zip", ";;pacman.zip;", true},
-      {"pacmania.zip", "pacman.zip", false},
-      {"pacman.zip2", "*.zip", false},
-      {"readme", "*.*", true},
-      {"readme", "*.", false},
-      {"a.zip", "?.zip", true},
-      {".zip", "?.zip", false},
-      {"ab.zip", "?.zip", false},
-      {"aXbXb.zip", "a*b.zip", true},
-      {"abc", "a**c*", true},
-      {"abc", "*b", false},
-      {"", "*", true},
-      {"", "?", false},
-      {"a", "", false},
-      {"a", " ; ", false},
-  };
-  for (const auto& [name, patterns, matches] : cases) {
-    EXPECT_EQ(MatchesPattern(name, patterns), matches) << name << " " << patterns;
+  for (const char* both : {"puckman.zip:*.zip", "PUCKMAN.ZIP:*.zip", "pok\xC9.zip:POK\xE9.*",
+                           "b.zip:b.zip;a.zip", "a.zip:b.zip; a.zip", "a.zip:;;a.zip;",
+                           "readme:*.*", "a.zip:?.zip", "aXbXb.zip:a*b.zip", "abc:a**c*", ":*"}) {
+    EXPECT_TRUE(matches(both)) << both;
+  }
+  for (const char* both : {"pacmania.zip:pacman.zip", "pacman.zip2:*.zip", "readme:*.",
+                           ".zip:?.zip", "ab.zip:?.zip", "abc:*b", ":?", "a:", "a: ; "}) {
+    EXPECT_FALSE(matches(both)) << both;
   }
 }
 

@@ -8,7 +8,8 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <map>
+#include <functional>
+#include <set>
 
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
@@ -18,128 +19,112 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::Pair;
-using testing::UnorderedElementsAre;
-
-std::map<std::string, bool> List(const DosFiles& files, std::string_view path) {
-  std::map<std::string, bool> entries;
-  for (const FolderEntry& entry : files.ListFolder(path).value()) {
-    entries[entry.name] = entry.is_folder;
-  }
-  return entries;
-}
-
-// The names on the host, which tell what a test left behind.
-std::vector<std::string> HostNames(const fs::path& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename());
-  return names;
-}
 
 void WriteHost(const fs::path& path, std::string_view bytes) { std::ofstream(path) << bytes; }
 
-// Makes writes beyond a size fail, as on a full disk, while it lives.
-class SizeLimit {
- public:
-  explicit SizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit now = {bytes, old_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &now);
-  }
-  ~SizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  SizeLimit(const SizeLimit&) = delete;
-  SizeLimit& operator=(const SizeLimit&) = delete;
+// Does a step while writes beyond a size fail, as on a full disk, and gives its message.
+std::string OnFullDisk(rlim_t bytes, const std::function<Status()>& step) {
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit old{};
+  getrlimit(RLIMIT_FSIZE, &old);
+  const rlimit now = {bytes, old.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &now);
+  const Status done = step();
+  setrlimit(RLIMIT_FSIZE, &old);
+  std::signal(SIGXFSZ, handler);
+  return done.error().message;
+}
 
- private:
-  void (*handler_)(int);
-  rlimit old_{};
+class DosWorldTest : public testing::Test {
+ protected:
+  // The names in a folder as DOS has them, a folder's with a backslash.
+  std::set<std::string> List(std::string_view path) {
+    std::set<std::string> names;
+    for (const FolderEntry& entry : files_.ListFolder(path).value()) {
+      names.insert(entry.name + (entry.is_folder ? "\\" : ""));
+    }
+    return names;
+  }
+  // The names on the host, which tell what a test left behind.
+  std::set<std::string> HostNames(std::string_view folder) {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(root_ / folder)) {
+      names.insert(entry.path().filename());
+    }
+    return names;
+  }
+  std::string Replace(std::string_view path, std::string_view temporary, std::string_view bytes) {
+    const Status done = files_.ReplaceFile(path, temporary, bytes);
+    return done ? "done" : done.error().message;
+  }
+
+  TempDrive drive_;
+  DosWorld& files_ = drive_.files();
+  const fs::path& root_ = drive_.root();
+  const fs::path cfg_ = root_ / "Zarvo/cfg";
 };
 
-TEST(CurrentFolder, EveryDriveKeepsItsOwn) {
-  TempDrive drive;
-  DosWorld world({{'C', drive.root()}, {'D', drive.Host("C:\\Emu")}});
-  drive.MakeFolder("C:\\Emu\\Mame\\roms");
+TEST_F(DosWorldTest, EveryDriveKeepsItsOwnFolder) {
+  DosWorld world({{'C', root_}, {'D', drive_.Host("C:\\Emu")}});
+  drive_.MakeFolder("C:\\Emu\\Mame\\roms");
   ASSERT_TRUE(world.ChangeFolder("c:\\zarvo\\DATA").ok());
   ASSERT_TRUE(world.ChangeFolder("D:mame").ok());
   EXPECT_EQ(world.CurrentFolder(), "C:\\Zarvo\\Data") << "another drive's folder moved the drive";
-  EXPECT_EQ(world.HostPath("D:x").value(), drive.Host("C:\\Emu\\Mame\\x"));
-  EXPECT_EQ(world.HostPath("D:\\x").value(), drive.Host("C:\\Emu\\x"));
+  EXPECT_EQ(world.HostPath("D:x").value(), drive_.Host("C:\\Emu\\Mame\\x"));
+  EXPECT_EQ(world.HostPath("D:\\x").value(), drive_.Host("C:\\Emu\\x"));
 
   ASSERT_TRUE(world.ChangeDrive('d').ok());
-  EXPECT_EQ(world.CurrentFolder(), "D:\\Mame");
   ASSERT_TRUE(world.ChangeFolder("roms").ok());
   EXPECT_EQ(world.CurrentFolder(), "D:\\Mame\\roms");
   ASSERT_TRUE(world.ChangeFolder("..\\..").ok());
   EXPECT_EQ(world.CurrentFolder(), "D:\\");
-  EXPECT_EQ(world.HostPath("C:x").value(), drive.Host("C:\\Zarvo\\Data\\x"));
+  EXPECT_EQ(world.HostPath("C:x").value(), drive_.Host("C:\\Zarvo\\Data\\x"));
 }
 
-TEST(CurrentFolder, AChangeThatFailsChangesNothing) {
-  TempDrive drive;
-  drive.Write("C:\\Zarvo\\file", "");
-  DosWorld& files = drive.files();
+TEST_F(DosWorldTest, AChangeThatFailsChangesNothing) {
+  drive_.Write("C:\\Zarvo\\file", "");
   for (const char* path : {"file", "nowhere", "Q:\\", "Data\\nowhere", "D*"}) {
-    EXPECT_FALSE(files.ChangeFolder(path).ok()) << path;
-    EXPECT_EQ(files.CurrentFolder(), "C:\\Zarvo");
+    EXPECT_FALSE(files_.ChangeFolder(path).ok()) << path;
   }
-  EXPECT_EQ(files.ChangeDrive('q').error().message, "There is no drive Q:");
-  EXPECT_FALSE(files.ChangeDrive('\0').ok());
-  EXPECT_TRUE(files.ChangeFolder("").ok());
-  EXPECT_EQ(files.CurrentFolder(), "C:\\Zarvo");
+  EXPECT_EQ(files_.ChangeDrive('q').error().message, "There is no drive Q:");
+  EXPECT_FALSE(files_.ChangeDrive('\0').ok());
+  EXPECT_TRUE(files_.ChangeFolder("").ok());
+  EXPECT_EQ(files_.CurrentFolder(), "C:\\Zarvo");
 }
 
-TEST(Names, MatchInAnyCaseInEveryComponent) {
-  TempDrive drive;
-  fs::create_directories(drive.root() / "eMu/MÄME");
-  WriteHost(drive.root() / "eMu/MÄME/Größe.ZIP", "found");
-  DosWorld& files = drive.files();
-  fs::remove(drive.root() / "Emu");
-  EXPECT_TRUE(
-      files.FileExists("C:\\EMU\\m\xE4me\\GR\xD6\xDF"
-                       "E.zip"));
-  EXPECT_TRUE(files.FolderExists("c:/emu/M\xC4ME/"));
-  EXPECT_EQ(drive.Read("C:\\emu\\m\xC4me\\gr\xF6\xDF"
-                       "e.Zip"),
-            "found");
-  EXPECT_FALSE(files.FileExists("C:\\emu\\m\xE4me\\gr\xF6sse.zip"));
-  EXPECT_FALSE(files.FileExists("C:\\emu\\m\xE4me")) << "a folder is no file";
-  EXPECT_FALSE(
-      files.FolderExists("C:\\emu\\m\xE4me\\gr\xF6\xDF"
-                         "e.zip"));
-  EXPECT_EQ(files.HostPath("C:\\EMU\\New\\File.TXT").value(),
-            (drive.root() / "eMu/New/File.TXT").string());
+TEST_F(DosWorldTest, NamesMatchInAnyCaseInEveryComponent) {
+  fs::create_directories(root_ / "eMu/MÄME");
+  fs::remove(root_ / "Emu");
+  WriteHost(root_ / "eMu/MÄME/Größ.ZIP", "found");
+  EXPECT_TRUE(files_.FolderExists("c:/emu/M\xC4ME/"));
+  const std::string file = "C:\\EMU\\m\xE4me\\GR\xD6\xDF.zip";
+  EXPECT_FALSE(files_.FolderExists(file));
+  EXPECT_EQ(drive_.Read(file), "found");
+  EXPECT_FALSE(files_.FileExists("C:\\emu\\m\xE4me\\gr\xF6ss.zip"));
+  EXPECT_FALSE(files_.FileExists("C:\\emu\\m\xE4me")) << "a folder is no file";
+  EXPECT_EQ(drive_.Host("C:\\EMU\\New\\File.TXT"), root_ / "eMu/New/File.TXT");
+
+  WriteHost(root_ / "Zarvo/GAME.DAT", "upper");
+  WriteHost(root_ / "Zarvo/game.dat", "lower");
+  EXPECT_EQ(drive_.Read("game.dat"), "lower");
+  EXPECT_EQ(drive_.Read("GAME.DAT"), "upper");
+  EXPECT_EQ(drive_.Read("Game.dat"), "upper") << "the first in the order of bytes";
 }
 
-TEST(Names, OfTwoThatDifferOnlyInCaseTheExactOneIsMeant) {
-  TempDrive drive;
-  WriteHost(drive.root() / "Zarvo/GAME.DAT", "upper");
-  WriteHost(drive.root() / "Zarvo/game.dat", "lower");
-  EXPECT_EQ(drive.Read("game.dat"), "lower");
-  EXPECT_EQ(drive.Read("GAME.DAT"), "upper");
-  EXPECT_EQ(drive.Read("Game.dat"), "upper") << "the first in the order of bytes";
-}
-
-TEST(Names, NoPathLeavesItsDrive) {
+TEST_F(DosWorldTest, NoPathLeavesItsDrive) {
   TempDrive outside;
   outside.Write("C:\\secret", "");
-  TempDrive drive;
-  DosWorld world({{'C', drive.root()}});
   const std::string up = "..\\..\\..\\..\\..\\..\\..\\..";
   const std::string secret = outside.root().string() + "/secret";
-  EXPECT_FALSE(world.FileExists("C:\\" + up + secret));
-  EXPECT_FALSE(world.FileExists("C:\\Emu/../../../../../../../../.." + secret));
-  EXPECT_EQ(world.HostPath("C:\\" + up).value(), drive.root());
-  EXPECT_EQ(world.HostPath("C:\\Emu\\..\\..\\Zarvo").value(), drive.root() / "Zarvo");
+  EXPECT_FALSE(files_.FileExists("C:\\" + up + secret));
+  EXPECT_FALSE(files_.FileExists("C:\\Emu/../../../../../../../../.." + secret));
+  EXPECT_EQ(drive_.Host("C:\\" + up), root_);
   // The host would end such a name at the zero, and climb.
-  EXPECT_FALSE(world.HostPath(std::string_view("C:\\..\0x", 7)).ok());
+  EXPECT_FALSE(files_.HostPath(std::string_view("C:\\..\0x", 7)).ok());
 }
 
-TEST(Names, WhatAPathCannotSayIsNeitherListedNorMade) {
-  TempDrive drive;
-  const fs::path data = drive.root() / "Zarvo/Data";
+TEST_F(DosWorldTest, WhatAPathCannotSayIsNeitherListedNorMade) {
+  const fs::path data = root_ / "Zarvo/Data";
   for (const char* name :
        {"plain.dat", "caf\xC3\xA9", "ゲーム", "raw\xE9", "a\\b", "a:b", "a*b", "line\nbreak"}) {
     WriteHost(data / name, "");
@@ -149,174 +134,120 @@ TEST(Names, WhatAPathCannotSayIsNeitherListedNorMade) {
   fs::create_directory_symlink("folder", data / "way");
   fs::create_symlink("nothing", data / "dead");
   mkfifo((data / "pipe").c_str(), 0600);
-  EXPECT_THAT(List(drive.files(), "Data"),
-              ElementsAre(Pair("caf\xE9", false), Pair("folder", true), Pair("link", false),
-                          Pair("plain.dat", false), Pair("way", true)));
-  EXPECT_FALSE(drive.files().WriteFile("Data\\a?b", "").ok());
-  EXPECT_FALSE(drive.files().FileExists("Data\\*.dat"));
-  EXPECT_FALSE(drive.files().FileExists("Data\\pipe"));
-  EXPECT_FALSE(drive.files().Open("Data\\pipe").ok()) << "reading a pipe would never end";
+  EXPECT_THAT(List("Data"), ElementsAre("caf\xE9", "folder\\", "link", "plain.dat", "way\\"));
+  EXPECT_THAT(List(""), ElementsAre("Data\\", "cfg\\")) << "the current folder";
+  EXPECT_EQ(files_.ListFolder("Data\\Link").error().message, "Not a directory");
+  EXPECT_EQ(files_.ListFolder("nowhere").error().message, "No such file or directory");
+  EXPECT_FALSE(files_.WriteFile("Data\\a?b", "").ok());
+  EXPECT_FALSE(files_.FileExists("Data\\*.dat"));
+  EXPECT_FALSE(files_.FileExists("Data\\pipe"));
+  EXPECT_FALSE(files_.Open("Data\\pipe").ok()) << "reading a pipe would never end";
 }
 
-TEST(ListFolder, TakesTheCurrentFolderAndRefusesFiles) {
-  TempDrive drive;
-  drive.Write("cfg\\Mame.cfg", "");
-  EXPECT_THAT(List(drive.files(), ""), ElementsAre(Pair("Data", true), Pair("cfg", true)));
-  EXPECT_EQ(drive.files().ListFolder("cfg\\mame.cfg").error().message, "Not a directory");
-  EXPECT_EQ(drive.files().ListFolder("nowhere").error().message, "No such file or directory");
-}
-
-TEST(ReadAll, GivesEveryByteOrTheReason) {
-  TempDrive drive;
-  for (const std::size_t size : {0, 1, 65535, 65536, 65537, 300000}) {
+TEST_F(DosWorldTest, EveryByteIsWrittenAndReadOrTheReasonSaid) {
+  for (const std::size_t size : {300000, 65537, 65536, 65535, 1, 0}) {
     std::string bytes;
     for (std::size_t at = 0; at < size; ++at) bytes += static_cast<char>(at * 7 % 256);
-    drive.Write("file", bytes);
-    EXPECT_EQ(ReadAll(drive.files(), "FILE").value(), bytes) << size;
+    ASSERT_TRUE(files_.WriteFile("FILE", bytes).ok());
+    EXPECT_EQ(ReadAll(files_, "file").value(), bytes) << size;
   }
-  EXPECT_EQ(ReadAll(drive.files(), "nofile").error().message, "No such file or directory");
-  EXPECT_EQ(ReadAll(drive.files(), "Data").error().message, "Is a directory");
-  FailingFiles torn(drive.files());
+  EXPECT_FALSE(files_.WriteFile("no\\folder", "x").ok());
+  EXPECT_FALSE(files_.WriteFile("Data", "x").ok());
+  EXPECT_EQ(ReadAll(files_, "nofile").error().message, "No such file or directory");
+  EXPECT_EQ(ReadAll(files_, "Data").error().message, "Is a directory");
+  FailingFiles torn(files_);
   torn.Fail(FileStep::kRead, "file");
   EXPECT_FALSE(ReadAll(torn, "file").ok()) << "half a store must not pass for the whole";
 }
 
-TEST(WriteFile, EmptiesWhatStoodThere) {
-  TempDrive drive;
-  drive.Write("file", "a long text");
-  ASSERT_TRUE(drive.files().WriteFile("FILE", "new").ok());
-  EXPECT_EQ(drive.Read("file"), "new");
-  EXPECT_FALSE(drive.files().WriteFile("no\\folder", "x").ok());
-  EXPECT_FALSE(drive.files().WriteFile("Data", "x").ok());
+TEST_F(DosWorldTest, ReplaceFileKeepsTheHostsNameModeAndLink) {
+  WriteHost(cfg_ / "MAME.CFG", "old");
+  fs::permissions(cfg_ / "MAME.CFG", fs::perms(0640));
+  drive_.Write("cfg\\MAME.TMP", "a leftover that is longer than the new text");
+  EXPECT_EQ(Replace("cfg\\Mame.cfg", "cfg\\Mame.tmp", "new"), "done");
+  EXPECT_THAT(HostNames("Zarvo/cfg"), ElementsAre("MAME.CFG"));
+  EXPECT_EQ(drive_.Read("cfg\\mame.cfg"), "new");
+  EXPECT_EQ(fs::status(cfg_ / "MAME.CFG").permissions(), fs::perms(0640));
+
+  WriteHost(root_ / "Emu/real.set", "old");
+  fs::create_symlink("../../Emu/real.set", cfg_ / "Mame.set");
+  EXPECT_EQ(Replace("cfg\\Mame.set", "cfg\\Mameset.tmp", "new"), "done");
+  EXPECT_TRUE(fs::is_symlink(cfg_ / "Mame.set"));
+  EXPECT_EQ(drive_.Read("C:\\Emu\\real.set"), "new");
+  EXPECT_THAT(HostNames("Emu"), ElementsAre("real.set"));
 }
 
-TEST(ReplaceFile, KeepsTheHostsNameModeAndLink) {
-  TempDrive drive;
-  const fs::path cfg = drive.root() / "Zarvo/cfg";
-  WriteHost(cfg / "MAME.CFG", "old");
-  fs::permissions(cfg / "MAME.CFG", fs::perms(0640));
-  ASSERT_TRUE(drive.files().ReplaceFile("cfg\\Mame.cfg", "cfg\\Mame.tmp", "new").ok());
-  EXPECT_THAT(HostNames(cfg), ElementsAre("MAME.CFG"));
-  EXPECT_EQ(drive.Read("cfg\\mame.cfg"), "new");
-  EXPECT_EQ(fs::status(cfg / "MAME.CFG").permissions(), fs::perms(0640));
-
-  WriteHost(drive.root() / "Emu/real.set", "old");
-  fs::create_symlink("../../Emu/real.set", cfg / "Mame.set");
-  ASSERT_TRUE(drive.files().ReplaceFile("cfg\\Mame.set", "cfg\\Mameset.tmp", "new").ok());
-  EXPECT_TRUE(fs::is_symlink(cfg / "Mame.set"));
-  EXPECT_EQ(drive.Read("C:\\Emu\\real.set"), "new");
-  EXPECT_THAT(HostNames(drive.root() / "Emu"), ElementsAre("real.set"));
-}
-
-TEST(ReplaceFile, TakesOverALeftoverTemporaryFile) {
-  TempDrive drive;
-  drive.Write("cfg\\MAME.TMP", "a leftover that is longer than the new text");
-  ASSERT_TRUE(drive.files().ReplaceFile("cfg\\Mame.cfg", "cfg\\mame.tmp", "new").ok());
-  EXPECT_EQ(drive.Read("cfg\\Mame.cfg"), "new");
-  EXPECT_THAT(HostNames(drive.root() / "Zarvo/cfg"), ElementsAre("Mame.cfg"));
-}
-
-TEST(ReplaceFile, AFailureAtAnyStepKeepsTheOldFileAndNoTemporaryOne) {
-  TempDrive drive;
-  DosWorld& files = drive.files();
-  drive.Write("cfg\\Mame.cfg", "old");
+TEST_F(DosWorldTest, AReplacementThatFailsKeepsTheOldFileAndNoTemporaryOne) {
+  const std::string_view cfg = "cfg\\Mame.cfg";
+  drive_.Write(cfg, "old");
   const std::string text(5000, 'n');
-
-  {
-    const SizeLimit disk_full(1000);
-    EXPECT_EQ(files.ReplaceFile("cfg\\Mame.cfg", "cfg\\Mame.tmp", text).error().message,
-              "File too large");
-  }
-  EXPECT_EQ(drive.Read("cfg\\Mame.cfg"), "old");
-  EXPECT_THAT(HostNames(drive.root() / "Zarvo/cfg"), ElementsAre("Mame.cfg"));
-
-  EXPECT_EQ(files.ReplaceFile("cfg\\Mame.cfg", "nowhere\\Mame.tmp", text).error().message,
-            "No such file or directory");
-  drive.MakeFolder("cfg\\tmp");
-  EXPECT_EQ(files.ReplaceFile("cfg\\Mame.cfg", "cfg\\tmp", text).error().message, "Is a directory");
-  EXPECT_EQ(drive.Read("cfg\\Mame.cfg"), "old");
-
-  drive.MakeFolder("cfg\\Raine.cfg");
-  EXPECT_EQ(files.ReplaceFile("cfg\\Raine.cfg", "cfg\\Raine.tmp", text).error().message,
-            "Is a directory");
-  EXPECT_FALSE(drive.Exists("cfg\\Raine.tmp"));
-}
-
-TEST(ReadOnlyFiles, AreNeitherReplacedNorWrittenNorDeleted) {
-  TempDrive drive;
-  drive.Write("cfg\\Mame.cfg", "mine");
-  fs::permissions(drive.Host("cfg\\Mame.cfg"), fs::perms(0444));
-  DosWorld& files = drive.files();
-  const std::string denied = "Permission denied";
-  EXPECT_EQ(files.ReplaceFile("cfg\\mame.cfg", "cfg\\m.tmp", "x").error().message, denied);
-  EXPECT_EQ(files.WriteFile("cfg\\mame.cfg", "x").error().message, denied);
-  EXPECT_EQ(files.DeleteFile("cfg\\mame.cfg").error().message, denied);
-  EXPECT_EQ(drive.Read("cfg\\Mame.cfg"), "mine");
-  EXPECT_FALSE(drive.Exists("cfg\\m.tmp"));
-}
-
-TEST(ReadReplaceable, ALeftoverTemporaryFileTakesThePlaceOfAMissingStore) {
-  TempDrive drive;
-  DosWorld& files = drive.files();
-  EXPECT_FALSE(ReadReplaceable(files, "cfg\\Mame.set", "cfg\\Mameset.tmp").ok());
-
-  drive.Write("cfg\\Mameset.tmp", "left over");
-  EXPECT_EQ(ReadReplaceable(files, "cfg\\Mame.set", "cfg\\Mameset.tmp").value(), "left over");
-  EXPECT_FALSE(drive.Exists("cfg\\Mameset.tmp"));
-
-  drive.Write("cfg\\Mameset.tmp", "torn");
-  EXPECT_EQ(ReadReplaceable(files, "cfg\\MAME.SET", "cfg\\Mameset.tmp").value(), "left over");
-  EXPECT_FALSE(drive.Exists("cfg\\Mameset.tmp"));
-}
-
-TEST(CopyFile, NeverOverwritesAndLeavesNoPart) {
-  TempDrive drive;
-  DosWorld& files = drive.files();
-  const std::string archive(700000, 'z');
-  drive.Write("C:\\Emu\\game.zip", archive);
-  drive.Write("C:\\Emu\\roms\\OTHER.ZIP", "mine");
-
-  ASSERT_TRUE(files.CopyFile("C:\\Emu\\GAME.zip", "C:\\Emu\\roms\\game.zip").ok());
-  EXPECT_EQ(drive.Read("C:\\Emu\\roms\\game.zip"), archive);
-  EXPECT_EQ(files.CopyFile("C:\\Emu\\game.zip", "C:\\Emu\\roms\\other.zip").error().message,
-            "File exists");
-  EXPECT_EQ(drive.Read("C:\\Emu\\roms\\other.zip"), "mine");
-  EXPECT_FALSE(files.CopyFile("C:\\Emu\\none.zip", "C:\\Emu\\roms\\none.zip").ok());
-  EXPECT_FALSE(drive.Exists("C:\\Emu\\roms\\none.zip"));
-
-  const SizeLimit disk_full(300000);
-  EXPECT_EQ(files.CopyFile("C:\\Emu\\game.zip", "C:\\Emu\\roms\\third.zip").error().message,
+  EXPECT_EQ(OnFullDisk(1000, [&] { return files_.ReplaceFile(cfg, "cfg\\Mame.tmp", text); }),
             "File too large");
-  EXPECT_FALSE(drive.Exists("C:\\Emu\\roms\\third.zip"));
+  EXPECT_EQ(Replace(cfg, "nowhere\\Mame.tmp", text), "No such file or directory");
+  EXPECT_EQ(Replace(cfg, "Data", text), "Is a directory");
+  drive_.MakeFolder("cfg\\Raine.cfg");
+  EXPECT_EQ(Replace("cfg\\Raine.cfg", "cfg\\Raine.tmp", text), "Is a directory");
+  EXPECT_THAT(List("cfg"), ElementsAre("Mame.cfg", "Raine.cfg\\"));
+  EXPECT_EQ(drive_.Read(cfg), "old");
 }
 
-TEST(RenameFile, RefusesATakenNameButNotOtherLetters) {
-  TempDrive drive;
-  drive.Write("a.txt", "a");
-  drive.Write("B.TXT", "b");
-  EXPECT_EQ(drive.files().RenameFile("a.txt", "b.txt").error().message, "File exists");
-  EXPECT_TRUE(drive.files().RenameFile("A.TXT", "cfg\\C.txt").ok());
-  EXPECT_TRUE(drive.files().RenameFile("b.txt", "b.txt").ok());
-  EXPECT_THAT(HostNames(drive.root() / "Zarvo"), UnorderedElementsAre("Data", "cfg", "b.txt"));
-  EXPECT_EQ(drive.Read("cfg\\c.txt"), "a");
+TEST_F(DosWorldTest, ReadOnlyFilesAreNeitherReplacedNorWrittenNorDeleted) {
+  drive_.Write("cfg\\Mame.cfg", "mine");
+  fs::permissions(drive_.Host("cfg\\Mame.cfg"), fs::perms(0444));
+  const std::string denied = "Permission denied";
+  EXPECT_EQ(Replace("cfg\\mame.cfg", "cfg\\m.tmp", "x"), denied);
+  EXPECT_EQ(files_.WriteFile("cfg\\mame.cfg", "x").error().message, denied);
+  EXPECT_EQ(files_.DeleteFile("cfg\\mame.cfg").error().message, denied);
+  EXPECT_EQ(drive_.Read("cfg\\Mame.cfg"), "mine");
+  EXPECT_THAT(List("cfg"), ElementsAre("Mame.cfg"));
 }
 
-TEST(FilesAndFolders, AreMadeAndDeletedByAnyCase) {
-  TempDrive drive;
-  DosWorld& files = drive.files();
-  EXPECT_TRUE(files.MakeFolder("Cfg").ok()) << "an existing folder is no failure";
-  EXPECT_THAT(HostNames(drive.root() / "Zarvo"), UnorderedElementsAre("Data", "cfg"));
-  EXPECT_TRUE(files.MakeFolder("CFG\\new").ok());
-  EXPECT_TRUE(fs::is_directory(drive.root() / "Zarvo/cfg/new"));
-  EXPECT_FALSE(files.MakeFolder("no\\parent").ok());
-  drive.Write("file", "");
-  EXPECT_EQ(files.MakeFolder("FILE").error().message, "File exists");
+TEST_F(DosWorldTest, ALeftoverTemporaryFileTakesThePlaceOfAMissingStore) {
+  const auto read = [this] { return ReadReplaceable(files_, "cfg\\Mame.set", "cfg\\Mameset.tmp"); };
+  EXPECT_FALSE(read().ok());
+  for (const char* text : {"left over", "torn"}) {
+    drive_.Write("cfg\\Mameset.tmp", text);
+    EXPECT_EQ(read().value(), "left over");
+    EXPECT_THAT(List("cfg"), ElementsAre("Mame.set"));
+  }
+}
 
-  EXPECT_TRUE(files.DeleteFile("FILE").ok());
-  EXPECT_FALSE(drive.Exists("file"));
-  EXPECT_EQ(files.DeleteFile("file").error().message, "No such file or directory");
-  EXPECT_FALSE(files.DeleteFile("Data").ok());
-  EXPECT_TRUE(drive.Exists("Data"));
+TEST_F(DosWorldTest, CopyFileNeverOverwritesAndLeavesNoPart) {
+  const std::string archive(700000, 'z');
+  drive_.Write("C:\\Emu\\game.zip", archive);
+  drive_.Write("OTHER.ZIP", "mine");
+  ASSERT_TRUE(files_.CopyFile("C:\\Emu\\GAME.zip", "game.zip").ok());
+  EXPECT_EQ(drive_.Read("game.zip"), archive);
+  EXPECT_EQ(files_.CopyFile("C:\\Emu\\game.zip", "other.zip").error().message, "File exists");
+  EXPECT_EQ(drive_.Read("other.zip"), "mine");
+  EXPECT_FALSE(files_.CopyFile("C:\\Emu\\none.zip", "none.zip").ok());
+  EXPECT_EQ(OnFullDisk(300000, [&] { return files_.CopyFile("game.zip", "third.zip"); }),
+            "File too large");
+  EXPECT_THAT(List(""), ElementsAre("Data\\", "OTHER.ZIP", "cfg\\", "game.zip"));
+}
+
+TEST_F(DosWorldTest, RenameFileRefusesATakenNameButNotOtherLetters) {
+  drive_.Write("a.txt", "a");
+  drive_.Write("B.TXT", "b");
+  EXPECT_EQ(files_.RenameFile("a.txt", "b.txt").error().message, "File exists");
+  EXPECT_TRUE(files_.RenameFile("A.TXT", "cfg\\C.txt").ok());
+  EXPECT_TRUE(files_.RenameFile("b.txt", "b.txt").ok());
+  EXPECT_THAT(HostNames("Zarvo"), ElementsAre("Data", "b.txt", "cfg"));
+  EXPECT_EQ(drive_.Read("cfg\\c.txt"), "a");
+}
+
+TEST_F(DosWorldTest, FilesAndFoldersAreMadeAndDeletedByAnyCase) {
+  EXPECT_TRUE(files_.MakeFolder("Cfg").ok()) << "an existing folder is no failure";
+  EXPECT_TRUE(files_.MakeFolder("CFG\\new").ok());
+  EXPECT_TRUE(fs::is_directory(cfg_ / "new"));
+  EXPECT_FALSE(files_.MakeFolder("no\\parent").ok());
+  drive_.Write("file", "");
+  EXPECT_EQ(files_.MakeFolder("FILE").error().message, "File exists");
+
+  EXPECT_TRUE(files_.DeleteFile("FILE").ok());
+  EXPECT_EQ(files_.DeleteFile("file").error().message, "No such file or directory");
+  EXPECT_FALSE(files_.DeleteFile("Data").ok());
+  EXPECT_THAT(HostNames("Zarvo"), ElementsAre("Data", "cfg"));
 }
 
 }  // namespace

@@ -1,25 +1,22 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "fakes/temp_drive.h"
 #include "platform/dos_world.h"
 
 namespace zarvo {
 namespace {
 
-using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Pair;
 
 TEST(DriveTable, ReadsLettersAndFolders) {
   const auto drives = DosWorld::ParseDrives(
-      "\xEF\xBB\xBF; my drives\r\n"
-      "C = ..\r\n"
-      "\r\n"
-      "  d=/mnt/cd rom/ ; the disc\n"
-      "\tE\t=\troms/./arcade//\n"
-      "Y = /",
+      "\xEF\xBB\xBF; my drives\r\nC = ..\r\n\r\n  d=/mnt/cd rom/ ; the disc\n"
+      "\tE\t=\troms/./arcade//\nY = /",
       "/home/me/dos/Zarvo");
   ASSERT_TRUE(drives.ok()) << drives.error().message;
   EXPECT_THAT(*drives, ElementsAre(Pair('C', "/home/me/dos"), Pair('D', "/mnt/cd rom"),
@@ -27,12 +24,7 @@ TEST(DriveTable, ReadsLettersAndFolders) {
 }
 
 TEST(DriveTable, AMessageNamesTheLineThatIsWrong) {
-  struct Case {
-    std::string text;
-    const char* line;
-    const char* word;
-  };
-  const Case cases[] = {
+  const std::array<std::string, 3> cases[] = {
       {"C = /a\n\n; x\nD /b\n", "Line 4", "D /b"},
       {"C: = /a", "Line 1", "C: = /a"},
       {"CD = /a", "Line 1", "CD = /a"},
@@ -42,44 +34,36 @@ TEST(DriveTable, AMessageNamesTheLineThatIsWrong) {
       {"C = ; nothing", "Line 1", "C ="},
       {"C = /a\nc = /b", "Line 2", "drive C"},
       {std::string("C = /a\0b", 8), "Line 1", "C = /a"},
+      {"; none\n", "", "no drive"},
   };
   for (const auto& [text, line, word] : cases) {
     const auto drives = DosWorld::ParseDrives(text, "/p");
     ASSERT_FALSE(drives.ok()) << text;
-    EXPECT_THAT(drives.error().message, AllOf(HasSubstr(line), HasSubstr(word)));
+    EXPECT_THAT(drives.error().message, testing::AllOf(HasSubstr(line), HasSubstr(word)));
   }
-  EXPECT_THAT(DosWorld::ParseDrives("; none\n", "/p").error().message, HasSubstr("no drive"));
 }
 
-TEST(ProgramFolder, WithoutATableCIsTheFolderAboveAndHTheHost) {
-  const TempDrive drive;
-  const auto world = DosWorld::ForProgramFolder((drive.root() / "Zarvo").string());
-  ASSERT_TRUE(world.ok()) << world.error().message;
-  EXPECT_EQ(world->CurrentFolder(), "C:\\Zarvo");
-  EXPECT_THAT(world->Drives(), ElementsAre('C', 'H'));
-  EXPECT_EQ(world->HostPath("\\emu").value(), drive.Host("C:\\Emu"));
-  EXPECT_EQ(world->DriveFolder('H').value(), "/");
-}
-
-TEST(ProgramFolder, TheTableInItSaysWhatTheDrivesAre) {
+TEST(ProgramFolder, ItsTableSaysWhatTheDrivesAre) {
   TempDrive drive;
+  const std::string folder = (drive.root() / "Zarvo/").string();
+  const auto bare = DosWorld::ForProgramFolder(folder);
+  ASSERT_TRUE(bare.ok()) << bare.error().message;
+  EXPECT_EQ(bare->CurrentFolder(), "C:\\Zarvo");
+  EXPECT_THAT(bare->Drives(), ElementsAre('C', 'H'));
+  EXPECT_EQ(bare->HostPath("\\emu").value(), drive.Host("C:\\Emu"));
+  EXPECT_EQ(bare->DriveFolder('H').value(), "/");
+
   drive.Write("C:\\Zarvo\\Drives.INI", "D = ..\nE = ../Emu\n");
-  const auto world = DosWorld::ForProgramFolder((drive.root() / "Zarvo/").string());
+  const auto world = DosWorld::ForProgramFolder(folder);
   ASSERT_TRUE(world.ok()) << world.error().message;
   EXPECT_EQ(world->CurrentFolder(), "D:\\Zarvo");
   EXPECT_EQ(world->HostPath("E:\\a").value(), drive.Host("C:\\Emu\\a"));
-}
 
-TEST(ProgramFolder, ATableThatIsWrongOrDoesNotReachItIsSaid) {
-  TempDrive drive;
-  const std::string folder = (drive.root() / "Zarvo").string();
-  const std::pair<const char*, const char*> cases[] = {
-      {"C = /\n?\n", "Line 2"}, {"C = ../Emu\n", "No drive reaches"}, {"", "no drive"}};
-  for (const auto& [table, message] : cases) {
+  for (const auto& [table, message] : {std::pair("C = /\n?\n", "Line 2"),
+                                       {"C = ../Emu\n", "No drive reaches"},
+                                       {"", "no drive"}}) {
     drive.Write("C:\\Zarvo\\drives.ini", table);
-    const auto world = DosWorld::ForProgramFolder(folder);
-    ASSERT_FALSE(world.ok()) << table;
-    EXPECT_THAT(world.error().message, HasSubstr(message));
+    EXPECT_THAT(DosWorld::ForProgramFolder(folder).error().message, HasSubstr(message)) << table;
   }
 }
 
@@ -97,20 +81,14 @@ TEST(DosPathOf, TheLongestMatchingFolderTellsTheDrive) {
       {"/", "H:\\"},
       {"/home/me/caf\xC3\xA9", "E:\\caf\xE9"},
   };
-  for (const auto& [host, dos] : cases) {
-    const auto path = world.DosPathOf(host);
-    ASSERT_TRUE(path.ok()) << host;
-    EXPECT_EQ(*path, dos);
-  }
-}
+  for (const auto& [host, dos] : cases) EXPECT_EQ(world.DosPathOf(host).value(), dos) << host;
 
-TEST(DosPathOf, WhatNoDriveCanSayFails) {
-  const DosWorld world({{'C', "/home/me"}});
+  const DosWorld one({{'C', "/home/me"}});
   for (const char* path :
        {"/home", "/home/men", "/home/me/ゲーム", "/home/me/a\\b", "home/me", ""}) {
-    EXPECT_FALSE(world.DosPathOf(path).ok()) << path;
+    EXPECT_FALSE(one.DosPathOf(path).ok()) << path;
   }
-  EXPECT_FALSE(DosWorld({{'H', "/"}}).DosPathOf("").ok()) << "no path at all isn't the root";
+  EXPECT_FALSE(world.DosPathOf("").ok()) << "no path at all isn't the root";
 }
 
 TEST(DosPathOf, ADriveBehindALinkIsRecognised) {

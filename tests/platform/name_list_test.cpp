@@ -1,17 +1,11 @@
 #include "platform/name_list.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "platform/in_brief.h"
 
 namespace zarvo {
 namespace {
-
-std::vector<std::string> Names(const NameList& list) {
-  std::vector<std::string> names;
-  names.reserve(static_cast<std::size_t>(list.Count()));
-  for (int index = 0; index < list.Count(); ++index) names.emplace_back(list.At(index));
-  return names;
-}
 
 TEST(NameList, SortedInsertionPutsEqualNamesBehindEachOther) {
   NameList list;
@@ -19,7 +13,7 @@ TEST(NameList, SortedInsertionPutsEqualNamesBehindEachOther) {
   EXPECT_EQ(list.InsertSorted("amidar"), 0);
   EXPECT_EQ(list.InsertSorted("PENGO"), 2);
   EXPECT_EQ(list.InsertSorted("Frogger"), 1);
-  EXPECT_THAT(Names(list), testing::ElementsAre("amidar", "Frogger", "Pengo", "PENGO"));
+  EXPECT_EQ(Names(list), "amidar,Frogger,Pengo,PENGO,");
   EXPECT_EQ(list.Find("PENGO"), 3);
   EXPECT_EQ(list.Find("pengo"), -1);
 }
@@ -28,14 +22,13 @@ TEST(NameList, SortKeepsTheOrderOfEqualNames) {
   NameList list;
   for (const char* name : {"b", "B", "a", "C", "A", ""}) list.Append(name);
   list.Sort();
-  EXPECT_THAT(Names(list), testing::ElementsAre("", "a", "A", "b", "B", "C"));
+  EXPECT_EQ(Names(list), ",a,A,b,B,C,");
   list.Remove(1);
   list.Remove(4);
-  EXPECT_THAT(Names(list), testing::ElementsAre("", "A", "b", "B"));
+  EXPECT_EQ(Names(list), ",A,b,B,");
   list.Clear();
-  EXPECT_EQ(list.Count(), 0);
   list.Append("new");
-  EXPECT_EQ(list.At(0), "new");
+  EXPECT_EQ(Names(list), "new,");
 }
 
 TEST(NameList, AFullListStaysAsItIs) {
@@ -44,8 +37,7 @@ TEST(NameList, AFullListStaysAsItIs) {
   list.Append("c");
   EXPECT_EQ(list.InsertSorted("a"), -1);
   EXPECT_EQ(list.Count(), 32767);
-  EXPECT_EQ(list.At(0), "b");
-  EXPECT_EQ(list.At(32766), "b");
+  EXPECT_EQ(Names(list).find_first_not_of("b,"), std::string::npos);
 }
 
 }  // namespace

@@ -38,11 +38,9 @@ class ZarvoHome(unittest.TestCase):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text)
 
-    def start(self, home=None, search_path=None):
-        environment = {"PATH": f"{search_path}:{os.environ['PATH']}" if search_path
-                       else os.environ["PATH"]}
-        if home is not False:
-            environment["HOME"] = str(home or self.home)
+    def start(self, **changes):
+        environment = {"PATH": os.environ["PATH"], "HOME": self.home, **changes}
+        environment = {name: str(value) for name, value in environment.items() if value}
         return subprocess.run([self.root / "usr/bin" / START_SCRIPT.name], env=environment,
                               capture_output=True, text=True, check=False)
 
@@ -50,7 +48,8 @@ class ZarvoHome(unittest.TestCase):
         return {str(file.relative_to(self.zarvo)): file.read_text()
                 for file in self.zarvo.rglob("*") if file.is_file()}
 
-    def assert_refused(self, result, words):
+    def assert_refused(self, words, **changes):
+        result = self.start(**changes)
         self.assertEqual(result.returncode, 1, result.stderr)
         self.assertIn(words, result.stderr)
         self.assertEqual(result.stdout, "", "the program was started all the same")
@@ -71,17 +70,17 @@ class ZarvoHome(unittest.TestCase):
                                         "cfg/Mame.cfg": "mine\n", "DATA/M72.dat": "m72\n"})
 
     def test_no_place_for_the_folder(self):
-        self.assert_refused(self.start(home=False), "HOME isn't set")
-        self.assert_refused(self.start(home=self.root / "gone"), "There is no folder")
+        self.assert_refused("HOME isn't set", HOME=None)
+        self.assert_refused("There is no folder", HOME=self.root / "gone")
         self.write(self.zarvo, "a file in the way\n")
-        self.assert_refused(self.start(), "can't be made")
+        self.assert_refused("can't be made")
         self.assertEqual(self.zarvo.read_text(), "a file in the way\n")
 
     def test_full_disk_leaves_no_half_file(self):
         full = self.root / "full/cp"
         self.write(full, '#!/bin/sh\nprintf half >"$2"\necho "No space left on device" >&2\nexit 1\n')
         full.chmod(0o755)
-        self.assert_refused(self.start(search_path=full.parent), "No space left on device")
+        self.assert_refused("No space left on device", PATH=f"{full.parent}:{os.environ['PATH']}")
         self.assertEqual(self.files(), {})
 
 
