@@ -53,6 +53,7 @@ bool SamePath(std::string_view left, std::string_view right) {
 // Also by another drive, or through a link of the host.
 bool SameFolder(const DosFiles& files, std::string_view left, std::string_view right) {
   if (SamePath(left, right)) return true;
+  if (left.empty()) return false;  // no folder at all, not the current one
   const auto left_host = files.HostPath(left);
   const auto right_host = files.HostPath(right);
   std::error_code no_such_folder;

@@ -103,6 +103,19 @@ TEST_F(GameList, FilteringKeepsTheGamesWithTheValue) {
   EXPECT_FALSE(files_.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
+TEST_F(GameList, HoldsAndFiltersAsManyGamesAsAListCan) {
+  std::string games;
+  for (int game = 10000; game < 50000; ++game) {
+    games += Record("Game " + std::to_string(game) + ";g;O;-;Action;;");
+  }
+  PutData(games);
+  Filled(GameState::kAllSupported);
+  EXPECT_EQ(list_.Count(), 32767);
+  Filtered(ValueFilter::kGenre, "Action");
+  ASSERT_EQ(list_.Count(), 32767);
+  EXPECT_EQ(list_.At(32766), "Game 42766");
+}
+
 TEST_F(GameList, TheNeutralItemReadsAndChangesNothing) {
   PutList("Not in the file,");
   Filtered(ValueFilter::kGenre, "- Genre");

@@ -157,6 +157,9 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
     panel_.options.rom_folder = "C:\\Mine";
     EXPECT_EQ(Start(), "ran with sf2.zip=mine");
     EXPECT_EQ(drive_.Read("C:\\Mine\\sf2.zip"), "mine");
+    panel_.options.rom_folder = "";
+    EXPECT_EQ(Start(), no_rom) << "no folder isn't the one of the last run";
+    panel_.options.rom_folder = "C:\\Mine";
     FailingFiles files(drive_.files());
     files.Fail(FileStep::kCopy, "sf2.zip");
     Use(profile, "SF2");
