@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QAbstractButton>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -47,24 +46,10 @@ TEST_F(WindowTest, WhatIsSetIsReadAlsoBetweenPixelsAndShown) {
       window.SetTop(twips + 1);
       window.SetWidth(twips + 2);
       window.SetHeight(twips + 3);
-      EXPECT_EQ(window.Left(), twips);
-      EXPECT_EQ(window.Top(), twips + 1);
-      EXPECT_EQ(window.Width(), twips + 2);
-      EXPECT_EQ(window.Height(), twips + 3);
+      EXPECT_THAT((std::vector{window.Left(), window.Top(), window.Width(), window.Height()}),
+                  ElementsAre(twips, twips + 1, twips + 2, twips + 3));
     }
   }
-}
-
-TEST_F(WindowTest, SavedAndLoadedAHundredTimesItStaysWhereItIs) {
-  Open();
-  window.SetLeft(1511);
-  window.SetTop(1519);
-  for (int i = 0; i < 100; ++i) {
-    window.SetLeft(window.Left());
-    window.SetTop(window.Top());
-  }
-  EXPECT_EQ(window.Left(), 1511);
-  EXPECT_EQ(window.Top(), 1519);
 }
 
 TEST_F(WindowTest, AMoveByThePlayerIsReadBack) {
@@ -97,61 +82,44 @@ TEST_F(WindowTest, UnloadHidesUnlessRefusedAndIsRaisedOnce) {
   });
   Open();
   window.close();
-  EXPECT_TRUE(window.isVisible());
-  EXPECT_FALSE(window.IsUnloaded());
+  EXPECT_TRUE(window.isVisible() && !window.IsUnloaded());
   refuse = false;
   window.close();
   window.UnloadWindow();
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_TRUE(window.IsUnloaded());
+  EXPECT_TRUE(!window.isVisible() && window.IsUnloaded());
   EXPECT_THAT(log, ElementsAre("unload", "unload"));
 }
 
-TEST_F(WindowTest, AModalWindowWaitsForItsUnloadAndKeepsTheOthersDeaf) {
+// The owner is 200 x 100 pixels, the dialog 100 x 50.
+TEST_F(WindowTest, AModalWindowStandsOverItsOwnerAndKeepsItDeafUntilItsUnload) {
   ImageBox image(&window);
   image.SetPlace({.left = 0, .top = 0, .width = 1500, .height = 1500});
   image.Click.Connect([this] { log.push_back("owner"); });
-  Open();
   Window dialog(WindowFrame::kDesktop, "frmDialog");
-  dialog.SetWidth(1500);
-  dialog.SetHeight(750);
-  const int modals = ModalCount();
-  Meanwhile([&] {
-    EXPECT_TRUE(dialog.isVisible());
-    ClickOn(&image);
-    log.push_back("unloading");
-    dialog.UnloadWindow();
-    log.push_back("unloaded");
-  });
-  dialog.ShowModal();
-  log.push_back("back");
-  EXPECT_THAT(log, ElementsAre("unloading", "unloaded", "back"));
-  EXPECT_NE(ModalCount(), modals);
-  ClickOn(&image);
-  EXPECT_EQ(log.back(), "owner");
-}
-
-TEST_F(WindowTest, AModalWindowStandsOverItsOwnerAndOnTheScreen) {
-  Window dialog(WindowFrame::kNone, "frmDialog");
   dialog.SetWidth(1500);
   dialog.SetHeight(750);
   const auto place_over = [&](int left, int top) {
     window.SetLeft(left);
     window.SetTop(top);
-    window.ShowModeless();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    Open();
+    const int modals = ModalCount();
     QPoint place;
     Meanwhile([&] {
+      EXPECT_TRUE(dialog.isVisible());
       place = dialog.pos();
+      ClickOn(&image);
       dialog.UnloadWindow();
+      log.push_back("unloaded");
     });
     dialog.ShowModal();
+    log.push_back("back");
+    EXPECT_NE(ModalCount(), modals);
     return place;
   };
-  // The owner is 200 x 100 pixels, the dialog 100 x 50.
-  const QPoint off_centre = place_over(3000, 3000) - QPoint(250, 225);
-  EXPECT_LE(off_centre.manhattanLength(), 2);
-  EXPECT_EQ(place_over(-1500, -750), QPoint(0, 0));
+  EXPECT_LE((place_over(3000, 3000) - QPoint(250, 225)).manhattanLength(), 2);
+  EXPECT_EQ(place_over(-1500, -750), QPoint(0, 0)) << "on the screen";
+  ClickOn(&image);
+  EXPECT_THAT(log, ElementsAre("unloaded", "back", "unloaded", "back", "owner"));
 }
 
 TEST_F(WindowTest, EnterAndEscapePressTheWindowsButtonsWhereNoControlTakesThem) {
@@ -224,9 +192,8 @@ TEST_F(WindowTest, IsPutOnTopWithoutAChangeOfPlaceOrFocus) {
 }
 
 TEST(PopupMenuTest, ShowsItsCaptionsLiterallyAndReturnsWhenClosed) {
-  PopupMenu menu("mnuTest", {"mnuMadeBy", "mnuYear", "", "mnuOC"});
+  PopupMenu menu("mnuTest", {"mnuMadeBy", "", "mnuOC"});
   menu.SetCaption(0, "R&D <Sega>");
-  menu.SetCaption(3, "Clone");
   EXPECT_EQ(menu.Caption(0), "R&D <Sega>");
   bool seen = false;
   Meanwhile([&] {
@@ -235,34 +202,31 @@ TEST(PopupMenuTest, ShowsItsCaptionsLiterallyAndReturnsWhenClosed) {
     seen = true;
     EXPECT_EQ(popup->objectName(), QStringLiteral("mnuTest"));
     EXPECT_EQ(popup->actions().at(0)->text(), QStringLiteral("R&&D <Sega>"));
-    EXPECT_TRUE(popup->actions().at(2)->isSeparator());
+    EXPECT_TRUE(popup->actions().at(1)->isSeparator());
     QTest::keyClick(popup, Qt::Key_Escape);
   });
   menu.ShowAt(QPoint(100, 100));
   EXPECT_TRUE(seen);
 }
 
-// Shows a box, presses a key on it and tells the answer.
-BoxAnswer AnswerOf(BoxButtons buttons, const std::vector<Qt::Key>& keys) {
-  DesktopBoxes boxes;
-  Meanwhile([&] {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(box->windowTitle(), QStringLiteral("Zarvo 0.1"));
-    EXPECT_EQ(box->text(), QStringLiteral("<b>Delete</b>\n& go?"));
-    EXPECT_EQ(box->textFormat(), Qt::PlainText);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(box));
-    for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
-  });
-  return boxes.Show(BoxIcon::kExclamation, buttons, "Zarvo 0.1", "<b>Delete</b>\r& go?");
-}
-
 TEST(DesktopBoxesTest, AreAnsweredByKeyboard) {
-  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Return}), BoxAnswer::kYes);
-  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Escape}), BoxAnswer::kNo);
-  EXPECT_EQ(AnswerOf(BoxButtons::kYesNo, {Qt::Key_Tab, Qt::Key_Return}), BoxAnswer::kNo);
-  EXPECT_EQ(AnswerOf(BoxButtons::kOk, {Qt::Key_Return}), BoxAnswer::kOk);
-  EXPECT_EQ(AnswerOf(BoxButtons::kOk, {Qt::Key_Escape}), BoxAnswer::kOk);
+  const auto answer = [](BoxButtons buttons, const std::vector<Qt::Key>& keys) {
+    Meanwhile([&] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      EXPECT_EQ(box->windowTitle(), QStringLiteral("Zarvo 0.1"));
+      EXPECT_EQ(box->text(), QStringLiteral("<b>Delete</b>\n& go?"));
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
+      ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+      for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+    });
+    return DesktopBoxes().Show(BoxIcon::kExclamation, buttons, "Zarvo 0.1", "<b>Delete</b>\r& go?");
+  };
+  EXPECT_EQ(answer(BoxButtons::kYesNo, {Qt::Key_Return}), BoxAnswer::kYes);
+  EXPECT_EQ(answer(BoxButtons::kYesNo, {Qt::Key_Escape}), BoxAnswer::kNo);
+  EXPECT_EQ(answer(BoxButtons::kYesNo, {Qt::Key_Tab, Qt::Key_Return}), BoxAnswer::kNo);
+  EXPECT_EQ(answer(BoxButtons::kOk, {Qt::Key_Return}), BoxAnswer::kOk);
+  EXPECT_EQ(answer(BoxButtons::kOk, {Qt::Key_Escape}), BoxAnswer::kOk);
 }
 
 }  // namespace
