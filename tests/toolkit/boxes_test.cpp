@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 
 #include <QWheelEvent>
-#include <utility>
 
 #include "fakes/stage.h"
 #include "toolkit/combo_box.h"
@@ -19,12 +18,10 @@ class ComboBoxTest : public testing::Test {
   ComboBoxTest() {
     combo.SetPlace({.left = 150, .top = 150, .width = 1500, .height = 285});
     for (const char* item : {"- Genre", "Action", "R&D"}) combo.AddItem(item);
-    combo.Click.Connect([this] { log += " click " + combo.Text(); });
+    combo.Click.Connect([this] { log.text += " click " + combo.Text(); });
   }
   // The selection, and what has happened since the last call.
-  std::string State() {
-    return std::to_string(combo.ListIndex()) + " " + combo.Text() + std::exchange(log, "");
-  }
+  std::string State() { return std::to_string(combo.ListIndex()) + " " + combo.Text() + log(); }
   // A turn of the wheel, as the desktop sends it.
   void Wheel() {
     const QPoint place(10, 10);
@@ -36,7 +33,7 @@ class ComboBoxTest : public testing::Test {
 
   Stage stage;
   ComboBox combo{&stage};
-  std::string log;
+  EventLog log;
 };
 
 TEST_F(ComboBoxTest, OnlyANewSelectionClicks) {
@@ -76,8 +73,9 @@ TEST_F(ComboBoxTest, TheWheelTurnsItOnlyWithTheFocus) {
 
 TEST_F(ComboBoxTest, KeysChooseAfterTheKeyDownHandler) {
   combo.SetListIndex(0);
-  log.clear();
-  combo.KeyDown.Connect([&](const KeyArgs& args) { log += " key" + std::to_string(args.shift); });
+  log();
+  combo.KeyDown.Connect(
+      [&](const KeyArgs& args) { log.text += " key" + std::to_string(args.shift); });
   stage.Open();
   QTest::keyClick(&combo, Qt::Key_Shift);
   QTest::keyClick(&combo, Qt::Key_Down);

@@ -1,7 +1,7 @@
 // Waiting for a child process: deaf, but alive.
 #include "toolkit/child_wait.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -14,9 +14,6 @@
 
 namespace zarvo {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ChildWaitTest : public testing::Test {
  protected:
@@ -50,11 +47,6 @@ class ChildWaitTest : public testing::Test {
     });
     RunShell("while [ ! -e gate ]; do sleep 0.01; done");
   }
-  // Notes in the log that an event came.
-  template <typename... Args>
-  void Note(Event<Args...>& event, const char* name) {
-    event.Connect([this, name](Args...) { log.emplace_back(name); });
-  }
 
   QTemporaryDir folder;
   Window window{WindowFrame::kNone, "frmTest"};
@@ -62,7 +54,7 @@ class ChildWaitTest : public testing::Test {
   Label other{&window};
   TextBox text{&window};
   WaitingRunner runner;
-  std::vector<std::string> log;
+  EventLog log;
 };
 
 TEST_F(ChildWaitTest, TellsHowTheChildEnded) {
@@ -82,11 +74,11 @@ TEST_F(ChildWaitTest, GivesTheChildItsArgumentsAndFolder) {
 }
 
 TEST_F(ChildWaitTest, WhatThePlayerDoesMeanwhileIsLost) {
-  Note(label.MouseDown, "down");
-  Note(label.MouseMove, "move");
-  Note(label.Click, "click");
-  Note(text.KeyDown, "key");
-  Note(window.MouseMove, "window");
+  log.Note(label.MouseDown, "down ");
+  log.Note(label.MouseMove, "move ");
+  log.Note(label.Click, "click ");
+  log.Note(text.KeyDown, "key ");
+  log.Note(window.MouseMove, "window ");
   RunUntilGate([this] {
     ClickOn(&label);
     MoveTo(&window, {110, 90});
@@ -96,35 +88,35 @@ TEST_F(ChildWaitTest, WhatThePlayerDoesMeanwhileIsLost) {
         &text, new QKeyEvent(QEvent::KeyPress, Qt::Key_B, Qt::NoModifier, QStringLiteral("b")));
   });
   QCoreApplication::processEvents();
-  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(log(), "");
   EXPECT_EQ(text.Text(), "");
   ClickOn(&label);
-  EXPECT_EQ(log.back(), "click") << "all is as before";
+  EXPECT_EQ(log(), "move down click ") << "all is as before";
 }
 
 // The child is started by a press whose release comes while it runs.
 TEST_F(ChildWaitTest, AButtonLetGoMeanwhileIsNotHeldAfterwards) {
   MoveTo(&label);
   label.MouseDown.Connect([this](const MouseArgs&) { RunUntilGate([this] { Release(&label); }); });
-  Note(other.MouseMove, "other");
-  Note(label.MouseMove, "label");
-  Note(label.Click, "click");
+  log.Note(other.MouseMove, "other ");
+  log.Note(label.MouseMove, "label ");
+  log.Note(label.Click, "click ");
   Press(&label);
   MoveTo(&other);
-  EXPECT_THAT(log, ElementsAre("other"));
+  EXPECT_EQ(log(), "other ");
 }
 
 TEST_F(ChildWaitTest, ARequestToCloseIsRefused) {
-  Note(window.Unload, "unload");
+  log.Note(window.Unload, "unload ");
   RunUntilGate([this] {
     window.close();
     QApplication::closeAllWindows();
     EXPECT_TRUE(window.isVisible());
   });
-  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(log(), "");
   EXPECT_FALSE(window.IsUnloaded());
   window.close();
-  EXPECT_THAT(log, ElementsAre("unload"));
+  EXPECT_EQ(log(), "unload ");
 }
 
 TEST_F(ChildWaitTest, TimersStandStill) {

@@ -3,7 +3,6 @@
 
 #include <QHelpEvent>
 #include <QToolTip>
-#include <utility>
 
 #include "fakes/key_press.h"
 #include "fakes/stage.h"
@@ -27,29 +26,27 @@ class ControlsTest : public testing::Test {
     control.MouseDown.Connect([this](const MouseArgs& mouse) { Add("down", mouse); });
     control.MouseUp.Connect([this](const MouseArgs& mouse) { Add("up", mouse); });
     control.MouseMove.Connect([this](const MouseArgs& mouse) { Add("move", mouse); });
-    control.Click.Connect([this] { log += "click "; });
+    log.Note(control.Click, "click ");
   }
   void Add(const char* what, const MouseArgs& mouse) {
-    log += what + std::to_string(static_cast<int>(mouse.button)) + " ";
+    log.text += what + std::to_string(static_cast<int>(mouse.button)) + " ";
   }
-  // What has happened since the last call.
-  std::string Log() { return std::exchange(log, ""); }
 
   static constexpr TwipRect kPlace{.left = 150, .top = 150, .width = 1500, .height = 300};
   Stage stage;
-  std::string log;
+  EventLog log;
 };
 
 TEST_F(ControlsTest, ACheckBoxClicksForANewValueOnly) {
   CheckBox box(&stage);
   box.SetPlace(kPlace);
-  box.Click.Connect([&] { log += std::to_string(box.Value()); });
+  box.Click.Connect([&] { log.text += std::to_string(box.Value()); });
   for (const int value : {0, 1, 2}) box.SetValue(value);
-  EXPECT_EQ(Log(), "1");
+  EXPECT_EQ(log(), "1");
   stage.Open();
   QTest::keyClick(&box, Qt::Key_Space);
   ClickOn(&box, {95, 10});  // at the end of the caption's room
-  EXPECT_EQ(Log(), "01");
+  EXPECT_EQ(log(), "01");
 }
 
 TEST_F(ControlsTest, OptionsOfOneFrameExcludeEachOther) {
@@ -63,14 +60,14 @@ TEST_F(ControlsTest, OptionsOfOneFrameExcludeEachOther) {
   const auto on = [&] {
     return std::string(gif.Value() ? "gif " : "") + (jpg.Value() ? "jpg " : "");
   };
-  for (OptionButton* button : {&gif, &jpg}) button->Click.Connect([&] { log += on(); });
+  for (OptionButton* button : {&gif, &jpg}) button->Click.Connect([&] { log.text += on(); });
   jpg.SetValue(true);
-  EXPECT_EQ(Log(), "jpg ") << "the one switched off doesn't click, and is off before";
+  EXPECT_EQ(log(), "jpg ") << "the one switched off doesn't click, and is off before";
   jpg.SetValue(false);
   EXPECT_EQ(on(), "") << "all can be off";
   jpg.SetValue(true);
   gif.SetValue(true);
-  EXPECT_EQ(Log(), "jpg gif ") << "and they exclude each other afterwards";
+  EXPECT_EQ(log(), "jpg gif ") << "and they exclude each other afterwards";
   EXPECT_TRUE(merged.Value());
 }
 
@@ -80,31 +77,31 @@ TEST_F(ControlsTest, AClickIsTheLeftButtonPressedAndReleasedOverTheSameControl) 
   stage.Open();
   MoveTo(&image);
   Note(image);
-  image.DblClick.Connect([this] { log += "double "; });
-  Log();
+  log.Note(image.DblClick, "double ");
+  log();
   ClickOn(&image);
-  EXPECT_EQ(Log(), "down1 up1 click ");
+  EXPECT_EQ(log(), "down1 up1 click ");
   MouseArgs last;
   image.MouseDown.Connect([&](const MouseArgs& mouse) { last = mouse; });
   QTest::mouseClick(stage.windowHandle(), Qt::RightButton, Qt::ShiftModifier | Qt::AltModifier,
                     QPoint(20, 20));
-  EXPECT_EQ(Log(), "move0 down2 up2 ");
+  EXPECT_EQ(log(), "move0 down2 up2 ");
   EXPECT_EQ(last.shift, kShiftDown | kAltDown);
   EXPECT_EQ(last.global, stage.mapToGlobal(QPoint(20, 20)));
   MoveTo(&image);
-  Log();
+  log();
   Press(&image);
   MoveTo(&stage, {300, 200});
   Release(&stage, {300, 200});
-  EXPECT_EQ(Log(), "down1 move1 up1 ") << "let go beside it";
+  EXPECT_EQ(log(), "down1 move1 up1 ") << "let go beside it";
   MoveTo(&image);
-  Log();
+  log();
   DoubleClickOn(&image);
-  EXPECT_EQ(Log(), "down1 up1 click double up1 ") << "a double click is no second click";
+  EXPECT_EQ(log(), "down1 up1 click double up1 ") << "a double click is no second click";
   Press(&image);
   CountModal();
   Release(&image);
-  EXPECT_EQ(Log(), "down1 up1 ") << "a box took the press over";
+  EXPECT_EQ(log(), "down1 up1 ") << "a box took the press over";
 }
 
 TEST_F(ControlsTest, SpaceAndEnterPressWhatIsPressable) {
@@ -114,18 +111,18 @@ TEST_F(ControlsTest, SpaceAndEnterPressWhatIsPressable) {
   Note(button);
   stage.Open();
   QTest::keyClick(&label, Qt::Key_Space);
-  EXPECT_EQ(Log(), "");
+  EXPECT_EQ(log(), "");
   label.SetPressable(true);
   for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button}) {
     for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A}) {
       QTest::keyClick(widget, key);
     }
-    EXPECT_EQ(Log(), "click click click ");
+    EXPECT_EQ(log(), "click click click ");
     for (const auto key : {Qt::Key_Space, Qt::Key_Return}) {
       QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
       QApplication::sendEvent(widget, &held);
     }
-    EXPECT_EQ(Log(), "") << "a key held down is one click";
+    EXPECT_EQ(log(), "") << "a key held down is one click";
   }
 }
 
@@ -147,26 +144,23 @@ TEST_F(ControlsTest, MouseMovesOverAControlDontReachTheWindow) {
   Window window(WindowFrame::kNone, "frmTest");
   window.SetWidth(6000);
   window.SetHeight(4500);
-  window.MouseMove.Connect([&](const MouseArgs&) { log += "window "; });
+  log.Note(window.MouseMove, "window ");
   PictureBox page(&window);
   page.SetPlace({.left = 1500, .top = 0, .width = 3000, .height = 3000});
   Label label(&page);
   label.SetPlace({.left = 750, .top = 750, .width = 750, .height = 750});
   ListBox list(&page);
   list.SetPlace({.left = 0, .top = 2250, .width = 1500, .height = 750});
-  const auto note = [&](Control& control, const char* name) {
-    control.MouseMove.Connect([this, name](const MouseArgs&) { log += name; });
-  };
-  note(page, "page ");
-  note(label, "label ");
-  note(list, "list ");
+  log.Note(page.MouseMove, "page ");
+  log.Note(label.MouseMove, "label ");
+  log.Note(list.MouseMove, "list ");
   window.ShowModeless();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   MoveTo(&label);
   MoveTo(list.viewport());
   MoveTo(&page, {10, 10});
   MoveTo(&window, {10, 10});
-  EXPECT_EQ(Log(), "label list page window ");
+  EXPECT_EQ(log(), "label list page window ");
 }
 
 TEST_F(ControlsTest, ADisabledControlRaisesNothingAndLetsNothingThrough) {
@@ -186,7 +180,7 @@ TEST_F(ControlsTest, ADisabledControlRaisesNothingAndLetsNothingThrough) {
   stage.Open();
   ClickOn(&label);
   ClickOn(&box);
-  EXPECT_EQ(Log(), "");
+  EXPECT_EQ(log(), "");
 }
 
 TEST_F(ControlsTest, AFreshControlIsVisibleAlsoOnAPageThatIsNot) {

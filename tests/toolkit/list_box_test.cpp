@@ -10,7 +10,7 @@ namespace {
 
 class ListBoxTest : public ListTest {
  protected:
-  std::string State() { return EntriesOf(list) + Log(); }
+  std::string State() { return EntriesOf(list) + log(); }
   [[nodiscard]] bool InSight(int index) const {
     return list.viewport()->rect().contains(list.EntryRect(index));
   }
@@ -45,7 +45,7 @@ TEST_F(ListBoxTest, RemovalMovesOrDropsTheSelectionWithoutAClick) {
     list.Clear();
     Fill({"a", "b", "c"});
     list.SetListIndex(selected);
-    Log();
+    log();
     EXPECT_TRUE(list.RemoveItem(removed));
     return State();
   };
@@ -123,7 +123,7 @@ TEST_F(ListBoxTest, AChangeOfColumnsOrSizeKeepsTheSelectionInSight) {
   }
   list.SetHeight(600);
   EXPECT_TRUE(InSight(120));
-  EXPECT_EQ(Log(), " click 120");
+  EXPECT_EQ(log(), " click 120");
 }
 
 // A click handler that fills the list anew, as a filter does from inside a click.

@@ -5,7 +5,6 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "fakes/stage.h"
@@ -27,10 +26,10 @@ class ListTest : public testing::Test {
  protected:
   ListTest() {
     list.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 1500});
-    list.Click.Connect([this] { log += " click " + list.Text(); });
-    list.DblClick.Connect([this] { log += " double " + list.Text(); });
+    list.Click.Connect([this] { log.text += " click " + list.Text(); });
+    list.DblClick.Connect([this] { log.text += " double " + list.Text(); });
     list.MouseDown.Connect([this](const MouseArgs& mouse) {
-      log += " down " + std::to_string(static_cast<int>(mouse.button));
+      log.text += " down " + std::to_string(static_cast<int>(mouse.button));
     });
   }
 
@@ -41,13 +40,11 @@ class ListTest : public testing::Test {
     for (int i = 0; i < count; ++i) list.AddItem(std::to_string(i));
     stage.Open();
   }
-  // What has happened since the last call.
-  std::string Log() { return std::exchange(log, ""); }
 
   Stage stage;
   std::unique_ptr<ListBox> owned = std::make_unique<ListBox>(&stage);
   ListBox& list = *owned;
-  std::string log;
+  EventLog log;
 };
 
 }  // namespace zarvo

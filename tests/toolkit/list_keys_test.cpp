@@ -58,21 +58,21 @@ TEST_F(ListKeysTest, AKeyThatMovesNothingIsNoClick) {
   OpenWith(3);
   list.SetListIndex(2);
   for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Up}) QTest::keyClick(&list, key);
-  EXPECT_EQ(Log(), " click 2 click 1");
+  EXPECT_EQ(log(), " click 2 click 1");
 }
 
 TEST_F(ListKeysTest, KeyDownComesFirstAndCanSwallowTheKey) {
   OpenWith(5);
   list.SetListIndex(0);
   list.KeyDown.Connect([&](const KeyArgs& args) {
-    log += " key " + std::to_string(args.code);
+    log.text += " key " + std::to_string(args.code);
     if (args.code != key::kDown) list.SwallowKey();
   });
   for (const auto key : {Qt::Key_End, Qt::Key_Return}) QTest::keyClick(&list, key);
   QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
   QApplication::sendEvent(&list, &held);
   QTest::keyClick(&list, Qt::Key_Down);
-  EXPECT_EQ(Log(), " click 0 key 35 key 13 key 40 click 1") << "Enter held starts once";
+  EXPECT_EQ(log(), " click 0 key 35 key 13 key 40 click 1") << "Enter held starts once";
 }
 
 TEST_F(ListKeysTest, TypingFindsTheEntryThatBeginsSo) {
@@ -94,9 +94,9 @@ TEST_F(ListKeysTest, TypingFindsTheEntryThatBeginsSo) {
   EXPECT_EQ(typed("p", 50'200), "Paperboy") << "the same letter steps on";
   EXPECT_EQ(typed("P", 50'400), "Pong");
   EXPECT_EQ(typed("p", 50'600), "pac-man") << "round again";
-  Log();
+  log();
   EXPECT_EQ(typed("a", 50'800), "pac-man");
-  EXPECT_EQ(Log(), "") << "it still fits";
+  EXPECT_EQ(log(), "") << "it still fits";
   EXPECT_EQ(typed("p", 51'700), "Paperboy") << "still the same word";
   EXPECT_EQ(typed("x", 53'300), "Xevious") << "a pause starts a new word";
 }

@@ -15,11 +15,11 @@ class ListMouseTest : public ListTest {
   static QPoint Row(int row) { return {20, row * 15 + 7}; }
   std::string ClickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
     ClickOn(list.viewport(), Row(row), button);
-    return Log();
+    return log();
   }
   std::string DoubleClickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseDClick(stage.windowHandle(), button, {}, OnWindow(list.viewport(), Row(row)));
-    return Log();
+    return log();
   }
 };
 
@@ -48,25 +48,25 @@ class DragTest : public ListMouseTest {
     target->setGeometry(220, 0, 150, 100);
     AcceptDrops(target.get(), &drop);
     drop.DragOver.Connect([this](DragState state) {
-      log += " state " + std::to_string(static_cast<int>(state));
+      log.text += " state " + std::to_string(static_cast<int>(state));
       if (state != DragState::kOver) list.SetDragIcon(state == DragState::kEnter ? over : begin);
     });
-    drop.DragDrop.Connect([this] { log += " drop " + list.Text(); });
+    drop.DragDrop.Connect([this] { log.text += " drop " + list.Text(); });
     target->show();
   }
 
   void StartOn(int row) {
     Press(list.viewport(), Row(row));
-    log.clear();
+    log();
   }
   // Also tells the icon of a drag that runs.
   std::string LogAndIcon() {
-    if (QApplication::overrideCursor() == nullptr) return Log() + " no drag";
+    if (QApplication::overrideCursor() == nullptr) return log() + " no drag";
     const QImage shown = QApplication::overrideCursor()->pixmap().toImage();
     const auto is = [&](const Picture& picture) {
       return shown == picture.ToPixmap(QSize(32, 32), qApp->devicePixelRatio()).toImage();
     };
-    return Log() + (is(begin) ? " begin" : is(over) ? " over" : " another icon");
+    return log() + (is(begin) ? " begin" : is(over) ? " over" : " another icon");
   }
 
   const Picture begin = Picture::FromResource("drag_begin");
@@ -95,7 +95,7 @@ TEST_F(DragTest, ADropElsewhereIsNothing) {
   Release(&stage, {210, 150});
   EXPECT_EQ(LogAndIcon(), " no drag");
   MoveTo(target.get(), {50, 50});
-  EXPECT_EQ(Log(), "") << "the drag is over";
+  EXPECT_EQ(log(), "") << "the drag is over";
 }
 
 TEST_F(DragTest, EscapeAndASecondButtonBreakItOff) {
@@ -110,7 +110,7 @@ TEST_F(DragTest, EscapeAndASecondButtonBreakItOff) {
     EXPECT_EQ(LogAndIcon(), " state 0 state 1 no drag");
     if (!by_key) Release(target.get(), {50, 50}, Qt::RightButton);
     Release(target.get(), {50, 50});
-    EXPECT_EQ(Log(), "");
+    EXPECT_EQ(log(), "");
   }
 }
 
@@ -121,7 +121,7 @@ TEST_F(DragTest, AListThatDiesTakesItsDragWithIt) {
   owned.reset();
   EXPECT_EQ(LogAndIcon(), " state 0 no drag");
   Release(target.get(), {50, 50});
-  EXPECT_EQ(Log(), "");
+  EXPECT_EQ(log(), "");
 }
 
 TEST_F(DragTest, ATargetThatDiesIsToldNothing) {
