@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "fakes/memory_source.h"
 #include "platform/dos_path.h"
 #include "platform/dos_world.h"
 #include "platform/text.h"
@@ -58,8 +59,7 @@ class FailingFiles : public DosWorld {
       if (Hit(FileStep::kRead, path) == nullptr) return DosWorld::Open(path);
       const auto whole = ReadAll(static_cast<const DosWorld&>(DosWorld(*this)), path);
       if (!whole) return whole.error();
-      return std::unique_ptr<ByteSource>(
-          std::make_unique<BrokenSource>(whole->substr(0, whole->size() / 2)));
+      return std::unique_ptr<ByteSource>(std::make_unique<MemorySource>(*whole, true));
     });
   }
   Status WriteFile(std::string_view path, std::string_view bytes) override {
@@ -93,20 +93,6 @@ class FailingFiles : public DosWorld {
     std::string name;
     std::string reason;
     int succeed_first;
-  };
-
-  class BrokenSource : public ByteSource {
-   public:
-    explicit BrokenSource(std::string bytes) : bytes_(std::move(bytes)) {}
-    std::size_t Read(char* buffer, std::size_t size) override {
-      const std::size_t count = bytes_.copy(buffer, size);
-      bytes_.erase(0, count);
-      return count;
-    }
-    [[nodiscard]] bool Failed() const override { return bytes_.empty(); }
-
-   private:
-    std::string bytes_;
   };
 
   const Failure* Hit(FileStep step, std::string_view path) const {

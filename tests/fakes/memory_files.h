@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "fakes/memory_source.h"
 #include "platform/dos_files.h"
 #include "platform/text.h"
 
@@ -102,22 +103,6 @@ class MemoryFiles : public DosFiles {
   }
 
  private:
-  class MemorySource : public ByteSource {
-   public:
-    MemorySource(std::string_view bytes, bool fails)
-        : rest_(bytes.substr(0, fails ? bytes.size() / 2 : bytes.size())), fails_(fails) {}
-    [[nodiscard]] bool Failed() const override { return fails_; }
-    std::size_t Read(char* buffer, std::size_t size) override {
-      const std::size_t count = rest_.copy(buffer, size);
-      rest_.erase(0, count);
-      return count;
-    }
-
-   private:
-    std::string rest_;
-    bool fails_;
-  };
-
   // The full path in lower case, without a backslash at its end.
   [[nodiscard]] std::string Key(std::string_view path) const {
     const bool full = path.size() > 1 && path[1] == ':';
