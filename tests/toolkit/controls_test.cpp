@@ -135,9 +135,9 @@ TEST_F(ControlsTest, WhatIsSetInTwipsIsReadInTwips) {
   label.SetHeight(6415);
   EXPECT_EQ(label.Place(), (TwipRect{.left = 2400, .top = -37, .width = 3855, .height = 6415}));
   EXPECT_EQ(label.geometry(), QRect(160, -2, 257, 427));
-  label.SetPlace({.left = 7, .top = 0, .width = 98, .height = 15});
-  EXPECT_EQ(label.Place(), (TwipRect{.left = 7, .top = 0, .width = 98, .height = 15}));
-  EXPECT_EQ(label.geometry(), QRect(0, 0, 7, 1));
+  label.SetPlace({.left = 8, .top = 8, .width = 98, .height = 97});
+  EXPECT_EQ(label.Place(), (TwipRect{.left = 8, .top = 8, .width = 98, .height = 97}));
+  EXPECT_EQ(label.geometry(), QRect(1, 1, 6, 6));
 }
 
 TEST_F(ControlsTest, MouseMovesOverAControlDontReachTheWindow) {
