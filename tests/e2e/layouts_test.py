@@ -71,14 +71,9 @@ class Layouts(Scenario):
         self.assertEqual(places, [self.place(window) for window in again])
         self.assert_quits(main)
 
-    def test_at_scale_1(self):
-        self.come_back(1)
 
-    def test_at_scale_1_5(self):
-        self.come_back(1.5)
-
-    def test_at_scale_2(self):
-        self.come_back(2)
+for number, size in enumerate(SIZES):
+    setattr(Layouts, f"test_scale_{number}", lambda self, scale=size: self.come_back(scale))
 
 
 if __name__ == "__main__":

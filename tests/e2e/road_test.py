@@ -7,8 +7,8 @@ from e2e import Scenario, wait_until
 from driven_zarvo import (CONFIGURATION, FAVOURITES, GAMES, MAIN, MAME_OPTIONS, PANEL, SELECTOR,
                           SETTINGS, TITLE, entry)
 
-PICKER = {"Select": (1920, 3990)}
-FIRST_FOLDER = (900, 640)  # the topmost entry of the picker's folders
+USUAL = r'"%s","C:\Emu\Mame\Roms",0,0,0,0,1,1,0,0,0,0,"0","0",14' + ",0" * 21  # settings of a game
+SELECT, FIRST_FOLDER = (1920, 3990), (900, 640)  # the picker's button, its topmost folder
 
 
 class Road(Scenario):
@@ -47,20 +47,20 @@ class Road(Scenario):
                          self.state("Cfg/Mame.cfg"))
         self.assert_quits(main)
 
-    def test_double_click_plays(self):
+    def test_double_click_plays_and_the_end_saves(self):
         panel = self.open_mame()
-        self.zarvo.click(panel, entry(GAMES["Mame"], 4), times=2)
-        self.assert_started("Mame", " dune -ignorecfg -soundcard 1")
-        # The same game again shows that the panel goes on as it stood.
-        self.zarvo.click(panel, entry(GAMES["Mame"], 4), times=2)
-        self.assert_started("Mame", " dune -ignorecfg -soundcard 1")
-        self.assertIsNone(self.state("Cfg/Mame.set"), "a start doesn't save the settings")
+        for _ in range(2):  # the second time shows that the panel goes on as it stood
+            self.zarvo.click(panel, entry(GAMES["Mame"], 4), times=2)
+            self.assert_started("Mame", " dune -ignorecfg -soundcard 1")
+        self.zarvo.click(self.main, MAIN["Exit"])
+        self.zarvo.answer("Escape")
+        self.assertIsNotNone(self.desktop.screen.place(panel.id), "No leaves all as it is")
+        self.assertIsNone(self.state("Cfg/Mame.set"), "neither a start nor No saves the settings")
         self.assert_quits(self.main)
-        self.assertEqual(
-            [r'"Dune Patrol","C:\Emu\Mame\Roms",0,0,0,0,1,1,0,0,0,0,"0","0",14' + ",0" * 21],
-            self.state("Cfg/Mame.set"))
+        self.assertEqual([USUAL % "Dune Patrol"], self.state("Cfg/Mame.set"))
 
     def test_changed_options_are_started_and_kept(self):
+        line = " brassj -ignorecfg -resolution 640x480 -soundcard 4 -sr 44100 -trpilebuffer -flipy"
         panel = self.open_mame()
         self.zarvo.click(panel, entry(FAVOURITES, 2))  # Brass Ring (Japan)
         self.zarvo.click(panel, PANEL["settings"])
@@ -73,26 +73,22 @@ class Road(Scenario):
         self.zarvo.click(panel, entry(FAVOURITES, 1))
         self.zarvo.click(panel, entry(FAVOURITES, 2))
         self.desktop.keys("Return")
-        self.assert_started("Mame", " brassj -ignorecfg -resolution 640x480 -soundcard 4 -sr 44100"
-                            " -trpilebuffer -flipy")
+        self.assert_started("Mame", line)
         saved = (r'"Brass Ring (Japan)","C:\Emu\Mame\Roms",4,0,0,0,3,2,0,0,0,0,"0","0",14,'
                  "0,0,0,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,0,0,0")
-        usual = r'"Brass Ring","C:\Emu\Mame\Roms",0,0,0,0,1,1,0,0,0,0,"0","0",14' + ",0" * 21
-        self.assertEqual([saved, usual], self.state("Cfg/Mame.set"))
+        self.assertEqual([saved, USUAL % "Brass Ring"], self.state("Cfg/Mame.set"))
 
         self.zarvo.click(panel, PANEL["X"])
         self.desktop.wait_for_end(panel)
         panel = self.zarvo.open_panel(self.main, "Mame")
         self.zarvo.click(panel, entry(FAVOURITES, 2), times=2)
-        self.assert_started("Mame", " brassj -ignorecfg -resolution 640x480 -soundcard 4 -sr 44100"
-                            " -trpilebuffer -flipy")
+        self.assert_started("Mame", line)
         self.assert_quits(self.main)
 
     def test_archive_of_another_folder(self):
         """It's brought in for the run, and what was in the emulator's folder stays."""
-        roms, other = self.emulator("Mame") / "Roms", self.drive / "Roms"
-        other.mkdir()
-        archive = other / "comet.zip"
+        roms, archive = self.emulator("Mame") / "Roms", self.drive / "Roms/comet.zip"
+        archive.parent.mkdir()
         shutil.move(roms / "comet.zip", archive)
         content = archive.read_bytes()
         there = sorted(roms.iterdir())
@@ -105,7 +101,7 @@ class Road(Scenario):
         self.desktop.wait_for_focus(picker)
         self.zarvo.click(picker, FIRST_FOLDER, times=2)  # to C:\, which holds Emu, Roms and Zarvo
         self.zarvo.click(picker, entry(FIRST_FOLDER, 2), times=2)
-        self.zarvo.click(picker, PICKER["Select"])
+        self.zarvo.click(picker, SELECT)
         self.desktop.wait_for_end(picker)
         self.zarvo.click(panel, PANEL["snapshot"])  # saves
         wait_until(lambda: self.state("Cfg/Mame.set"), "the settings")
@@ -117,15 +113,6 @@ class Road(Scenario):
         self.assertEqual(there, sorted(roms.iterdir()))
         self.assertEqual(content, archive.read_bytes())
         self.assert_quits(self.main)
-
-    def test_question_before_the_end(self):
-        panel = self.open_mame()
-        self.zarvo.click(self.main, MAIN["Exit"])
-        self.zarvo.answer("Escape")
-        self.assertIsNotNone(self.desktop.screen.place(panel.id), "No leaves all as it is")
-        self.assertIsNone(self.state("Cfg/Mame.set"))
-        self.assert_quits(self.main)
-        self.assertIsNotNone(self.state("Cfg/Mame.set"))
 
 
 if __name__ == "__main__":

@@ -3,9 +3,11 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "fakes/memory_source.h"
 #include "platform/dos_path.h"
 #include "platform/dos_world.h"
 #include "platform/text.h"
@@ -43,53 +45,46 @@ class FailingFiles : public DosWorld {
   void Heal() { failures_.clear(); }
 
   Status ChangeDrive(char letter) override {
-    if (const auto* hit = Hit(FileStep::kChangeDrive, std::string(1, letter))) return Why(*hit);
-    return DosWorld::ChangeDrive(letter);
+    return Try(FileStep::kChangeDrive, std::string(1, letter),
+               [&] { return DosWorld::ChangeDrive(letter); });
   }
   Status ChangeFolder(std::string_view path) override {
-    if (const auto* hit = Hit(FileStep::kChangeFolder, path)) return Why(*hit);
-    return DosWorld::ChangeFolder(path);
+    return Try(FileStep::kChangeFolder, path, [&] { return DosWorld::ChangeFolder(path); });
   }
   [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(std::string_view path) const override {
-    if (const auto* hit = Hit(FileStep::kListFolder, path)) return Why(*hit);
-    return DosWorld::ListFolder(path);
+    return Try(FileStep::kListFolder, path, [&] { return DosWorld::ListFolder(path); });
   }
   [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const override {
-    if (const auto* hit = Hit(FileStep::kOpen, path)) return Why(*hit);
-    if (Hit(FileStep::kRead, path) == nullptr) return DosWorld::Open(path);
-    const auto whole = ReadAll(static_cast<const DosWorld&>(DosWorld(*this)), path);
-    if (!whole) return whole.error();
-    return std::unique_ptr<ByteSource>(
-        std::make_unique<BrokenSource>(whole->substr(0, whole->size() / 2)));
+    return Try(FileStep::kOpen, path, [&]() -> Result<std::unique_ptr<ByteSource>> {
+      if (Hit(FileStep::kRead, path) == nullptr) return DosWorld::Open(path);
+      const auto whole = ReadAll(static_cast<const DosWorld&>(DosWorld(*this)), path);
+      if (!whole) return whole.error();
+      return std::unique_ptr<ByteSource>(std::make_unique<MemorySource>(*whole, true));
+    });
   }
   Status WriteFile(std::string_view path, std::string_view bytes) override {
-    if (const auto* hit = Hit(FileStep::kWrite, path)) return Why(*hit);
-    return DosWorld::WriteFile(path, bytes);
+    return Try(FileStep::kWrite, path, [&] { return DosWorld::WriteFile(path, bytes); });
   }
   Status ReplaceFile(std::string_view path, std::string_view temporary,
                      std::string_view bytes) override {
-    if (const auto* hit = Hit(FileStep::kReplace, path)) return Why(*hit);
-    if (const auto* hit = Hit(FileStep::kBreakOffReplace, path)) {
+    return Try(FileStep::kReplace, path, [&]() -> Status {
+      const Failure* const hit = Hit(FileStep::kBreakOffReplace, path);
+      if (hit == nullptr) return DosWorld::ReplaceFile(path, temporary, bytes);
       Ignore(DosWorld::WriteFile(temporary, bytes.substr(0, bytes.size() / 2)));
-      return Why(*hit);
-    }
-    return DosWorld::ReplaceFile(path, temporary, bytes);
+      return Error{hit->reason};
+    });
   }
   Status CopyFile(std::string_view from, std::string_view to) override {
-    if (const auto* hit = Hit(FileStep::kCopy, to)) return Why(*hit);
-    return DosWorld::CopyFile(from, to);
+    return Try(FileStep::kCopy, to, [&] { return DosWorld::CopyFile(from, to); });
   }
   Status RenameFile(std::string_view from, std::string_view to) override {
-    if (const auto* hit = Hit(FileStep::kRename, to)) return Why(*hit);
-    return DosWorld::RenameFile(from, to);
+    return Try(FileStep::kRename, to, [&] { return DosWorld::RenameFile(from, to); });
   }
   Status DeleteFile(std::string_view path) override {
-    if (const auto* hit = Hit(FileStep::kDelete, path)) return Why(*hit);
-    return DosWorld::DeleteFile(path);
+    return Try(FileStep::kDelete, path, [&] { return DosWorld::DeleteFile(path); });
   }
   Status MakeFolder(std::string_view path) override {
-    if (const auto* hit = Hit(FileStep::kMakeFolder, path)) return Why(*hit);
-    return DosWorld::MakeFolder(path);
+    return Try(FileStep::kMakeFolder, path, [&] { return DosWorld::MakeFolder(path); });
   }
 
  private:
@@ -100,33 +95,17 @@ class FailingFiles : public DosWorld {
     int succeed_first;
   };
 
-  class BrokenSource : public ByteSource {
-   public:
-    explicit BrokenSource(std::string bytes) : bytes_(std::move(bytes)) {}
-    std::size_t Read(char* buffer, std::size_t size) override {
-      const std::size_t count = bytes_.copy(buffer, size);
-      bytes_.erase(0, count);
-      return count;
-    }
-    [[nodiscard]] bool Failed() const override { return bytes_.empty(); }
-
-   private:
-    std::string bytes_;
-  };
-
-  static Error Why(const Failure& failure) { return Error{failure.reason}; }
-
   const Failure* Hit(FileStep step, std::string_view path) const {
     for (Failure& failure : failures_) {
       const bool meant = failure.name.empty() || EqualNoCase(failure.name, FileName(path));
-      if (failure.step != step || !meant) continue;
-      if (failure.succeed_first > 0) {
-        --failure.succeed_first;
-        continue;
-      }
-      return &failure;
+      if (failure.step == step && meant && --failure.succeed_first < 0) return &failure;
     }
     return nullptr;
+  }
+  template <typename Action>
+  std::invoke_result_t<Action> Try(FileStep step, std::string_view path, Action action) const {
+    if (const Failure* const hit = Hit(step, path)) return Error{hit->reason};
+    return action();
   }
 
   mutable std::vector<Failure> failures_;

@@ -1,8 +1,6 @@
 // DOS files in memory: for tests that make single steps fail, and for fuzzing.
 #pragma once
 
-#include <algorithm>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <set>
@@ -11,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "fakes/memory_source.h"
 #include "platform/dos_files.h"
 #include "platform/text.h"
 
@@ -36,7 +35,7 @@ class MemoryFiles : public DosFiles {
   mutable int folders_listed = 0;
 
   Status ChangeDrive(char letter) override {
-    const std::string drive{static_cast<char>(FoldCase(static_cast<unsigned char>(letter))), ':'};
+    const std::string drive = FoldCase(std::string{letter, ':'});
     if (drive != "c:" && drive != "d:") return Error{"No such drive"};
     if (!current_.starts_with(drive)) current_ = drive;
     return Success();
@@ -104,25 +103,6 @@ class MemoryFiles : public DosFiles {
   }
 
  private:
-  class MemorySource : public ByteSource {
-   public:
-    MemorySource(std::string bytes, bool fails) : bytes_(std::move(bytes)), fails_(fails) {
-      if (fails_) bytes_.resize(bytes_.size() / 2);
-    }
-    [[nodiscard]] bool Failed() const override { return fails_; }
-    std::size_t Read(char* buffer, std::size_t size) override {
-      const std::size_t count = std::min(size, bytes_.size() - at_);
-      std::memcpy(buffer, bytes_.data() + at_, count);
-      at_ += count;
-      return count;
-    }
-
-   private:
-    std::string bytes_;
-    bool fails_;
-    std::size_t at_ = 0;
-  };
-
   // The full path in lower case, without a backslash at its end.
   [[nodiscard]] std::string Key(std::string_view path) const {
     const bool full = path.size() > 1 && path[1] == ':';

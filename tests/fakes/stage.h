@@ -7,6 +7,10 @@
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
+#include <string>
+#include <utility>
+
+#include "toolkit/event.h"
 
 namespace zarvo {
 
@@ -30,6 +34,18 @@ class Stage : public QWidget {
     activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(this));
   }
+};
+
+// What has happened, in words.
+struct EventLog {
+  template <typename... Args>
+  void Note(Event<Args...>& event, const std::string& word) {
+    event.Connect([this, word](Args...) { text += word; });
+  }
+  // What has happened since the last call.
+  std::string operator()() { return std::exchange(text, ""); }
+
+  std::string text;
 };
 
 // Presses, releases and moves at a point of a widget; the default is its middle.

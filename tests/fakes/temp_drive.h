@@ -25,8 +25,6 @@ class TempDrive {
   }
   TempDrive(const TempDrive&) = delete;
   TempDrive& operator=(const TempDrive&) = delete;
-  TempDrive(TempDrive&&) = delete;
-  TempDrive& operator=(TempDrive&&) = delete;
 
   // The one view of the drive that the code under test gets.
   DosWorld& files() { return files_; }

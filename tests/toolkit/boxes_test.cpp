@@ -12,17 +12,16 @@ namespace zarvo {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ComboBoxTest : public testing::Test {
  protected:
   ComboBoxTest() {
-    combo.Click.Connect([this] { clicks.push_back(combo.ListIndex()); });
     combo.SetPlace({.left = 150, .top = 150, .width = 1500, .height = 285});
-  }
-  void Fill() {
     for (const char* item : {"- Genre", "Action", "R&D"}) combo.AddItem(item);
+    combo.Click.Connect([this] { log.text += " click " + combo.Text(); });
   }
+  // The selection, and what has happened since the last call.
+  std::string State() { return std::to_string(combo.ListIndex()) + " " + combo.Text() + log(); }
   // A turn of the wheel, as the desktop sends it.
   void Wheel() {
     const QPoint place(10, 10);
@@ -34,54 +33,31 @@ class ComboBoxTest : public testing::Test {
 
   Stage stage;
   ComboBox combo{&stage};
-  std::vector<int> clicks;
+  EventLog log;
 };
 
-TEST_F(ComboBoxTest, ItemsComeAndGoWithoutAClick) {
-  Fill();
-  EXPECT_EQ(combo.ListIndex(), -1) << "the first item isn't selected by being the first";
-  EXPECT_EQ(combo.Text(), "");
-  combo.SetListIndex(1);
-  clicks.clear();
-  EXPECT_TRUE(combo.RemoveItem(0));
-  EXPECT_EQ(combo.Text(), "Action");
-  EXPECT_TRUE(combo.RemoveItem(0));
-  EXPECT_EQ(combo.ListIndex(), -1);
-  EXPECT_FALSE(combo.RemoveItem(1));
-  combo.SetListIndex(0);
-  clicks.clear();
-  combo.Clear();
-  EXPECT_EQ(combo.ListIndex(), -1);
-  EXPECT_EQ(combo.ListCount(), 0);
-  EXPECT_THAT(clicks, IsEmpty());
-}
-
-TEST_F(ComboBoxTest, ANewSelectionClicksOnce) {
-  Fill();
+TEST_F(ComboBoxTest, OnlyANewSelectionClicks) {
+  EXPECT_EQ(State(), "-1 ") << "the first item isn't selected by being the first";
   EXPECT_TRUE(combo.SetListIndex(2));
   EXPECT_TRUE(combo.SetListIndex(2));
   EXPECT_FALSE(combo.SetListIndex(3));
   EXPECT_FALSE(combo.SetListIndex(-2));
-  EXPECT_THAT(clicks, ElementsAre(2));
-  EXPECT_EQ(combo.Text(), "R&D");
+  EXPECT_EQ(State(), "2 R&D click R&D");
   EXPECT_EQ(combo.List(1), "Action");
   EXPECT_EQ(combo.List(9), "");
-}
-
-TEST_F(ComboBoxTest, AHandlerThatSetsAnotherComboIsDoneWhenTheSetterReturns) {
-  Fill();
-  ComboBox other(&stage);
-  other.AddItem("a");
-  other.AddItem("b");
-  other.Click.Connect([&] { combo.SetListIndex(0); });
-  combo.Click.Connect([&] { other.SetListIndex(1); });
-  combo.SetListIndex(2);
-  EXPECT_EQ(other.ListIndex(), 1);
-  EXPECT_THAT(clicks, ElementsAre(2, 0));
+  EXPECT_TRUE(combo.RemoveItem(0));
+  EXPECT_EQ(State(), "1 R&D");
+  EXPECT_TRUE(combo.RemoveItem(1));
+  EXPECT_EQ(State(), "-1 ");
+  EXPECT_FALSE(combo.RemoveItem(1));
+  combo.SetListIndex(0);
+  EXPECT_EQ(State(), "0 Action click Action");
+  combo.Clear();
+  EXPECT_EQ(State(), "-1 ");
+  EXPECT_EQ(combo.ListCount(), 0);
 }
 
 TEST_F(ComboBoxTest, TheWheelTurnsItOnlyWithTheFocus) {
-  Fill();
   QWidget other(&stage);
   other.setFocusPolicy(Qt::StrongFocus);
   combo.SetListIndex(0);
@@ -96,19 +72,14 @@ TEST_F(ComboBoxTest, TheWheelTurnsItOnlyWithTheFocus) {
 }
 
 TEST_F(ComboBoxTest, KeysChooseAfterTheKeyDownHandler) {
-  Fill();
   combo.SetListIndex(0);
-  clicks.clear();
-  std::vector<int> shifts;
-  combo.KeyDown.Connect([&](const KeyArgs& args) {
-    shifts.push_back(args.shift);
-    EXPECT_THAT(clicks, IsEmpty());
-  });
+  log();
+  combo.KeyDown.Connect(
+      [&](const KeyArgs& args) { log.text += " key" + std::to_string(args.shift); });
   stage.Open();
   QTest::keyClick(&combo, Qt::Key_Shift);
   QTest::keyClick(&combo, Qt::Key_Down);
-  EXPECT_THAT(shifts, ElementsAre(kShiftDown, 0));
-  EXPECT_THAT(clicks, ElementsAre(1));
+  EXPECT_EQ(State(), "1 Action key1 key0 click Action");
 }
 
 class TextBoxTest : public testing::Test {
@@ -127,45 +98,34 @@ TEST_F(TextBoxTest, AChangeHandlerMaySetTheText) {
   box.SetText("5");
   box.SetText("5");
   EXPECT_THAT(seen, ElementsAre("5")) << "the same text is no change";
-  box.SetText("");
-  EXPECT_EQ(box.Text(), "0");
   QTest::keyClick(&box, Qt::Key_End);
   QTest::keyClick(&box, Qt::Key_Backspace);
   EXPECT_EQ(box.Text(), "0") << "deleting the only digit gives 0";
-  EXPECT_THAT(seen, ElementsAre("5", "", "0", "", "0"));
+  EXPECT_THAT(seen, ElementsAre("5", "", "0"));
 }
 
 TEST_F(TextBoxTest, AKeyCanBeSwallowed) {
   box.KeyDown.Connect([&](const KeyArgs& args) {
-    if (args.code == 'X') {
-      box.SetText("0");
-      box.SwallowKey();
-    }
+    if (args.code != 'X') return;
+    box.SetText("0");
+    box.SwallowKey();
   });
-  Type("12");
-  EXPECT_EQ(box.Text(), "12");
-  Type("x");
+  Type("12x");
   EXPECT_EQ(box.Text(), "0");
-  QTest::keyClick(&box, Qt::Key_End);
   Type("9");
-  EXPECT_EQ(box.Text(), "09") << "the next key is taken again";
+  EXPECT_EQ(box.Text(), "90") << "the next key is taken again, in front of what was set";
 }
 
-TEST_F(TextBoxTest, TheLargestLengthHoldsForKeysAndSetter) {
+TEST_F(TextBoxTest, TextIsWindows1252OfAtMostTheLargestLength) {
   box.SetMaxLength(4);
   Type("-12345");
   EXPECT_EQ(box.Text(), "-123");
-  box.SetText("67890");
-  EXPECT_EQ(box.Text(), "6789");
+  box.SetText("Caf\xE9s");
+  EXPECT_EQ(box.Text(), "Caf\xE9");
+  EXPECT_EQ(box.text(), QStringLiteral("Caf\u00E9"));
   box.SetMaxLength(0);
   box.SetText(std::string(300, 'a'));
   EXPECT_EQ(box.Text().size(), 300U);
-}
-
-TEST_F(TextBoxTest, TextIsWindows1252) {
-  box.SetText("C:\\Caf\xE9");
-  EXPECT_EQ(box.text(), QStringLiteral("C:\\Caf\u00E9"));
-  EXPECT_EQ(box.Text(), "C:\\Caf\xE9");
 }
 
 }  // namespace

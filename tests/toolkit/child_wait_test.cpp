@@ -1,7 +1,7 @@
 // Waiting for a child process: deaf, but alive.
 #include "toolkit/child_wait.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -14,9 +14,6 @@
 
 namespace zarvo {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ChildWaitTest : public testing::Test {
  protected:
@@ -31,21 +28,25 @@ class ChildWaitTest : public testing::Test {
     text.setFocus();
   }
 
-  RunOutcome RunShell(const std::string& script) {
-    return runner.Run({.program = "/bin/sh",
-                       .arguments = {"-c", script, "sh", gate().toStdString()},
-                       .folder = folder.path().toStdString()});
+  // Tells how the child ended.
+  std::string Run(const char* program, std::vector<std::string> arguments, const QString& where) {
+    const RunOutcome end = runner.Run(
+        {.program = program, .arguments = std::move(arguments), .folder = where.toStdString()});
+    if (!end.started) return "not started";
+    return end.crashed ? "crashed" : "exit " + std::to_string(end.exit_code);
+  }
+  std::string RunShell(const std::string& script) {
+    return Run("/bin/sh", {"-c", script, "sh", "a b", "", "\"x"}, folder.path());
   }
   // A child that ends when the test has made the file "gate".
-  RunOutcome RunUntilGate(const std::function<void()>& meanwhile) {
+  void RunUntilGate(const std::function<void()>& meanwhile) {
     QTimer::singleShot(0, qApp, [this, meanwhile] {
       EXPECT_TRUE(ChildIsRunning());
       meanwhile();
-      QFile(gate()).open(QIODevice::WriteOnly);
+      QFile(folder.filePath(QStringLiteral("gate"))).open(QIODevice::WriteOnly);
     });
-    return RunShell("while [ ! -e \"$1\" ]; do sleep 0.01; done");
+    RunShell("while [ ! -e gate ]; do sleep 0.01; done");
   }
-  [[nodiscard]] QString gate() const { return folder.filePath(QStringLiteral("gate")); }
 
   QTemporaryDir folder;
   Window window{WindowFrame::kNone, "frmTest"};
@@ -53,46 +54,31 @@ class ChildWaitTest : public testing::Test {
   Label other{&window};
   TextBox text{&window};
   WaitingRunner runner;
-  std::vector<std::string> log;
+  EventLog log;
 };
 
 TEST_F(ChildWaitTest, TellsHowTheChildEnded) {
-  const RunOutcome good = RunShell("exit 0");
-  EXPECT_TRUE(good.started);
-  EXPECT_FALSE(good.crashed);
-  EXPECT_EQ(good.exit_code, 0);
-  const RunOutcome bad = RunShell("exit 7");
-  EXPECT_TRUE(bad.started);
-  EXPECT_EQ(bad.exit_code, 7);
-  const RunOutcome killed = RunShell("kill -9 $$");
-  EXPECT_TRUE(killed.started);
-  EXPECT_TRUE(killed.crashed);
-  EXPECT_FALSE(ChildIsRunning());
-}
-
-TEST_F(ChildWaitTest, TellsThatTheChildCouldNotStart) {
-  EXPECT_FALSE(runner.Run({.program = "/no/such/program", .arguments = {}, .folder = "/"}).started);
-  EXPECT_FALSE(
-      runner.Run({.program = "/bin/true", .arguments = {}, .folder = "/no/such/folder"}).started);
+  EXPECT_EQ(RunShell("exit 0"), "exit 0");
+  EXPECT_EQ(RunShell("exit 7"), "exit 7");
+  EXPECT_EQ(RunShell("kill -9 $$"), "crashed");
+  EXPECT_EQ(Run("/no/such/program", {}, folder.path()), "not started");
+  EXPECT_EQ(Run("/bin/true", {}, QStringLiteral("/no/such/folder")), "not started");
   EXPECT_FALSE(ChildIsRunning());
 }
 
 TEST_F(ChildWaitTest, GivesTheChildItsArgumentsAndFolder) {
-  const QString out = folder.filePath(QStringLiteral("out"));
-  runner.Run({.program = "/bin/sh",
-              .arguments = {"-c", R"(printf '%s|' "$@" >out; pwd >>out)", "sh", "a b", "", "\"x"},
-              .folder = folder.path().toStdString()});
-  QFile file(out);
+  RunShell(R"(printf '%s|' "$@" >out; pwd >>out)");
+  QFile file(folder.filePath(QStringLiteral("out")));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "a b||\"x|" + folder.path().toUtf8() + "\n");
 }
 
 TEST_F(ChildWaitTest, WhatThePlayerDoesMeanwhileIsLost) {
-  label.MouseDown.Connect([this](const MouseArgs&) { log.push_back("down"); });
-  label.MouseMove.Connect([this](const MouseArgs&) { log.push_back("move"); });
-  label.Click.Connect([this] { log.push_back("click"); });
-  text.KeyDown.Connect([this](const KeyArgs&) { log.push_back("key"); });
-  window.MouseMove.Connect([this](const MouseArgs&) { log.push_back("window"); });
+  log.Note(label.MouseDown, "down ");
+  log.Note(label.MouseMove, "move ");
+  log.Note(label.Click, "click ");
+  log.Note(text.KeyDown, "key ");
+  log.Note(window.MouseMove, "window ");
   RunUntilGate([this] {
     ClickOn(&label);
     MoveTo(&window, {110, 90});
@@ -102,53 +88,50 @@ TEST_F(ChildWaitTest, WhatThePlayerDoesMeanwhileIsLost) {
         &text, new QKeyEvent(QEvent::KeyPress, Qt::Key_B, Qt::NoModifier, QStringLiteral("b")));
   });
   QCoreApplication::processEvents();
-  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(log(), "");
   EXPECT_EQ(text.Text(), "");
   ClickOn(&label);
-  EXPECT_EQ(log.back(), "click") << "all is as before";
+  EXPECT_EQ(log(), "move down click ") << "all is as before";
 }
 
 // The child is started by a press whose release comes while it runs.
 TEST_F(ChildWaitTest, AButtonLetGoMeanwhileIsNotHeldAfterwards) {
-  label.MouseDown.Connect([this](const MouseArgs&) { RunUntilGate([this] { Release(&label); }); });
-  other.MouseMove.Connect([this](const MouseArgs&) { log.push_back("other"); });
-  label.MouseMove.Connect([this](const MouseArgs&) { log.push_back("label"); });
-  label.Click.Connect([this] { log.push_back("click"); });
   MoveTo(&label);
-  log.clear();
+  label.MouseDown.Connect([this](const MouseArgs&) { RunUntilGate([this] { Release(&label); }); });
+  log.Note(other.MouseMove, "other ");
+  log.Note(label.MouseMove, "label ");
+  log.Note(label.Click, "click ");
   Press(&label);
   MoveTo(&other);
-  EXPECT_THAT(log, ElementsAre("other"));
+  EXPECT_EQ(log(), "other ");
 }
 
 TEST_F(ChildWaitTest, ARequestToCloseIsRefused) {
-  window.Unload.Connect([this](bool&) { log.push_back("unload"); });
+  log.Note(window.Unload, "unload ");
   RunUntilGate([this] {
     window.close();
-    EXPECT_TRUE(window.isVisible());
     QApplication::closeAllWindows();
     EXPECT_TRUE(window.isVisible());
   });
-  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(log(), "");
   EXPECT_FALSE(window.IsUnloaded());
   window.close();
-  EXPECT_THAT(log, ElementsAre("unload"));
+  EXPECT_EQ(log(), "unload ");
 }
 
-TEST_F(ChildWaitTest, TimersStandStillAndWindowsArePainted) {
+TEST_F(ChildWaitTest, TimersStandStill) {
   Timer timer;
   int ticks = 0;
   timer.Tick.Connect([&] { ++ticks; });
   timer.SetInterval(1);
   ASSERT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
   ticks = 0;
-  int beats = 0;  // of a bare timer, to know that time went by
-  QTimer beat;
-  QObject::connect(&beat, &QTimer::timeout, &beat, [&] { ++beats; });
-  beat.start(1);
   RunUntilGate([&] {
+    int beats = 0;  // of a bare timer, to know that time went by
+    QTimer beat;
+    QObject::connect(&beat, &QTimer::timeout, &beat, [&] { ++beats; });
+    beat.start(1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return beats > 20; }));
-    label.SetCaption("painted");
   });
   EXPECT_EQ(ticks, 0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; })) << "and they go on afterwards";

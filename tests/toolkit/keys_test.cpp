@@ -1,54 +1,38 @@
 // Key codes and shift state of real key events.
 #include "toolkit/keys.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace zarvo {
 namespace {
+
+using testing::ElementsAre;
 
 QKeyEvent Pressed(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   return {QEvent::KeyPress, key, modifiers};
 }
 
+std::vector<int> Codes(Qt::KeyboardModifiers modifiers, const std::vector<int>& keys) {
+  std::vector<int> codes;
+  for (const int key : keys) codes.push_back(KeyCodeOf(Pressed(key, modifiers)));
+  return codes;
+}
+
 TEST(KeyCodes, AreThoseThatTheKeyRulesName) {
-  struct Case {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    int code;
-  };
-  const std::vector<Case> cases = {
-      {Qt::Key_0, Qt::NoModifier, 48},
-      {Qt::Key_9, Qt::NoModifier, 57},
-      {Qt::Key_9, Qt::ShiftModifier, 57},  // keyboards that shift their digits
-      {Qt::Key_0, Qt::KeypadModifier, 96},
-      {Qt::Key_9, Qt::KeypadModifier, 105},
-      {Qt::Key_Minus, Qt::NoModifier, 189},
-      {Qt::Key_Minus, Qt::KeypadModifier, 109},
-      {Qt::Key_Underscore, Qt::ShiftModifier, 0},
-      {Qt::Key_Backspace, Qt::NoModifier, 8},
-      {Qt::Key_Delete, Qt::NoModifier, 46},
-      {Qt::Key_Delete, Qt::KeypadModifier, 46},
-      {Qt::Key_Return, Qt::NoModifier, 13},
-      {Qt::Key_Enter, Qt::KeypadModifier, 13},
-      {Qt::Key_Tab, Qt::NoModifier, 9},
-      {Qt::Key_Backtab, Qt::ShiftModifier, 9},
-      {Qt::Key_Escape, Qt::NoModifier, 27},
-      {Qt::Key_Shift, Qt::ShiftModifier, 16},
-      {Qt::Key_Control, Qt::ControlModifier, 17},
-      {Qt::Key_Alt, Qt::AltModifier, 18},
-      {Qt::Key_Left, Qt::NoModifier, 37},
-      {Qt::Key_Down, Qt::KeypadModifier, 40},
-      {Qt::Key_A, Qt::NoModifier, 65},
-      {Qt::Key_Z, Qt::ShiftModifier, 90},
-      {Qt::Key_F1, Qt::NoModifier, 112},
-      {Qt::Key_F12, Qt::NoModifier, 123},
-      {Qt::Key_Exclam, Qt::ShiftModifier, 0},
-      {Qt::Key_Adiaeresis, Qt::NoModifier, 0},
-      {Qt::Key_VolumeUp, Qt::NoModifier, 0},
-  };
-  for (const Case& each : cases) {
-    EXPECT_EQ(KeyCodeOf(Pressed(each.key, each.modifiers)), each.code) << std::hex << each.key;
-  }
+  EXPECT_THAT(Codes({}, {Qt::Key_0, Qt::Key_9, Qt::Key_A, Qt::Key_F1, Qt::Key_F12}),
+              ElementsAre(48, 57, 65, 112, 123));
+  EXPECT_THAT(Codes({}, {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return, Qt::Key_Tab}),
+              ElementsAre(8, 46, 13, 9));
+  EXPECT_THAT(Codes({}, {Qt::Key_Escape, Qt::Key_Left, Qt::Key_Minus}), ElementsAre(27, 37, 189));
+  EXPECT_THAT(Codes({}, {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt}), ElementsAre(16, 17, 18));
+  EXPECT_THAT(Codes({}, {Qt::Key_Adiaeresis, Qt::Key_VolumeUp}), ElementsAre(0, 0));
+  const auto keypad = Qt::KeypadModifier;
+  EXPECT_THAT(Codes(keypad, {Qt::Key_0, Qt::Key_9, Qt::Key_Minus}), ElementsAre(96, 105, 109));
+  EXPECT_THAT(Codes(keypad, {Qt::Key_Delete, Qt::Key_Enter, Qt::Key_Down}),
+              ElementsAre(46, 13, 40));
+  const auto shift = Qt::ShiftModifier;  // some keyboards shift their digits
+  EXPECT_THAT(Codes(shift, {Qt::Key_9, Qt::Key_Z, Qt::Key_Backtab}), ElementsAre(57, 90, 9));
+  EXPECT_THAT(Codes(shift, {Qt::Key_Underscore, Qt::Key_Exclam}), ElementsAre(0, 0));
 }
 
 TEST(KeyCodes, AModifierCountsFromItsOwnPressOn) {

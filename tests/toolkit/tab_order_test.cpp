@@ -1,18 +1,15 @@
 // The way of Tab: through parts, rows, and past what lies outside of the window.
 #include "toolkit/tab_order.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "fakes/stage.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
-#include "toolkit/list_box.h"
 #include "toolkit/window.h"
 
 namespace zarvo {
 namespace {
-
-using testing::ElementsAre;
 
 Label* Button(QWidget* parent, const char* name, const QRect& place) {
   auto* const label = new Label(parent);
@@ -23,13 +20,15 @@ Label* Button(QWidget* parent, const char* name, const QRect& place) {
 }
 
 // The names of the controls that Tab, or Shift+Tab, reaches from `start` before it is back there.
-std::vector<std::string> Round(QWidget* start, Qt::KeyboardModifiers shift = {}) {
-  std::vector<std::string> names;
-  start->setFocus();
+std::string Round(QWidget* start, Qt::KeyboardModifiers shift = {}) {
+  std::string names;
+  QWidget* reached = start;
   do {
-    names.push_back(start->window()->focusWidget()->objectName().toStdString());
-    QTest::keyClick(start->window()->focusWidget(), shift ? Qt::Key_Backtab : Qt::Key_Tab, shift);
-  } while (start->window()->focusWidget() != start && names.size() < 20);
+    reached->setFocus();
+    names += reached->objectName().toStdString() + ", ";
+    QTest::keyClick(reached, shift ? Qt::Key_Backtab : Qt::Key_Tab, shift);
+    reached = start->window()->focusWidget();
+  } while (reached != start && names.size() < 500);
   return names;
 }
 
@@ -51,8 +50,9 @@ TEST(TabOrderTest, TabGoesThroughThePartsAndOnAPartRowByRow) {
   OrderTabs({first, nullptr, page, last});
   stage.Open();
 
-  EXPECT_THAT(Round(first), ElementsAre("first", "left", "right", "below", "first in the frame",
-                                        "second in the frame", "beside the frame", "last"));
+  EXPECT_EQ(Round(first),
+            "first, left, right, below, first in the frame, second in the frame, "
+            "beside the frame, last, ");
 }
 
 TEST(TabOrderTest, AControlOutsideOfTheWindowIsPassedOver) {
@@ -66,8 +66,8 @@ TEST(TabOrderTest, AControlOutsideOfTheWindowIsPassedOver) {
   window.ShowModeless();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
 
-  EXPECT_THAT(Round(left), ElementsAre("left", "at the edge"));
-  EXPECT_THAT(Round(left, Qt::ShiftModifier), ElementsAre("left", "at the edge"));
+  EXPECT_EQ(Round(left), "left, at the edge, ");
+  EXPECT_EQ(Round(left, Qt::ShiftModifier), "left, at the edge, ");
 }
 
 TEST(TabOrderTest, ALabelTellsThatTabHasReachedItAndNothingElse) {
@@ -77,7 +77,6 @@ TEST(TabOrderTest, ALabelTellsThatTabHasReachedItAndNothingElse) {
   int reached = 0;
   label->TabbedTo.Connect([&reached] { ++reached; });
   stage.Open();
-  other->setFocus();
   label->setFocus();
   EXPECT_EQ(reached, 0);
   other->setFocus();
@@ -86,19 +85,6 @@ TEST(TabOrderTest, ALabelTellsThatTabHasReachedItAndNothingElse) {
   other->setFocus();
   QTest::keyClick(other, Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(reached, 2);
-}
-
-TEST(TabOrderTest, EnterThatIsHeldStartsOnce) {
-  Stage stage;
-  ListBox list(&stage);
-  list.AddItem("a game");
-  int starts = 0;
-  list.KeyDown.Connect([&starts](const KeyArgs& key) { starts += key.code == 13 ? 1 : 0; });
-  for (const bool repeated : {false, true, true}) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), repeated);
-    QApplication::sendEvent(&list, &press);
-  }
-  EXPECT_EQ(starts, 1);
 }
 
 }  // namespace
