@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../tests/fakes/memory_files.h"
+#include "fakes/memory_files.h"
 #include "panel/cfg_file.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../tests/fakes/memory_files.h"
 #include "catalogue/game_list.h"
 #include "catalogue/scan.h"
+#include "fakes/memory_files.h"
 
 namespace {
 

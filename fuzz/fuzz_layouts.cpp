@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../tests/fakes/memory_files.h"
+#include "fakes/memory_files.h"
 #include "layouts/layout_store.h"
 
 namespace {

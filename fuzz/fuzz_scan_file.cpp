@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../tests/fakes/memory_files.h"
 #include "catalogue/game_list.h"
+#include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace zarvo;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../tests/fakes/memory_files.h"
+#include "fakes/memory_files.h"
 #include "launch/option_layout.h"
 #include "launch/settings_store.h"
 #include "platform/text_lines.h"
