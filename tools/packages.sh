@@ -5,6 +5,7 @@ packages_build="cmake g++ nasm ninja-build python3 qt6-base-dev qt6-svg-dev"
 packages_test="appstream desktop-file-utils libgmock-dev libgtest-dev openbox x11-utils xdotool xvfb"
 packages_ci="clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev"
 packages_package="dpkg-dev file"
+packages_bare="debootstrap git util-linux"
 
 # Prints those of the packages named that aren't installed.
 missing_packages() {
