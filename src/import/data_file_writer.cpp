@@ -38,8 +38,8 @@ Status WriteDataFile(const CatalogueBuilder& catalogue, const std::string& path)
       fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
   const std::string text = TextOf(catalogue);
   const std::string full = fs::absolute(path, ignored).string();
-  const Status done = path == "-" || special ? WriteThrough(text, path)
-                                             : ReplacePlainFile(full, full + ".tmp", text);
+  Status done = path == "-" || special ? WriteThrough(text, path)
+                                       : ReplacePlainFile(full, full + ".tmp", text);
   if (done) return done;
   const std::string shown = path == "-" ? "to standard output" : path;
   return Error{"can't write " + shown + ": " + done.error().message};

@@ -36,6 +36,21 @@ std::string OnFullDisk(rlim_t bytes, const std::function<Status()>& step) {
   return done.error().message;
 }
 
+// A world whose files say that they hold a byte more than is read whole.
+struct HugeFiles : DosWorld {
+  struct Source : ByteSource {
+    [[nodiscard]] std::uint64_t Size() const override { return (64 << 20) + 1; }
+    std::size_t Read(char* /*buffer*/, std::size_t /*size*/) override {
+      ADD_FAILURE() << "it is refused before it is read";
+      return 0;
+    }
+  };
+  using DosWorld::DosWorld;
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view /*path*/) const override {
+    return std::unique_ptr<ByteSource>(std::make_unique<Source>());
+  }
+};
+
 class DosWorldTest : public testing::Test {
  protected:
   // The names in a folder as DOS has them, a folder's with a backslash.
@@ -158,6 +173,7 @@ TEST_F(DosWorldTest, EveryByteIsWrittenAndReadOrTheReasonSaid) {
   EXPECT_EQ(ReadAll(files_, "Data").error().message, "Is a directory");
   fs::resize_file(root_ / "Zarvo/FILE", std::uintmax_t{2} << 30);
   EXPECT_EQ(ReadAll(files_, "FILE").error().message, "The file is larger than 64 MiB");
+  EXPECT_FALSE(ReadAll(HugeFiles({{'C', root_}}), "file").ok());
   MemoryFiles growing;  // which doesn't tell how large a file is
   growing.Put("C:\\file", std::string((64 << 20) + 1, 'x'));
   EXPECT_EQ(ReadAll(growing, "C:\\file").error().message, "The file is larger than 64 MiB");
