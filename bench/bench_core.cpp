@@ -183,21 +183,21 @@ bool MeasureSave(Site& site, BarePass& /*pass*/, const std::vector<std::string>&
   std::string store;
   for (const std::string& name : names) store += RecordLine(site.mame, name, values) + "\r\n";
   WriteHostFile(site.StoreFile(), store);
-  return Measure(
-      {.name = "save of one record",
-       .games = static_cast<int>(names.size()),
-       .target = 3,
-       .bare =
-           [&] {
-             const auto bytes = ReadAll(site.world, R"(C:\Zarvo\cfg\Mame.set)");
-             Check(bytes.ok(), "read the store");
-             BareReplace(site.StoreFile() + ".bare", *bytes, true);
-           },
-       .measured =
-           [&] {
-             Check(SaveSettings(site.world, site.app, site.mame, names.back(), values).ok(),
-                   "save a record");
-           }});
+  return Measure({.name = "save of one record",
+                  .games = static_cast<int>(names.size()),
+                  .target = 3,
+                  .bare =
+                      [&] {
+                        const auto bytes = ReadAll(site.world, R"(C:\Zarvo\cfg\Mame.set)");
+                        Check(bytes.ok(), "read the store");
+                        BareReplace(site.StoreFile() + ".bare", *bytes, true);
+                      },
+                  .measured =
+                      [&] {
+                        Store stored = SettingsStoreOf(site.world, site.app, site.mame);
+                        Check(SaveSettings(stored, site.mame, names.back(), values).ok(),
+                              "save a record");
+                      }});
 }
 
 bool MeasureAll(Site& site, int games) {

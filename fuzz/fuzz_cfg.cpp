@@ -32,9 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   app.ProgramFolder = R"(C:\Zarvo)";
   files.Put(R"(C:\Zarvo\cfg\Mame.cfg)", std::string(reinterpret_cast<const char*>(data), size));
   const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
-  const CfgValues values = ValuesOf(ReadCfg(files, app, mame));
-  if (!WriteCfg(files, app, mame, values)) std::abort();
-  const CfgFields again = ReadCfg(files, app, mame);
+  Store store = CfgStoreOf(files, app, mame);
+  const CfgValues values = ValuesOf(ReadCfg(store, mame));
+  if (!WriteCfg(store, mame, values)) std::abort();
+  const CfgFields again = ReadCfg(store, mame);
   if (!again.favourites || *again.favourites != values.favourites) std::abort();
   if (CanBeWritten(values.exe_path) && again.exe_path != values.exe_path) std::abort();
   return 0;

@@ -9,7 +9,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  const auto drives = zarvo::DosWorld::ParseDrives(text, "/home/me/dos/Zarvo");
+  std::vector<std::string> missing;
+  const auto drives = zarvo::DosWorld::ParseDrives(text, "/home/me/dos/Zarvo", missing);
   if (!drives) {
     if (drives.error().message.empty()) std::abort();
     return 0;

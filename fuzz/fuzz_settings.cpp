@@ -43,17 +43,18 @@ void CheckEmulator(const EmulatorProfile& profile, const std::string& store) {
   const std::string path = app.CfgFolder() + "\\" + std::string(profile.settings_file);
   files.Put(path, store);
   OptionValues values = DefaultValues(profile, "C:\\R");
-  LoadSettings(files, app, profile, kKey, values);
+  Store stored = SettingsStoreOf(files, app, profile);
+  LoadSettings(stored, app, profile, kKey, values);
   CheckValues(profile, values);
 
   const OptionValues defaults = DefaultValues(profile, "C:\\R");
-  if (!SaveSettings(files, app, profile, kKey, defaults)) std::abort();
+  if (!SaveSettings(stored, profile, kKey, defaults)) std::abort();
   bool blank = false;
   std::string before = OtherLines(store, blank);
   const std::string after = OtherLines(files.BytesOf(path), blank);
   if (after != before && after != before + "\r\n") std::abort();
   if (blank) return;
-  if (LoadSettings(files, app, profile, kKey, values) != LoadOutcome::kRecord ||
+  if (LoadSettings(stored, app, profile, kKey, values) != LoadOutcome::kRecord ||
       RecordLine(profile, kKey, values) != RecordLine(profile, kKey, defaults)) {
     std::abort();
   }

@@ -148,6 +148,9 @@ int Run(int argc, char** argv) {
     DesktopBoxes().Warn(AppState().Title(), files.error().message);
     return EXIT_FAILURE;
   }
+  if (const std::string& missing = files->MissingFolders(); !missing.empty()) {
+    DesktopBoxes().Warn(AppState().Title(), missing);
+  }
   Program program(std::move(*files));
   program.Start();
   return QApplication::exec();

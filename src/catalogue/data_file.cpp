@@ -9,11 +9,13 @@ constexpr int kTotalLine = 8;
 
 Result<LineReader> OpenDataFile(DosFiles& files, const AppState& app,
                                 const EmulatorProfile& profile) {
-  if (const Status entered = EnterFolder(files, app.DataFolder()); !entered) {
-    return entered.error();
-  }
+  const auto named = [&profile](const Error& error) {
+    return Error{std::string(profile.data_file) + ": " + error.message, error.missing};
+  };
+  const Status entered = EnterFolder(files, app.DataFolder());
+  if (!entered) return named(entered.error());
   auto source = files.Open(profile.data_file);
-  if (!source) return source.error();
+  if (!source) return named(source.error());
   return LineReader(std::move(*source));
 }
 

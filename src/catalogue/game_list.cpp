@@ -4,7 +4,6 @@
 #include <string>
 
 #include "catalogue/scan.h"
-#include "platform/enter_folder.h"
 
 namespace zarvo {
 namespace {
@@ -75,8 +74,8 @@ std::string_view Unquote(std::string_view line) {
 
 FillResult FillFromScan(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
                         char mark, NameList& list) {
-  if (!profile.has_scan || !EnterFolder(files, app.CfgFolder())) return FillResult::kNoScanFile;
-  const auto scan = ReadReplaceable(files, profile.scan_file, ScanTemporary(profile));
+  if (!profile.has_scan) return FillResult::kNoScanFile;
+  const auto scan = ScanStoreOf(files, app, profile).Read();
   if (!scan) return FillResult::kNoScanFile;
   list.Clear();
   for (std::string_view text = *scan; !text.empty();) {
@@ -154,10 +153,7 @@ void FilterList(DosFiles& files, const AppState& app, const EmulatorProfile& pro
   if (!records) return;
   const std::string names = KeptNames(*records, PlaceOf(filter), value, list);
   if (records->Failed()) return;
-  if (!files.WriteFile(kWorkFile, names)) {
-    Ignore(files.DeleteFile(kWorkFile));
-    return;
-  }
+  if (!files.WriteFile(kWorkFile, names)) return;
   ReadWorkFile(files, list);
   Ignore(files.DeleteFile(kWorkFile));
 }

@@ -103,8 +103,9 @@ int LookForGames(RecordReader& records, SetType sets, Archives& archives, std::s
 
 }  // namespace
 
-std::string ScanTemporary(const EmulatorProfile& profile) {
-  return std::string(profile.word) + "scn.tmp";
+Store ScanStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+  return {files, app.CfgFolder(), std::string(profile.scan_file),
+          std::string(profile.word) + "scn.tmp"};
 }
 
 Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
@@ -117,15 +118,10 @@ Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulato
   ScanOutcome outcome;
   outcome.found =
       LookForGames(*records, profile.knows_parents ? sets : SetType::kSplit, archives, text);
-  if (records->Failed()) return Error{"The data file could not be read to its end"};
-  outcome.written = EnterFolder(files, app.CfgFolder());
-  if (outcome.written) {
-    outcome.written = files.ReplaceFile(profile.scan_file, ScanTemporary(profile), text);
+  if (records->Failed()) {
+    return Error{std::string(profile.data_file) + ": The file could not be read to its end"};
   }
-  if (!outcome.written) {
-    outcome.written =
-        Error{std::string(profile.scan_file) + ": " + outcome.written.error().message};
-  }
+  outcome.written = ScanStoreOf(files, app, profile).Replace(text);
   EnterRomFolder(files, app, rom_folder);
   return outcome;
 }

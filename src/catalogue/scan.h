@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "catalogue/data_file.h"
+#include "platform/store.h"
 
 namespace zarvo {
 
@@ -14,8 +15,8 @@ enum class SetType { kSplit, kMerged };
 inline constexpr char kFoundMark = 'Y';
 inline constexpr char kMissingMark = 'N';
 
-// The name under which the scan file is written before it takes its place: "Mamescn.tmp".
-std::string ScanTemporary(const EmulatorProfile& profile);
+// The answers of the last scan, `<Emu>.scn` in the folder cfg.
+Store ScanStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
 
 struct ScanOutcome {
   int found = 0;

@@ -3,81 +3,29 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
+
+#include "platform/host_file.h"
 
 namespace zarvo {
 namespace {
 
-// An open file that is closed, and removed unless it was kept.
-class OutputFile {
- public:
-  OutputFile(int descriptor, std::string removed)
-      : descriptor_(descriptor), path_(std::move(removed)) {}
-  OutputFile(const OutputFile&) = delete;
-  OutputFile& operator=(const OutputFile&) = delete;
-  ~OutputFile() {
-    Close();
-    if (!path_.empty()) ::unlink(path_.c_str());
-  }
-
-  // False after the first failure, with errno set.
-  [[nodiscard]] bool Write(std::string_view bytes) const;
-  [[nodiscard]] bool Flush() const { return ::fsync(descriptor_) == 0; }
-  bool Close();
-  void Keep() { path_.clear(); }
-
- private:
-  int descriptor_;
-  std::string path_;
-};
-
-bool OutputFile::Write(std::string_view bytes) const {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
-bool OutputFile::Close() {
-  const int descriptor = descriptor_;
-  descriptor_ = -1;
-  return descriptor < 0 || ::close(descriptor) == 0;
-}
-
-bool WriteLines(const CatalogueBuilder& catalogue, OutputFile& file) {
-  constexpr std::size_t kFull = std::size_t{64} << 10;
-  std::string waiting;
-  for (const std::string& line : catalogue.Header()) waiting += line + "\r\n";
+std::string TextOf(const CatalogueBuilder& catalogue) {
+  std::string text;
+  for (const std::string& line : catalogue.Header()) text += line + "\r\n";
   for (std::size_t place = 0; place < catalogue.GameCount(); ++place) {
-    waiting += catalogue.Line(place);
-    waiting += "\r\n";
-    if (waiting.size() < kFull) continue;
-    if (!file.Write(waiting)) return false;
-    waiting.clear();
+    text += catalogue.Line(place);
+    text += "\r\n";
   }
-  return file.Write(waiting);
-}
-
-Error SystemError(const std::string& path) {
-  return Error{"can't write " + path + ": " + std::strerror(errno)};
+  return text;
 }
 
 // Standard output, a pipe or a device: nothing to be replaced.
-Status WriteThrough(const CatalogueBuilder& catalogue, const std::string& path) {
-  const bool standard = path == "-";
-  const std::string shown = standard ? "to standard output" : path;
-  const int descriptor =
-      standard ? ::dup(STDOUT_FILENO) : ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-  if (descriptor < 0) return SystemError(shown);
-  OutputFile file(descriptor, {});
-  if (!WriteLines(catalogue, file) || !file.Close()) return SystemError(shown);
-  return Success();
+Status WriteThrough(std::string_view text, const std::string& path) {
+  FileHandle file(path == "-" ? ::dup(STDOUT_FILENO) : ::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+  if (!file.ok()) return LastError();
+  Status done = WriteAll(file.get(), text);
+  return done ? file.Close() : done;
 }
 
 }  // namespace
@@ -86,19 +34,15 @@ Status WriteDataFile(const CatalogueBuilder& catalogue, const std::string& path)
   namespace fs = std::filesystem;
   std::error_code ignored;
   const fs::file_status status = fs::status(path, ignored);
-  const bool special = fs::exists(status) && !fs::is_regular_file(status);
-  if (path == "-" || (special && !fs::is_directory(status))) return WriteThrough(catalogue, path);
-  // Behind a link the file it leads to is replaced, not the link.
-  const fs::path resolved = fs::weakly_canonical(path, ignored);
-  const std::string target = resolved.empty() ? path : resolved.string();
-  const std::string temporary = target + "." + std::to_string(::getpid()) + ".tmp";
-  const int descriptor = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  if (descriptor < 0) return SystemError(path);
-  OutputFile file(descriptor, temporary);
-  const bool written = WriteLines(catalogue, file) && file.Flush() && file.Close();
-  if (!written || std::rename(temporary.c_str(), target.c_str()) != 0) return SystemError(path);
-  file.Keep();
-  return Success();
+  const bool special =
+      fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+  const std::string text = TextOf(catalogue);
+  const std::string full = fs::absolute(path, ignored).string();
+  Status done = path == "-" || special ? WriteThrough(text, path)
+                                       : ReplacePlainFile(full, full + ".tmp", text);
+  if (done) return done;
+  const std::string shown = path == "-" ? "to standard output" : path;
+  return Error{"can't write " + shown + ": " + done.error().message};
 }
 
 std::string SummaryText(const ImportSummary& summary) {

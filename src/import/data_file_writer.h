@@ -9,8 +9,9 @@
 namespace zarvo {
 
 // Writes the data file to a host path, or to standard output for "-". A plain file gets the new
-// content whole or keeps the old one: the lines go to a new file beside it, are flushed to the disk
-// and take the name in one rename.
+// content whole or keeps the old one, as ReplacePlainFile tells; the temporary file is the path
+// with
+// ".tmp" behind it.
 Status WriteDataFile(const CatalogueBuilder& catalogue, const std::string& path);
 
 // What a person wants to know at the end, in lines.

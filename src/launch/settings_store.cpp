@@ -4,8 +4,6 @@
 #include <vector>
 
 #include "launch/option_layout.h"
-#include "platform/dos_path.h"
-#include "platform/enter_folder.h"
 #include "platform/text.h"
 #include "platform/text_lines.h"
 
@@ -118,24 +116,19 @@ std::string WithAppended(std::string store, const std::string& record) {
   return std::move(store) + record;
 }
 
-Status Named(const EmulatorProfile& profile, const Status& status) {
-  if (status) return status;
-  return Error{std::string(profile.settings_file) + ": " + status.error().message};
-}
-
-Status Replace(DosFiles& files, const EmulatorProfile& profile, std::string_view text) {
-  return Named(profile, files.ReplaceFile(profile.settings_file, profile.settings_temp_file, text));
-}
-
 }  // namespace
 
-LoadOutcome LoadSettings(DosFiles& files, AppState& app, const EmulatorProfile& profile,
+Store SettingsStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+  return {files, app.CfgFolder(), std::string(profile.settings_file),
+          std::string(profile.settings_temp_file)};
+}
+
+LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& profile,
                          std::string_view key, OptionValues& values) {
   app.SettingsFound = false;
-  const auto store = ReadReplaceable(files, JoinPath(app.CfgFolder(), profile.settings_file),
-                                     JoinPath(app.CfgFolder(), profile.settings_temp_file));
-  if (!store) return LoadOutcome::kNothing;
-  const FoundLines lines = FindLines(*store, key);
+  const auto text = store.Load();
+  if (!text) return LoadOutcome::kNothing;
+  const FoundLines lines = FindLines(*text, key);
   if (lines.stopped) return LoadOutcome::kNothing;
 
   const auto options = OptionsOf(profile.emulator);
@@ -152,27 +145,18 @@ LoadOutcome LoadSettings(DosFiles& files, AppState& app, const EmulatorProfile& 
   return LoadOutcome::kRecord;
 }
 
-Status SaveSettings(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                    std::string_view key, const OptionValues& values) {
-  const Status entered = EnterFolder(files, app.CfgFolder());
-  if (!entered) return Named(profile, entered);
-  auto store = ReadReplaceable(files, profile.settings_file, profile.settings_temp_file);
-  if (!store && files.FileExists(profile.settings_file)) {
-    return Named(profile, store.error());  // what can't be read isn't overwritten
-  }
-  std::string text = store ? *std::move(store) : std::string();
+Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_view key,
+                    const OptionValues& values) {
   const std::string record = RecordLine(profile, key, values) + "\r\n";
   const std::string quoted_key = Quoted(key);
-  text = HasRecord(text, quoted_key) ? WithReplaced(text, quoted_key, record)
-                                     : WithAppended(std::move(text), record);
-  return Replace(files, profile, text);
+  return store.Change([&](std::string text) {
+    return HasRecord(text, quoted_key) ? WithReplaced(text, quoted_key, record)
+                                       : WithAppended(std::move(text), record);
+  });
 }
 
-Status SaveAsDefault(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                     const OptionValues& values) {
-  const Status entered = EnterFolder(files, app.CfgFolder());
-  if (!entered) return Named(profile, entered);
-  return Replace(files, profile, RecordLine(profile, kDefaultKey, values) + "\r\n");
+Status SaveAsDefault(Store& store, const EmulatorProfile& profile, const OptionValues& values) {
+  return store.Overwrite(RecordLine(profile, kDefaultKey, values) + "\r\n");
 }
 
 std::string RecordLine(const EmulatorProfile& profile, std::string_view key,

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "launch/option_table.h"
-#include "platform/dos_files.h"
+#include "platform/store.h"
 #include "shell/app_state.h"
 
 namespace zarvo {
@@ -19,24 +19,27 @@ inline constexpr std::string_view kDefaultKey = "[DEFAULT]";
 enum class LoadOutcome {
   kRecord,    // `values` holds the record of the key, or the default record over the defaults
   kDefaults,  // no record: `values` holds the defaults
-  kNothing,   // no store, or an empty line in front of the record: `values` is untouched
+  kNothing,   // no store, one that can't be read (store.Usable() tells), or an empty line in front
+              // of the record: `values` is untouched
 };
+
+Store SettingsStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
 
 // Reads the record of `key` and sets app.SettingsFound and app.SettingsFields. Options that a
 // record never holds, and whether an option can be used, stay as `values` has them. Fields that a
 // record lacks, and fields that aren't numbers where numbers belong, keep the default. A combo
 // index past its items counts as such a field too.
-LoadOutcome LoadSettings(DosFiles& files, AppState& app, const EmulatorProfile& profile,
+LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& profile,
                          std::string_view key, OptionValues& values);
 
 // Replaces every record of `key` in its place, or adds one at the end; all other lines keep their
 // bytes. All or nothing; on failure the error names the file and the reason.
-Status SaveSettings(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                    std::string_view key, const OptionValues& values);
+Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_view key,
+                    const OptionValues& values);
 
-// Erases the store and writes `values` as its only record, the default one.
-Status SaveAsDefault(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                     const OptionValues& values);
+// Erases the store and writes `values` as its only record, the default one. A store that can't be
+// read stays as it is.
+Status SaveAsDefault(Store& store, const EmulatorProfile& profile, const OptionValues& values);
 
 // The line of a record without its line end.
 std::string RecordLine(const EmulatorProfile& profile, std::string_view key,

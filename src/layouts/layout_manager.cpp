@@ -48,34 +48,41 @@ void LayoutManager::Wire() {
 }
 
 void LayoutManager::Load() {
-  if (FillNames() && LoadSettings()) cboListaLayout->SetListIndex(0);
+  const Status filled = FillNames();
+  if (filled ? LoadSettings() : EndLoad(filled.error())) cboListaLayout->SetListIndex(0);
 }
 
-bool LayoutManager::FillNames() {
+Status LayoutManager::FillNames() {
   const auto names = store_.Names();
-  if (!names) return false;
+  if (!names) return names.error();
   for (const std::string& name : *names) {
     cboListaLayout->AddItem(name);
     cboListaLayout2->AddItem(name);
   }
-  return true;
+  return Success();
 }
 
 // False as soon as something can't be read, or names a layout that isn't there.
 bool LayoutManager::LoadSettings() {
   const auto always_on_top = store_.ReadSwitch(kAlwaysOnTopKey);
-  if (!always_on_top) return false;
+  if (!always_on_top) return EndLoad(always_on_top.error());
   chkAlwaysOnTop->SetValue(*always_on_top ? 1 : 0);
   const auto autoload = store_.ReadSwitch(kAutoloadKey);
-  if (!autoload) return false;
+  if (!autoload) return EndLoad(autoload.error());
   chkEnableAutoload->SetValue(*autoload ? 1 : 0);
   const auto default_layout = store_.ReadDefaultLayout();
-  if (!default_layout) return false;
+  if (!default_layout) return EndLoad(default_layout.error());
   for (int next = 0; cboListaLayout2->Text() != *default_layout; ++next) {
     if (!cboListaLayout2->SetListIndex(next)) return false;
   }
   if (default_layout->empty()) chkEnableAutoload->SetValue(0);
   return true;
+}
+
+// What isn't there yet is no failure.
+bool LayoutManager::EndLoad(const Error& error) {
+  if (!error.missing) TellFailure(error);
+  return false;
 }
 
 void LayoutManager::ShowPanels() {
@@ -226,7 +233,7 @@ void LayoutManager::TellFailure(const Error& error) {
 void LayoutManager::ShowFile(std::string_view selected, std::string_view default_layout) {
   cboListaLayout->Clear();
   cboListaLayout2->Clear();
-  FillNames();
+  Ignore(FillNames());  // its failure is told
   cboListaLayout2->SetListIndex(FindItem(*cboListaLayout2, default_layout));
   const int index = FindItem(*cboListaLayout, selected);
   cboListaLayout->SetListIndex(index < 0 ? 0 : index);

@@ -46,8 +46,10 @@ class LayoutManager : public Window {
   void BuildDefault();
   void Wire();
   void Load();
-  bool FillNames();
+  Status FillNames();
   bool LoadSettings();
+  // Tells what couldn't be read; always false.
+  bool EndLoad(const Error& error);
 
   void ShowPanels();
   void AskName(NameMode mode, std::string_view name);

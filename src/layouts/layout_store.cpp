@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/enter_folder.h"
 #include "platform/text.h"
 #include "platform/text_lines.h"
 #include "platform/twips.h"
@@ -11,15 +10,7 @@
 namespace zarvo {
 namespace {
 
-constexpr std::string_view kLayoutsFile = "layouts.dat";
-constexpr std::string_view kLayoutsTemporary = "layouts.tmp";
-constexpr std::string_view kIniFile = "zarvo.ini";
-constexpr std::string_view kIniTemporary = "zarvo.tmp";
 constexpr std::string_view kLineEnd = "\r\n";
-
-Error Named(std::string_view file, const Error& error) {
-  return Error{std::string(file) + ": " + error.message};
-}
 
 std::string HeadingOf(std::string_view name) { return "[" + std::string(name) + "]"; }
 
@@ -134,9 +125,22 @@ bool IsLayoutName(std::string_view name) {
   return !name.empty() && std::none_of(name.begin(), name.end(), is_control);
 }
 
-Result<std::vector<std::string>> LayoutStore::Names() const {
-  const auto text = Read(kLayoutsFile, kLayoutsTemporary);
-  if (!text) return text.error();
+LayoutStore::LayoutStore(DosFiles& files, const AppState& app)
+    : app_(app),
+      layouts_(files, app.ProgramFolder, "layouts.dat", "layouts.tmp"),
+      ini_(files, app.ProgramFolder, "zarvo.ini", "zarvo.tmp") {}
+
+Result<std::vector<std::string>> LayoutStore::Names() {
+  const auto text = layouts_.Load();
+  if (!text) {
+    // The default layout can't be chosen, so that what zarvo.ini has of it must stay.
+    if (text.error().missing) {
+      Ignore(ini_.Load());
+    } else {
+      ini_.Refuse(text.error());
+    }
+    return text.error();
+  }
   std::vector<std::string> names;
   std::string_view rest = *text;
   while (!rest.empty()) {
@@ -147,7 +151,7 @@ Result<std::vector<std::string>> LayoutStore::Names() const {
 }
 
 Result<LayoutBlock> LayoutStore::ReadBlock(std::string_view name) const {
-  const auto text = Read(kLayoutsFile, kLayoutsTemporary);
+  const auto text = layouts_.Read();
   if (!text) return text.error();
   const Cut cut = CutAround(*text, name);
   if (!cut.found) return NoSuchLayout(name);
@@ -165,44 +169,41 @@ Result<LayoutBlock> LayoutStore::ReadBlock(std::string_view name) const {
 }
 
 Status LayoutStore::AddBlock(std::string_view name) {
-  const auto text = TextToChange();
-  if (!text) return text.error();
-  return Replace(kLayoutsFile, kLayoutsTemporary, Joined({.before = *text}, BlockOf(name, {})));
+  return layouts_.Change(
+      [&](const std::string& text) { return Joined({.before = text}, BlockOf(name, {})); });
 }
 
 Status LayoutStore::SaveBlock(std::string_view name, const std::vector<LayoutRecord>& records) {
-  const auto text = TextToChange();
-  if (!text) return text.error();
-  return Replace(kLayoutsFile, kLayoutsTemporary,
-                 Joined(CutAround(*text, name), BlockOf(name, records)));
+  return layouts_.Change([&](const std::string& text) {
+    return Joined(CutAround(text, name), BlockOf(name, records));
+  });
 }
 
 Status LayoutStore::RemoveBlock(std::string_view name) {
-  const auto text = TextToChange();
-  if (!text) return text.error();
-  const Cut cut = CutAround(*text, name);
-  if (!cut.found) return Success();
-  return Replace(kLayoutsFile, kLayoutsTemporary, std::string(cut.before).append(cut.behind));
+  return layouts_.Change([&](const std::string& text) {
+    const Cut cut = CutAround(text, name);
+    return std::string(cut.before).append(cut.behind);
+  });
 }
 
 Status LayoutStore::RenameBlock(std::string_view old_name, std::string_view new_name) {
-  const auto text = TextToChange();
-  if (!text) return text.error();
-  const Cut cut = CutAround(*text, old_name);
-  if (!cut.found) return NoSuchLayout(old_name);
-  std::string_view records = cut.block;
-  TakeLine(records);
-  const std::string block = HeadingOf(new_name).append(kLineEnd).append(records);
-  return Replace(kLayoutsFile, kLayoutsTemporary, Joined(cut, block));
+  const auto block = ReadBlock(old_name);
+  if (!block) return block.error();
+  return layouts_.Change([&](const std::string& text) {
+    const Cut cut = CutAround(text, old_name);
+    std::string_view records = cut.block;
+    TakeLine(records);
+    return Joined(cut, HeadingOf(new_name).append(kLineEnd).append(records));
+  });
 }
 
-Result<bool> LayoutStore::ReadSwitch(std::string_view key) const {
+Result<bool> LayoutStore::ReadSwitch(std::string_view key) {
   const auto line = KeyLine(key);
   if (!line) return line.error();
   return line->ends_with('1');
 }
 
-Result<std::string> LayoutStore::ReadDefaultLayout() const {
+Result<std::string> LayoutStore::ReadDefaultLayout() {
   auto line = KeyLine(kDefaultLayoutKey);
   if (!line) return line;
   return line->substr(std::min(line->size(), kDefaultLayoutKey.size() + 1));
@@ -218,10 +219,10 @@ Status LayoutStore::SaveIni(const LayoutIni& ini) {
       "\r\nAutoloadOnStartup = " + (ini.autoload ? "1" : "0") +
       "\r\nDefaultLayout = " + ini.default_layout + "\r\n \r\n" + rule + "\r\n End of file\r\n" +
       rule + "\r\n";
-  return Replace(kIniFile, kIniTemporary, text);
+  return ini_.Replace(text);
 }
 
-std::vector<LayoutRecord> LayoutStore::AutoloadRecords() const {
+std::vector<LayoutRecord> LayoutStore::AutoloadRecords() {
   const auto wanted = ReadSwitch(kAutoloadKey);
   if (!wanted || !*wanted) return {};
   const auto name = ReadDefaultLayout();
@@ -230,30 +231,8 @@ std::vector<LayoutRecord> LayoutStore::AutoloadRecords() const {
   return block ? std::move(block->records) : std::vector<LayoutRecord>();
 }
 
-Result<std::string> LayoutStore::Read(std::string_view file, std::string_view temporary) const {
-  const Status entered = EnterFolder(files_, app_.ProgramFolder);
-  if (!entered) return Named(file, entered.error());
-  auto text = ReadReplaceable(files_, file, temporary);
-  if (!text) return Named(file, text.error());
-  return text;
-}
-
-Status LayoutStore::Replace(std::string_view file, std::string_view temporary,
-                            std::string_view text) {
-  Status done = EnterFolder(files_, app_.ProgramFolder);
-  if (done) done = files_.ReplaceFile(file, temporary, text);
-  if (!done) return Named(file, done.error());
-  return done;
-}
-
-Result<std::string> LayoutStore::TextToChange() const {
-  auto text = Read(kLayoutsFile, kLayoutsTemporary);
-  if (!text && !files_.FileExists(kLayoutsFile)) return std::string();
-  return text;
-}
-
-Result<std::string> LayoutStore::KeyLine(std::string_view key) const {
-  const auto text = Read(kIniFile, kIniTemporary);
+Result<std::string> LayoutStore::KeyLine(std::string_view key) {
+  const auto text = ini_.Load();
   if (!text) return text.error();
   std::string_view rest = *text;
   while (!rest.empty()) {
@@ -263,7 +242,7 @@ Result<std::string> LayoutStore::KeyLine(std::string_view key) const {
       return std::string(line);
     }
   }
-  return Error{std::string(kIniFile) + ": no key \"" + std::string(key) + "\""};
+  return Error{"zarvo.ini: no key \"" + std::string(key) + "\"", true};
 }
 
 }  // namespace zarvo

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/dos_files.h"
+#include "platform/store.h"
 #include "shell/app_state.h"
 
 namespace zarvo {
@@ -55,13 +55,14 @@ bool IsLayoutName(std::string_view name);
 
 // Reads and rewrites both files. Every operation makes the program's folder current. Files are
 // replaced as a whole or left as they were; the error of a failed one names the file and the
-// reason. Nothing is held between two calls.
+// reason. Nothing is held between two calls but whether the files could be read.
 class LayoutStore {
  public:
-  LayoutStore(DosFiles& files, const AppState& app) : files_(files), app_(app) {}
+  LayoutStore(DosFiles& files, const AppState& app);
 
-  // The names of all layouts in the order of the file. Fails if there is no file.
-  [[nodiscard]] Result<std::vector<std::string>> Names() const;
+  // The names of all layouts in the order of the file. Fails if there is no file. While they can't
+  // be read neither file is changed.
+  [[nodiscard]] Result<std::vector<std::string>> Names();
   // Fails if there is no such layout.
   [[nodiscard]] Result<LayoutBlock> ReadBlock(std::string_view name) const;
   // An empty layout behind all others.
@@ -73,24 +74,21 @@ class LayoutStore {
   Status RenameBlock(std::string_view old_name, std::string_view new_name);
 
   // A switch is on if its line ends with "1". Fails if the file or the key is missing.
-  [[nodiscard]] Result<bool> ReadSwitch(std::string_view key) const;
+  [[nodiscard]] Result<bool> ReadSwitch(std::string_view key);
   // What stands behind "=" and one character more. Fails likewise.
-  [[nodiscard]] Result<std::string> ReadDefaultLayout() const;
+  [[nodiscard]] Result<std::string> ReadDefaultLayout();
   Status SaveIni(const LayoutIni& ini);
 
   // The layout to apply at start-up; nothing if none is wanted or anything stands in the way. Of a
   // damaged block, what stands in front of the damage.
-  [[nodiscard]] std::vector<LayoutRecord> AutoloadRecords() const;
+  [[nodiscard]] std::vector<LayoutRecord> AutoloadRecords();
 
  private:
-  [[nodiscard]] Result<std::string> Read(std::string_view file, std::string_view temporary) const;
-  Status Replace(std::string_view file, std::string_view temporary, std::string_view text);
-  // The text of layouts.dat; empty if there is no file, an error if it can't be read.
-  [[nodiscard]] Result<std::string> TextToChange() const;
-  [[nodiscard]] Result<std::string> KeyLine(std::string_view key) const;
+  [[nodiscard]] Result<std::string> KeyLine(std::string_view key);
 
-  DosFiles& files_;
   const AppState& app_;
+  Store layouts_;
+  Store ini_;
 };
 
 }  // namespace zarvo

@@ -2,16 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/enter_folder.h"
 #include "platform/name_list.h"
 
 namespace zarvo {
 namespace {
-
-// "Mamecfg.tmp" for "Mame.cfg", as the settings store names its own.
-std::string TemporaryName(const EmulatorProfile& profile) {
-  return std::string(profile.word) + "cfg.tmp";
-}
 
 // Drops the rest of a field: up to the next comma or line end, and that with it.
 void DropDelimiter(std::string_view& rest) {
@@ -44,10 +38,15 @@ std::string LineOf(std::string_view value) {
 
 }  // namespace
 
-CfgFields ReadCfg(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+// The temporary file is "Mamecfg.tmp" for "Mame.cfg", as the settings store names its own.
+Store CfgStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+  return {files, app.CfgFolder(), std::string(profile.cfg_file),
+          std::string(profile.word) + "cfg.tmp"};
+}
+
+CfgFields ReadCfg(Store& store, const EmulatorProfile& profile) {
   CfgFields fields;
-  if (!EnterFolder(files, app.CfgFolder())) return fields;
-  const auto text = ReadReplaceable(files, profile.cfg_file, TemporaryName(profile));
+  const auto text = store.Load();
   if (!text) return fields;
   std::string_view rest = *text;
   for (auto* field : {&fields.exe_path, &fields.rom_path, &fields.snap_path, &fields.snap_format,
@@ -66,18 +65,14 @@ CfgFields ReadCfg(DosFiles& files, const AppState& app, const EmulatorProfile& p
   return fields;
 }
 
-Status WriteCfg(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                const CfgValues& values) {
+Status WriteCfg(Store& store, const EmulatorProfile& profile, const CfgValues& values) {
   std::string text = LineOf(values.exe_path) + LineOf(values.rom_path) + LineOf(values.snap_path) +
                      LineOf(values.snap_format) + LineOf(values.emulator_folder) +
                      LineOf(values.layout_word);
   if (profile.has_favourites) {
     for (const std::string& favourite : values.favourites) text += LineOf(favourite);
   }
-  Status written = EnterFolder(files, app.CfgFolder());
-  if (written) written = files.ReplaceFile(profile.cfg_file, TemporaryName(profile), text);
-  if (written) return written;
-  return Error{std::string(profile.cfg_file) + ": " + written.error().message};
+  return store.Replace(text);
 }
 
 bool CanBeWritten(std::string_view value) {

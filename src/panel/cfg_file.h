@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/dos_files.h"
+#include "platform/store.h"
 #include "shell/app_state.h"
 
 namespace zarvo {
@@ -25,8 +25,10 @@ struct CfgFields {
   std::optional<std::vector<std::string>> favourites;
 };
 
-// Reads the fields that the file has. A missing file gives none.
-CfgFields ReadCfg(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+Store CfgStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+
+// Loads the fields that the file has. A file that is missing or can't be read gives none.
+CfgFields ReadCfg(Store& store, const EmulatorProfile& profile);
 
 // The values to write. `favourites` in the order of the file: from the last entry of the list to
 // the first.
@@ -41,8 +43,7 @@ struct CfgValues {
 };
 
 // All or nothing; on failure the error names the file and the reason.
-Status WriteCfg(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                const CfgValues& values);
+Status WriteCfg(Store& store, const EmulatorProfile& profile, const CfgValues& values);
 
 // True if a value reads back the same from the file. A value with a double quote in it is written
 // bare where that works: no comma, no leading blank or quote.

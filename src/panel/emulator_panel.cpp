@@ -14,7 +14,11 @@ constexpr int kDockDistance = 3450;
 }  // namespace
 
 void EmulatorPanel::LoadCfg(bool paths_only) {
-  const CfgFields cfg = ReadCfg(tools_.files, tools_.app, profile_);
+  // The first lines alone don't make the favourites those of the file.
+  Store first_lines = cfg_;
+  Store& store = paths_only ? first_lines : cfg_;
+  const CfgFields cfg = ReadCfg(store, profile_);
+  Report(tools_, store.Usable());
   if (cfg.exe_path) picConf->txtOptExePath->SetText(*cfg.exe_path);
   if (cfg.rom_path) {
     picConf->txtOptRomPath->SetText(*cfg.rom_path);
@@ -28,25 +32,32 @@ void EmulatorPanel::LoadCfg(bool paths_only) {
   if (cfg.favourites && profile_.has_favourites) favourites->SetEntries(*cfg.favourites);
 }
 
-void EmulatorPanel::SaveCfg() {
+Status EmulatorPanel::TrySaveCfg() {
   tools_.app.RomPathOf(profile_.emulator) = picConf->txtOptRomPath->Text();
-  const Status saved = WriteCfg(tools_.files, tools_.app, profile_,
-                                {.exe_path = picConf->txtOptExePath->Text(),
-                                 .rom_path = picConf->txtOptRomPath->Text(),
-                                 .snap_path = picConf->txtOptSnap->Text(),
-                                 .snap_format = picConf->SnapFormat(),
-                                 .emulator_folder = lblOptHide,
-                                 .layout_word = sizes->lblRidimen,
-                                 .favourites = favourites->EntriesBackwards()});
+  if (!cfg_.Usable()) return Success();
+  return WriteCfg(cfg_, profile_,
+                  {.exe_path = picConf->txtOptExePath->Text(),
+                   .rom_path = picConf->txtOptRomPath->Text(),
+                   .snap_path = picConf->txtOptSnap->Text(),
+                   .snap_format = picConf->SnapFormat(),
+                   .emulator_folder = lblOptHide,
+                   .layout_word = sizes->lblRidimen,
+                   .favourites = favourites->EntriesBackwards()});
+}
+
+void EmulatorPanel::SaveCfg() {
+  const Status saved = TrySaveCfg();
   if (saved.ok() || told_ == saved.error().message) return;
   Report(tools_, saved);
   if (told_) told_ = saved.error().message;
 }
 
-void EmulatorPanel::SaveSettings(std::string_view key) {
-  Report(tools_,
-         zarvo::SaveSettings(tools_.files, tools_.app, profile_, key, picSettings->Values()));
+Status EmulatorPanel::TrySaveSettings(std::string_view key) {
+  if (!settings_.Usable()) return Success();
+  return zarvo::SaveSettings(settings_, profile_, key, picSettings->Values());
 }
+
+void EmulatorPanel::SaveSettings(std::string_view key) { Report(tools_, TrySaveSettings(key)); }
 
 void EmulatorPanel::SaveAndMarkClosed() {
   SaveCfg();
@@ -243,14 +254,19 @@ void EmulatorPanel::ApplyDefaults() {
 
 LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {
   OptionValues values = picSettings->Values();
-  const LoadOutcome outcome = LoadSettings(tools_.files, tools_.app, profile_, key, values);
+  // A start borrows the controls for another game: what it sees says nothing about their own.
+  Store borrowed = settings_;
+  Store& store = key == lblRomSettings->Caption() ? settings_ : borrowed;
+  const bool told = !store.Usable();
+  const LoadOutcome outcome = LoadSettings(store, tools_.app, profile_, key, values);
+  if (!told) Report(tools_, store.Usable());
   if (outcome != LoadOutcome::kNothing) picSettings->Apply(values);
   return outcome;
 }
 
 void EmulatorPanel::ApplyToAll() {
   if (!tools_.boxes.Ask(tools_.app.Title(), tools_.app.messages.MsgApplyDefaults)) return;
-  const Status saved = SaveAsDefault(tools_.files, tools_.app, profile_, picSettings->Values());
+  const Status saved = SaveAsDefault(settings_, profile_, picSettings->Values());
   Report(tools_, saved);
   if (saved.ok()) tools_.boxes.Inform(tools_.app.Title(), tools_.app.messages.MsgDefaultsSaved);
 }

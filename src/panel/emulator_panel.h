@@ -43,6 +43,10 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void SaveCfg() override;
   // The record of `key` from the controls.
   void SaveSettings(std::string_view key);
+  // The same two without a box: an error names the file and the reason. A file that stays as it is
+  // because it couldn't be read is no error, for that was told when it was noticed.
+  Status TrySaveCfg();
+  Status TrySaveSettings(std::string_view key);
   // SaveCfg, then the settings of the current game; the panel then counts as closed.
   void SaveAndMarkClosed();
 
@@ -154,6 +158,8 @@ class EmulatorPanel : public Window, private LaunchPanel {
 
   const EmulatorProfile& profile_;
   PanelTools tools_;
+  Store cfg_;
+  Store settings_;
   std::unique_ptr<ListMenu> menu_;
   QWidget* right_edge_;
   QWidget* bottom_edge_;

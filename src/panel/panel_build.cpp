@@ -26,7 +26,9 @@ constexpr TwipRect kButtonSize{0, 0, 705, 315};
 EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, PanelTools tools)
     : Window(WindowFrame::kNone, ControlName(profile, "frm")),
       profile_(profile),
-      tools_(std::move(tools)) {
+      tools_(std::move(tools)),
+      cfg_(CfgStoreOf(tools_.files, tools_.app, profile)),
+      settings_(SettingsStoreOf(tools_.files, tools_.app, profile)) {
   Build();
   Wire();
   Load();

@@ -5,7 +5,7 @@
 namespace zarvo {
 namespace {
 
-constexpr std::size_t kLargestFile = std::size_t{1} << 30;
+constexpr std::size_t kLargestFile = std::size_t{64} << 20;
 constexpr std::size_t kFirstPiece = std::size_t{64} * 1024;
 
 }  // namespace
@@ -15,29 +15,17 @@ Result<std::string> ReadAll(const DosFiles& files, std::string_view path) {
   if (!source) return source.error();
   std::string bytes;
   std::size_t used = 0;
-  for (;;) {
+  // A file may grow after it was opened.
+  while (used <= kLargestFile && (*source)->Size() <= kLargestFile) {
     if (used == bytes.size()) bytes.resize(std::max(kFirstPiece, used * 2));
     const std::size_t read = (*source)->Read(bytes.data() + used, bytes.size() - used);
-    if (read == 0) break;
     used += read;
-    if (used > kLargestFile) return Error{"File too large"};
+    if (read != 0) continue;
+    if ((*source)->Failed()) return Error{"The file could not be read to its end"};
+    bytes.resize(used);
+    return bytes;
   }
-  if ((*source)->Failed()) return Error{"The file could not be read to its end"};
-  bytes.resize(used);
-  return bytes;
-}
-
-Result<std::string> ReadReplaceable(DosFiles& files, std::string_view path,
-                                    std::string_view temporary) {
-  if (files.FileExists(temporary)) {
-    if (files.FileExists(path)) {
-      Ignore(files.DeleteFile(temporary));
-    } else {
-      const Status renamed = files.RenameFile(temporary, path);
-      if (!renamed) return renamed.error();
-    }
-  }
-  return ReadAll(files, path);
+  return Error{"The file is larger than 64 MiB"};
 }
 
 }  // namespace zarvo

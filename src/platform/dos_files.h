@@ -24,6 +24,8 @@ class ByteSource {
   virtual std::size_t Read(char* buffer, std::size_t size) = 0;
   // True after a read error: what was read isn't the whole file.
   [[nodiscard]] virtual bool Failed() const { return false; }
+  // In bytes when it was opened; 0 if that isn't known.
+  [[nodiscard]] virtual std::uint64_t Size() const { return 0; }
 };
 
 struct FolderEntry {
@@ -54,15 +56,19 @@ class DosFiles {
   [[nodiscard]] virtual Result<std::vector<FolderEntry>> ListFolder(
       std::string_view path) const = 0;
 
+  // Plain files alone. The error tells if there is no such file; a link that leads nowhere is there
+  // and can't be read.
   [[nodiscard]] virtual Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const = 0;
 
   // All that write or delete refuse a file that the player made read-only.
 
-  // Writes a file new; an older one is emptied first. Not safe against a full disk: for work files.
+  // Makes a file anew, for work files: one of this name, or a link, is removed first, so that
+  // nothing is ever written through it. A file that couldn't be written whole is removed.
   virtual Status WriteFile(std::string_view path, std::string_view bytes) = 0;
   // Gives `path` the new content or leaves it as it was: the bytes go to `temporary`, are flushed
   // to the disk and take the name in one rename. A file that couldn't be replaced keeps its old
-  // content, and no temporary file stays behind.
+  // content, and no temporary file stays behind. A link to a plain file stays, and that file is
+  // replaced; what is or leads to anything else is refused.
   virtual Status ReplaceFile(std::string_view path, std::string_view temporary,
                              std::string_view bytes) = 0;
   // Never overwrites: fails if `to` exists. A copy that breaks off is removed.
@@ -78,13 +84,8 @@ class DosFiles {
   [[nodiscard]] virtual Result<std::string> HostPath(std::string_view path) const = 0;
 };
 
-// The whole content of a file. Fails like Open, for a read error and for a file of more than 1 GiB.
+// The whole content of a file. Fails like Open, for a read error, and for a file of more than
+// 64 MiB before it is read.
 Result<std::string> ReadAll(const DosFiles& files, std::string_view path);
-
-// ReadAll for a file that ReplaceFile writes. If the file is missing and its temporary file was
-// left behind by a run that was cut off, the temporary file takes its place first; beside a file
-// that is there it is deleted.
-Result<std::string> ReadReplaceable(DosFiles& files, std::string_view path,
-                                    std::string_view temporary);
 
 }  // namespace zarvo

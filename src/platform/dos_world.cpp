@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -21,12 +20,14 @@
 namespace zarvo {
 namespace {
 
-constexpr unsigned kNewFileMode = 0666;
-constexpr unsigned kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-
 class HostSource : public ByteSource {
  public:
   explicit HostSource(FileHandle file) : file_(std::move(file)) {}
+
+  [[nodiscard]] std::uint64_t Size() const override {
+    struct stat state {};
+    return fstat(file_.get(), &state) == 0 ? static_cast<std::uint64_t>(state.st_size) : 0;
+  }
 
   std::size_t Read(char* buffer, std::size_t size) override {
     const long count = ReadSome(file_.get(), buffer, size);
@@ -46,12 +47,6 @@ bool IsSayable(std::string_view name) {
   return !name.empty() && std::none_of(name.begin(), name.end(), [&](char c) {
     return static_cast<unsigned char>(c) < ' ' || kRefused.find(c) != std::string_view::npos;
   });
-}
-
-// The kind of a file, behind a link, or 0 if there is none.
-mode_t ModeOf(const std::string& host_path) {
-  struct stat state {};
-  return stat(host_path.c_str(), &state) == 0 ? state.st_mode : 0;
 }
 
 // Also true for a link that leads nowhere: the name is taken.
@@ -79,37 +74,20 @@ bool WalkFolder(const std::string& host_folder, const std::function<bool(const d
 }
 
 // The host's spelling of a name that stands there in other letters. Of several the first in the
-// order of bytes, so that the answer doesn't depend on the order of the folder.
-std::optional<std::string> FindNoCase(const std::string& host_folder, std::string_view name) {
+// order of bytes, so that the answer doesn't depend on the order of the folder. A folder that is
+// closed to the player holds none; one that can't be read for another reason leaves it open.
+Result<std::optional<std::string>> FindNoCase(const std::string& host_folder,
+                                              std::string_view name) {
   std::optional<std::string> found;
-  WalkFolder(host_folder, [&](const dirent& entry) {
+  const bool read = WalkFolder(host_folder, [&](const dirent& entry) {
     const auto said = FromUtf8(entry.d_name);
     if (said && EqualNoCase(*said, name) && (!found || *found > entry.d_name)) {
       found = entry.d_name;
     }
     return true;
   });
+  if (!read && errno != ENOENT && errno != ENOTDIR && errno != EACCES) return LastError();
   return found;
-}
-
-// DOS refuses to write or delete a file without a write bit, also where the host would do it: root
-// may write anything, and a rename asks only for the folder.
-Status CheckWritable(const std::string& host_path) {
-  const mode_t mode = ModeOf(host_path);
-  if (mode == 0) return Success();
-  if (S_ISDIR(mode)) return SystemError(EISDIR);
-  if ((mode & kAnyWrite) == 0) return SystemError(EACCES);
-  if (faccessat(AT_FDCWD, host_path.c_str(), W_OK, AT_EACCESS) != 0) return LastError();
-  return Success();
-}
-
-// Where a link leads, so that replacing a file keeps the link; other paths as they are.
-std::string BehindLinks(const std::string& host_path) {
-  struct stat state {};
-  if (lstat(host_path.c_str(), &state) != 0 || !S_ISLNK(state.st_mode)) return host_path;
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(host_path.c_str(), nullptr),
-                                                         &std::free);
-  return real == nullptr ? host_path : std::string(real.get());
 }
 
 Status CopyBytes(int from, int to) {
@@ -174,8 +152,9 @@ Result<std::string> DosWorld::HostPath(std::string_view path) const {
     std::string next = JoinHostPath(host, ToUtf8(component));
     if (exists && !IsTaken(next)) {
       const auto spelling = FindNoCase(host, component);
-      exists = spelling.has_value();
-      if (spelling) next = JoinHostPath(host, *spelling);
+      if (!spelling) return spelling.error();
+      exists = spelling->has_value();
+      if (exists) next = JoinHostPath(host, **spelling);
     }
     host = std::move(next);
   }
@@ -193,7 +172,7 @@ Status DosWorld::ChangeFolder(std::string_view path) {
   const auto host = HostPath(path);
   if (!host) return host.error();
   const mode_t mode = ModeOf(*host);
-  if (mode == 0) return SystemError(ENOENT);
+  if (mode == 0) return LastError();
   if (!S_ISDIR(mode)) return SystemError(ENOTDIR);
 
   // With the host's spelling, so that later names are found at the first try.
@@ -255,39 +234,16 @@ Result<std::unique_ptr<ByteSource>> DosWorld::Open(std::string_view path) const 
 Status DosWorld::WriteFile(std::string_view path, std::string_view bytes) {
   const auto host = HostPath(path);
   if (!host) return host.error();
-  Status writable = CheckWritable(*host);
-  if (!writable) return writable;
-  FileHandle file(
-      open(host->c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
-  if (!file.ok()) return LastError();
-  Status written = WriteAll(file.get(), bytes);
-  return written ? file.Close() : written;
+  return MakeFileAnew(*host, bytes);
 }
 
 Status DosWorld::ReplaceFile(std::string_view path, std::string_view temporary,
                              std::string_view bytes) {
-  const auto named = HostPath(path);
+  const auto host = HostPath(path);
   const auto beside = HostPath(temporary);
-  if (!named) return named.error();
+  if (!host) return host.error();
   if (!beside) return beside.error();
-  const std::string target = BehindLinks(*named);
-  const std::string fresh =
-      target == *named ? *beside : JoinHostPath(HostFolder(target), HostName(*beside));
-  Status writable = CheckWritable(target);
-  if (!writable) return writable;
-
-  if (unlink(fresh.c_str()) != 0 && errno != ENOENT) return LastError();
-  Status written = CreateFile(fresh, bytes, kNewFileMode, true);
-  if (!written) return written;
-  const mode_t old_mode = ModeOf(target);
-  if ((old_mode != 0 && chmod(fresh.c_str(), old_mode & 07777) != 0) ||
-      std::rename(fresh.c_str(), target.c_str()) != 0) {
-    const Error error = LastError();
-    unlink(fresh.c_str());
-    return error;
-  }
-  FlushFolder(HostFolder(target));
-  return Success();
+  return ReplacePlainFile(*host, *beside, bytes);
 }
 
 Status DosWorld::CopyFile(std::string_view from, std::string_view to) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/dos_files.h"
 
@@ -20,8 +21,11 @@ class DosWorld : public DosFiles {
   // of `drives.ini` that isn't understood, or if no drive reaches `program_folder`.
   static Result<DosWorld> ForProgramFolder(const std::string& program_folder);
 
-  // Lines "C = folder", absolute or relative to `program_folder`; ";" begins a comment.
-  static Result<DriveTable> ParseDrives(std::string_view text, const std::string& program_folder);
+  // Lines "C = folder", absolute, relative to `program_folder`, or with "~" for the player's home
+  // folder; ";" begins a comment. A drive whose folder isn't there gets a sentence in `missing`: it
+  // may be a disc that comes later.
+  static Result<DriveTable> ParseDrives(std::string_view text, const std::string& program_folder,
+                                        std::vector<std::string>& missing);
 
   explicit DosWorld(DriveTable drives);
 
@@ -31,6 +35,9 @@ class DosWorld : public DosFiles {
 
   // The host folder of a drive.
   [[nodiscard]] Result<std::string> DriveFolder(char letter) const;
+
+  // What the player should know of drives whose folders aren't there, a line each; mostly empty.
+  [[nodiscard]] const std::string& MissingFolders() const { return missing_folders_; }
 
   Status ChangeDrive(char letter) override;
   Status ChangeFolder(std::string_view path) override;
@@ -54,6 +61,7 @@ class DosWorld : public DosFiles {
   [[nodiscard]] std::string FullPath(std::string_view path) const;
 
   DriveTable drives_;
+  std::string missing_folders_;
   std::map<char, std::string> folders_;  // the current folder of each drive, full path
   char drive_ = 'C';
 };

@@ -1,5 +1,6 @@
 // The table of drives: `drives.ini`, and which drive a path of the host belongs to.
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -21,19 +22,23 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Text of the host for a message, which is Windows-1252.
+// Text of the host for a message, which is Windows-1252: at most 200 characters.
 std::string ForMessage(std::string_view host_text) {
-  if (auto said = FromUtf8(host_text)) return *said;
-  std::string ascii(host_text);
-  std::replace_if(
-      ascii.begin(), ascii.end(), [](char c) { return static_cast<signed char>(c) < 0; }, '?');
-  return ascii;
+  constexpr std::size_t kMostQuoted = 200;
+  const auto exact = FromUtf8(host_text);
+  std::string said = (exact ? *exact : std::string(host_text)).substr(0, kMostQuoted);
+  const std::size_t whole = exact ? exact->size() : host_text.size();
+  for (char& c : said) {
+    const bool is_control = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+    if (is_control || (!exact && static_cast<signed char>(c) < 0)) c = '?';
+  }
+  return whole > said.size() ? said + "..." : said;
 }
 
 std::string Quoted(std::string_view host_text) { return '"' + ForMessage(host_text) + '"'; }
 
-Error LineError(int line, const std::string& what) {
-  return Error{"Line " + std::to_string(line) + " of " + std::string(kDrivesFile) + " " + what};
+std::string LineText(int line, const std::string& what) {
+  return "Line " + std::to_string(line) + " of " + std::string(kDrivesFile) + " " + what;
 }
 
 // Absolute, without ".", ".." and a slash at the end.
@@ -72,7 +77,22 @@ std::optional<std::pair<char, std::string_view>> ParseDrive(std::string_view lin
   return std::pair(letter, folder);
 }
 
-Result<DosWorld::DriveTable> ReadDrives(const std::string& program_folder) {
+// The folder of a line: absolute, below the player's home folder ("~", "~/dos"), or below the
+// program's.
+std::string FolderOf(std::string_view said, const std::string& program_folder) {
+  const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
+  const bool at_home = said == "~" || said.starts_with("~/");
+  if (!at_home || home == nullptr) return Normal(std::filesystem::path(program_folder) / said);
+  return Normal(std::string(home) + "/" + std::string(said.substr(1)));
+}
+
+bool IsFolder(const std::string& path) {
+  std::error_code failure;
+  return std::filesystem::is_directory(path, failure);
+}
+
+Result<DosWorld::DriveTable> ReadDrives(const std::string& program_folder,
+                                        std::vector<std::string>& missing) {
   const DosWorld here({{'C', program_folder}});
   if (!here.FileExists(kDrivesFile)) {
     return DosWorld::DriveTable{{'C', HostFolder(program_folder)}, {'H', "/"}};
@@ -81,13 +101,24 @@ Result<DosWorld::DriveTable> ReadDrives(const std::string& program_folder) {
   if (!text) {
     return Error{std::string(kDrivesFile) + " can't be read: " + text.error().message};
   }
-  return DosWorld::ParseDrives(*text, program_folder);
+  return DosWorld::ParseDrives(*text, program_folder, missing);
+}
+
+// The first ten sentences, a line each.
+std::string Listed(const std::vector<std::string>& sentences) {
+  constexpr std::size_t kMostListed = 10;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(sentences.size(), kMostListed); ++i) {
+    text += sentences[i] + "\r";
+  }
+  return sentences.size() > kMostListed ? text + "...\r" : text;
 }
 
 }  // namespace
 
 Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
-                                                   const std::string& program_folder) {
+                                                   const std::string& program_folder,
+                                                   std::vector<std::string>& missing) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   DriveTable drives;
@@ -99,14 +130,18 @@ Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
 
     const auto drive = ParseDrive(line);
     if (!drive) {
-      return LineError(number, "isn't understood: " + Quoted(line) +
-                                   ". A line has a drive letter, an equals sign and a folder, "
-                                   "like C = /home/me/dos");
+      return Error{LineText(number, "isn't understood: " + Quoted(line) +
+                                        ". A line has a drive letter, an equals sign and a "
+                                        "folder, like C = /home/me/dos")};
     }
     const auto [letter, folder] = *drive;
-    const std::string absolute = Normal(std::filesystem::path(program_folder) / folder);
+    const std::string absolute = FolderOf(folder, program_folder);
     if (!drives.emplace(letter, absolute).second) {
-      return LineError(number, std::string("gives drive ") + letter + " a second folder.");
+      return Error{LineText(number, std::string("gives drive ") + letter + " a second folder.")};
+    }
+    if (!IsFolder(absolute)) {
+      missing.push_back(
+          LineText(number, "names the folder " + Quoted(absolute) + ", which isn't there."));
     }
   }
   if (drives.empty()) return Error{std::string(kDrivesFile) + " names no drive."};
@@ -115,13 +150,15 @@ Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
 
 Result<DosWorld> DosWorld::ForProgramFolder(const std::string& program_folder) {
   const std::string folder = Normal(program_folder);
-  auto drives = ReadDrives(folder);
+  std::vector<std::string> missing;
+  auto drives = ReadDrives(folder, missing);
   if (!drives) return drives.error();
   DosWorld world(std::move(*drives));
+  world.missing_folders_ = Listed(missing);
   const auto path = world.DosPathOf(folder);
   if (!path) {
-    return Error{path.error().message + " Give a drive for it in " + std::string(kDrivesFile) +
-                 "."};
+    return Error{world.missing_folders_ + path.error().message + " Give a drive for it in " +
+                 std::string(kDrivesFile) + "."};
   }
   Ignore(world.ChangeDrive(path->front()));
   const Status changed = world.ChangeFolder(*path);

@@ -10,6 +10,7 @@ namespace zarvo {
 // Why something failed, in words that can be shown to the player ("No such file or directory").
 struct Error {
   std::string message;
+  bool missing = false;  // what was asked for doesn't exist; any other failure leaves that open
 };
 
 template <typename T>

@@ -74,14 +74,9 @@ TEST_F(GameList, WithoutTheFileOfItsStateTheListStaysAsItWas) {
 
 TEST_F(GameList, AvailableAndMissingReadTheScanFileAlone) {
   PutScan(Bytes("'Zeta;Y'|'Beta;N'|'alpha;Y'\n''||'|'No mark'|'Lower;y'|") +
-          "'Odd;more;Y'\r\n\"Unended;N");
+          "'Odd;more;Y'\r\n'Yie Ar;Y;N'\r\n\"Unended;N");
   EXPECT_EQ(Filled(GameState::kAvailable), "alpha,Odd,Zeta,");
-  EXPECT_EQ(Filled(GameState::kMissing), "Beta,");
-}
-
-TEST_F(GameList, TakesAScanFileWhoseReplacementWasCutOff) {
-  files_.Put(R"(C:\Zarvo\cfg\Mamescn.tmp)", "\"A;Y\"\r\n");
-  EXPECT_EQ(Filled(GameState::kAvailable), "A,");
+  EXPECT_EQ(Filled(GameState::kMissing), "Beta,Yie Ar,") << "the mark is the last character";
 }
 
 TEST_F(GameList, FilteringKeepsTheGamesWithTheValue) {
@@ -161,6 +156,9 @@ TEST_F(GameList, FilteringWithAFileThatCantBeUsedLeavesTheListAsItWas) {
   files_.fail_writes = false;
   files_.breaks_off = "Mame.dat";
   EXPECT_EQ(filtered(), "A,B,") << "a data file that breaks off";
+  files_.breaks_off = "tofilter.tmp";
+  EXPECT_EQ(filtered(), "A,B,") << "a work file that breaks off";
+  EXPECT_FALSE(files_.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ class MemoryFiles : public DosFiles {
     return Success();
   }
   Status ChangeFolder(std::string_view path) override {
-    if (!FolderExists(path)) return Error{"No such folder"};
+    if (!FolderExists(path)) return Error{"No such folder", true};
     current_ = Key(path);
     return Success();
   }
@@ -68,7 +68,7 @@ class MemoryFiles : public DosFiles {
   [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const override {
     opened.emplace_back(path);
     const auto found = files_.find(Key(path));
-    if (found == files_.end()) return Error{"No such file"};
+    if (found == files_.end()) return Error{"No such file", true};
     return std::unique_ptr<ByteSource>(
         std::make_unique<MemorySource>(found->second, path == breaks_off));
   }

@@ -18,9 +18,9 @@ using testing::MatchesRegex;
 class ImportProgram : public testing::Test {
  protected:
   // Runs `zarvo-import` with the words of a shell's line and gives its exit status.
-  int Run(const std::string& words) {
-    const std::string line =
-        "cd " + folder_.string() + " && " + ZARVO_IMPORT_PROGRAM + " " + words + " 2>errors.txt";
+  int Run(const std::string& words, const std::string& before = "") {
+    const std::string line = "cd " + folder_.string() + " && " + before + ZARVO_IMPORT_PROGRAM +
+                             " " + words + " 2>errors.txt";
     const int status = std::system(line.c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
@@ -69,6 +69,12 @@ TEST_F(ImportProgram, StatusTellsWrongUseFromAFailedWrite) {
   EXPECT_EQ(Run("-o nowhere/out.dat " + list_), 3);
   EXPECT_THAT(Said(), HasSubstr("can't write nowhere/out.dat: No such file"));
   EXPECT_EQ(Run("-o . " + list_), 3);
+  std::ofstream(folder_ / "out.dat") << "old";
+  std::ofstream(folder_ / "out.dat.tmp") << "half, of a run that was killed";
+  EXPECT_EQ(Run("-o out.dat " + list_, "trap '' XFSZ; ulimit -f 1; "), 3);
+  EXPECT_THAT(Said(), HasSubstr("can't write out.dat: File too large"));
+  EXPECT_EQ(Output(), "old");
+  EXPECT_EQ(FileCount(), 2) << "a temporary file stayed behind";
   EXPECT_EQ(Run(list_ + " > /dev/full"), 3);
   EXPECT_EQ(Run("--help > out.dat"), 0);
   EXPECT_THAT(Output(), testing::StartsWith("Usage: zarvo-import"));

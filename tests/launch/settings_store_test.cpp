@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/app_in.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 #include "platform/in_brief.h"
@@ -15,10 +16,7 @@ constexpr std::string_view kTemporary = R"(C:\Zarvo\cfg\Raineset.tmp)";
 // Raine's record is the shortest: rom folder, three lists, two check boxes.
 class SettingsStore : public testing::Test {
  protected:
-  SettingsStore() {
-    app_.ProgramFolder = "C:\\Zarvo";
-    app_.RomPathOf(Emulator::kRaine) = "C:\\Mine";
-  }
+  SettingsStore() { app_.RomPathOf(Emulator::kRaine) = "C:\\Mine"; }
 
   static OptionValues Values(std::string folder, std::initializer_list<int> numbers) {
     OptionValues values{.rom_folder = std::move(folder), .values = {}};
@@ -29,7 +27,7 @@ class SettingsStore : public testing::Test {
   // Loads into a page of "C:\Page 8 9 16 1 1"; gives outcome and page: "record C:\A 1 2 3 1 0".
   std::string Load(std::string_view key) {
     OptionValues page = Values("C:\\Page", {8, 9, 16, 1, 1});
-    const LoadOutcome outcome = LoadSettings(drive_.files(), app_, raine_, key, page);
+    const LoadOutcome outcome = LoadSettings(store_, app_, raine_, key, page);
     EXPECT_EQ(app_.SettingsFound, outcome == LoadOutcome::kRecord);
     std::string text = outcome == LoadOutcome::kRecord     ? "record "
                        : outcome == LoadOutcome::kDefaults ? "defaults "
@@ -40,14 +38,16 @@ class SettingsStore : public testing::Test {
   }
   // Saves the record of the key, which ends in 'C:\R',1,2,3,0,1.
   Status Save(std::string_view key, DosFiles& files) {
-    return SaveSettings(files, app_, raine_, key, Values("C:\\R", {1, 2, 3, 0, 1}));
+    Store store = SettingsStoreOf(files, app_, raine_);
+    return SaveSettings(store, raine_, key, Values("C:\\R", {1, 2, 3, 0, 1}));
   }
   Status Save(std::string_view key) { return Save(key, drive_.files()); }
   void Write(std::string_view path, std::string_view text) { drive_.Write(path, Bytes(text)); }
 
   TempDrive drive_;
-  AppState app_;
+  AppState app_ = AppIn("C:\\Zarvo");
   const EmulatorProfile& raine_ = ProfileOf(Emulator::kRaine);
+  Store store_ = SettingsStoreOf(drive_.files(), app_, raine_);
 };
 
 TEST_F(SettingsStore, WritesTheRecordsOfAllEmulatorsAsTold) {
@@ -76,9 +76,10 @@ TEST_F(SettingsStore, EveryFieldOfEveryEmulatorComesBack) {
       const int last = static_cast<int>(options[i].items.size()) - 1;
       if (options[i].kind == OptionKind::kCombo) values.values[i].number = i % 2 == 0 ? last : -1;
     }
-    ASSERT_TRUE(SaveSettings(drive_.files(), app_, profile, "Game", values));
+    Store store = SettingsStoreOf(drive_.files(), app_, profile);
+    ASSERT_TRUE(SaveSettings(store, profile, "Game", values));
     OptionValues read;
-    ASSERT_EQ(LoadSettings(drive_.files(), app_, profile, "Game", read), LoadOutcome::kRecord);
+    ASSERT_EQ(LoadSettings(store, app_, profile, "Game", read), LoadOutcome::kRecord);
     EXPECT_EQ(RecordLine(profile, "Game", read), RecordLine(profile, "Game", values));
   }
 }
@@ -94,6 +95,7 @@ TEST_F(SettingsStore, LoadsTheRecordOfTheKeyOrTheDefaults) {
       {"'Pac-Man','C:\\A',1,2,3,1,0|", "defaults C:\\Mine 0 0 0 0 0"},
       {"", "defaults C:\\Mine 0 0 0 0 0"},
       {"'[DEFAULT]','C:\\D',4,4,4,0,1|'Q','C:\\A',1,2,3,1,0|", "record C:\\D 4 4 4 0 1"},
+      {"'[DEFAULT]','C:\\D',4,4,4,0,1|'[DEFAULT]','C:\\E',1,1,1,1,1|", "record C:\\D 4 4 4 0 1"},
       {"'[DEFAULT]','C:\\D',4,4,4,0,1||'Pac','',1|", "nothing C:\\Page 8 9 16 1 1"},
       {"'Pac','C:\\A',1,2,3,1,0||", "record C:\\A 1 2 3 1 0"},
       {"'Pac','C:\\A',-1,-1,-1,1,0|", "record C:\\A -1 -1 -1 1 0"},
@@ -117,11 +119,15 @@ TEST_F(SettingsStore, PlaybackIsClearedWithoutARecordAndLeftAloneWithOne) {
   const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
   OptionValues values = DefaultValues(mame, "C:\\R");
   const std::size_t playback = OptionIndex(Emulator::kMame, "chkPlayback");
-  ASSERT_TRUE(SaveSettings(drive_.files(), app_, mame, "Known", values));
+  Store store = SettingsStoreOf(drive_.files(), app_, mame);
+  ASSERT_TRUE(SaveSettings(store, mame, "Known", values));
+  drive_.Write("C:\\Zarvo\\cfg\\Mame.set", RecordLine(mame, "Known", values) + ",1\r\n");
+  LoadSettings(store, app_, mame, "Known", values);
+  EXPECT_EQ(values.values[playback].number, 0) << "a record never turns it on";
   values.values[playback].number = 1;
-  LoadSettings(drive_.files(), app_, mame, "Known", values);
+  LoadSettings(store, app_, mame, "Known", values);
   EXPECT_EQ(values.values[playback].number, 1);
-  LoadSettings(drive_.files(), app_, mame, "Unknown", values);
+  LoadSettings(store, app_, mame, "Unknown", values);
   EXPECT_EQ(values.values[playback].number, 0);
 }
 
@@ -148,7 +154,7 @@ TEST_F(SettingsStore, SavesInPlaceOrAtTheEndAndLeavesAllOtherBytesAlone) {
 
 TEST_F(SettingsStore, ApplyToAllLeavesOneDefaultRecordThatServesEveryGame) {
   Write(kStore, "'A','C:\\A',5,6,7,1,0|");
-  ASSERT_TRUE(SaveAsDefault(drive_.files(), app_, raine_, Values("C:\\D", {4, 4, 4, 1, 1})));
+  ASSERT_TRUE(SaveAsDefault(store_, raine_, Values("C:\\D", {4, 4, 4, 1, 1})));
   EXPECT_EQ(drive_.Read(kStore), Bytes("'[DEFAULT]','C:\\D',4,4,4,1,1|"));
   EXPECT_EQ(Load("A"), "record C:\\D 4 4 4 1 1");
   ASSERT_TRUE(Save("A"));
@@ -180,15 +186,6 @@ TEST_F(SettingsStore, AFailedSaveKeepsTheStoreAndNamesIt) {
     ASSERT_TRUE(Save("B"));
     EXPECT_EQ(drive_.Read(kStore), Bytes("'A','C:\\A',5,6,7,1,0|'B','C:\\R',1,2,3,0,1|"));
   }
-}
-
-TEST_F(SettingsStore, ALeftoverIsPickedUpOnlyIfTheStoreIsMissing) {
-  Write(kTemporary, "'A','C:\\A',5,6,7,1,0|");
-  EXPECT_EQ(Load("A"), "record C:\\A 5 6 7 1 0");
-  Write(kTemporary, "'A','C:\\Old',1,1,1,1,1|");
-  ASSERT_TRUE(Save("B"));
-  EXPECT_EQ(drive_.Read(kStore), Bytes("'A','C:\\A',5,6,7,1,0|'B','C:\\R',1,2,3,0,1|"));
-  EXPECT_FALSE(drive_.Exists(kTemporary));
 }
 
 }  // namespace

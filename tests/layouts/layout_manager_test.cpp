@@ -341,6 +341,24 @@ TEST_F(LayoutManagerTest, AFailedWriteIsToldAndTheListsShowTheFile) {
   EXPECT_THAT(Take(boxes_), ElementsAre("! zarvo.ini: No space left on device"));
 }
 
+TEST_F(LayoutManagerTest, WhatCantBeReadIsToldAndClosingLeavesIt) {
+  constexpr std::string_view kStays =
+      "|zarvo.ini stays as it is, and what you change isn't saved in it until it can be read.";
+  const std::string ini = Ini(1, 1, "Night");
+  for (const std::string file : {"layouts.dat", "zarvo.ini"}) {
+    files_.Fail(FileStep::kOpen, file, "Input/output error");
+    LayoutManager& manager = Open(kTwoLayouts, ini);
+    const std::string told = "! " + file + ": Input/output error";
+    EXPECT_THAT(Take(boxes_), ElementsAre(told));
+    files_.Heal();
+    manager.cmdOk->click();
+    EXPECT_THAT(Take(boxes_), ElementsAre(told + std::string(kStays)));
+    EXPECT_EQ(drive_.Read(R"(C:\Zarvo\zarvo.ini)"), ini);
+    EXPECT_EQ(Look(Open()),
+              "top autoload default Evening|Night; Evening; Night; MAME|RAINE; Large|Small");
+  }
+}
+
 TEST_F(LayoutManagerTest, TheWindowIsOutOfTheTopMostBandWhileTheDialogStands) {
   LayoutManager& manager = Open(kTwoLayouts, Ini(1, 0, ""));
   const auto on_top = [&] {

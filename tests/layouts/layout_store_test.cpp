@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fakes/app_in.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 
@@ -26,10 +27,8 @@ constexpr std::string_view kThree =
 
 class Layouts : public testing::Test {
  protected:
-  Layouts() { app_.ProgramFolder = "C:\\Zarvo"; }
-
   TempDrive drive_;
-  AppState app_;
+  AppState app_ = AppIn("C:\\Zarvo");
   LayoutStore store_{drive_.files(), app_};
 };
 

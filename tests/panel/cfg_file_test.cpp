@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fakes/app_in.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 
@@ -18,11 +19,13 @@ constexpr std::string_view kSample =
 
 class CfgFile : public testing::Test {
  protected:
-  CfgFile() { app_.ProgramFolder = "C:\\Zarvo"; }
-
+  CfgFields Read(Emulator emulator = Emulator::kMame) {
+    Store store = CfgStoreOf(drive_.files(), app_, ProfileOf(emulator));
+    return ReadCfg(store, ProfileOf(emulator));
+  }
   CfgFields Read(std::string_view text) {
     drive_.Write(kFile, text);
-    return ReadCfg(drive_.files(), app_, mame_);
+    return Read();
   }
   // The fields that were read, in the order of the file and with "|" behind each.
   static std::string Text(const CfgFields& fields) {
@@ -37,7 +40,8 @@ class CfgFile : public testing::Test {
   }
   [[nodiscard]] Status Write(DosFiles& files, std::vector<std::string> favourites,
                              Emulator emulator = Emulator::kMame) {
-    return WriteCfg(files, app_, ProfileOf(emulator),
+    Store store = CfgStoreOf(files, app_, ProfileOf(emulator));
+    return WriteCfg(store, ProfileOf(emulator),
                     {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
                      .rom_path = R"(C:\Emu\Mame\Roms)",
                      .snap_path = R"(C:\Emu\Snapshot\Mame)",
@@ -48,8 +52,7 @@ class CfgFile : public testing::Test {
   }
 
   TempDrive drive_;
-  AppState app_;
-  const EmulatorProfile& mame_ = ProfileOf(Emulator::kMame);
+  AppState app_ = AppIn("C:\\Zarvo");
 };
 
 TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
@@ -61,13 +64,13 @@ TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
 TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
   drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)",
                "\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\nx");
-  EXPECT_EQ(Text(ReadCfg(drive_.files(), app_, ProfileOf(Emulator::kM72))), "E|R|S|G|F|up|-");
+  EXPECT_EQ(Text(Read(Emulator::kM72)), "E|R|S|G|F|up|-");
   ASSERT_TRUE(Write(drive_.files(), {"R-Type"}, Emulator::kM72));
   EXPECT_EQ(drive_.Read("C:\\Zarvo\\cfg\\M72.cfg"), kSample);
 }
 
 TEST_F(CfgFile, AFileThatEndsEarlyGivesTheFieldsItHas) {
-  EXPECT_EQ(Text(ReadCfg(drive_.files(), app_, mame_)), "-|-|-|-|-|-|-") << "no file";
+  EXPECT_EQ(Text(Read()), "-|-|-|-|-|-|-") << "no file";
   EXPECT_EQ(Text(Read("")), "-|-|-|-|-|-|-");
   EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n")), "E|R|S|-|-|-|-");
   EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\n")), "E|R|S|G|F|up|");
@@ -102,7 +105,7 @@ TEST_F(CfgFile, WhatCanBeWrittenReadsBackTheSame) {
   for (const auto& [value, can] : rows) {
     EXPECT_EQ(CanBeWritten(value), can) << value;
     ASSERT_TRUE(Write(drive_.files(), {"before", value, "behind"}));
-    const auto favourites = ReadCfg(drive_.files(), app_, mame_).favourites;
+    const auto favourites = Read().favourites;
     ASSERT_EQ(favourites->size(), 3U) << value;
     EXPECT_EQ((*favourites)[1] == value, can) << value;
     EXPECT_EQ((*favourites)[2], "behind") << value;

@@ -153,8 +153,8 @@ TEST_F(SectionsTest, TheEndOfTheProgramSavesOpenPanelsInOrderAndALayoutClosesThe
 
 // One box for each file, whose old content stays.
 TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
   PutSettings(Emulator::kRaine, "\"old\",\"C:\\\",0,0,0,0,0\r\n");
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
   const std::string old_cfg = drive_.Read(CfgPath(Emulator::kRaine));
   files_.Fail(FileStep::kReplace, "");
   const std::vector<std::string> both = {"! Raine.cfg: No space left on device",
@@ -169,6 +169,52 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   EXPECT_THAT(TakeBoxes(), ElementsAre(both[0], testing::StartsWith("! [Warning! - No EXE")));
   EXPECT_EQ(drive_.Read(CfgPath(Emulator::kRaine)), old_cfg);
   EXPECT_EQ(Keys(Emulator::kRaine), "old|");
+}
+
+// Told once, and what is there is read by the next panel.
+TEST_F(SectionsTest, AFileThatCantBeReadKeepsWhatItHolds) {
+  constexpr std::string_view kStays =
+      " stays as it is, and what you change isn't saved in it until it can be read.";
+  PutCfg(Emulator::kMame, {"Zaxxon", "Aliens"});
+  PutSettings(Emulator::kMame, "\"Puck Man\",\"C:\\Mine\"\r\n");
+  const std::string cfg = drive_.Read(CfgPath(Emulator::kMame));
+  const std::string set = drive_.Read(SetPath(Emulator::kMame));
+  const auto box = [&](const std::string& file) {
+    return "! " + file + ": Input/output error|" + file + std::string(kStays);
+  };
+  files_.Fail(FileStep::kOpen, "Mame.cfg", "Input/output error");
+  files_.Fail(FileStep::kOpen, "Mame.set", "Input/output error");
+  EmulatorPanel& panel = Open(Emulator::kMame);
+  EXPECT_THAT(TakeBoxes(), ElementsAre(box("Mame.cfg"), box("Mame.set")));
+  panel.games->lstRom->SetListIndex(3);
+  Press(panel.imgButInfo);
+  EXPECT_THAT(TakeBoxes(), testing::IsEmpty());
+  files_.Heal();
+  Press(panel.picSettings->cmdDirRomDefault);  // reads the file's first lines, not its favourites
+  Press(panel.imgButHelp);
+  Press(panel.cmdExit);
+  EXPECT_EQ(drive_.Read(CfgPath(Emulator::kMame)), cfg);
+  EXPECT_EQ(drive_.Read(SetPath(Emulator::kMame)), set);
+
+  EmulatorPanel& again = Open(Emulator::kMame);
+  EXPECT_EQ(again.favourites->lstPref->ListCount(), 2);
+  again.favourites->Add("Metal Slug");
+  Press(again.cmdExit);
+  EXPECT_NE(drive_.Read(CfgPath(Emulator::kMame)), cfg);
+}
+
+TEST_F(SectionsTest, AStartThatCantReadTheOtherGamesRecordKeepsThisOnesSaves) {
+  PutSettings(Emulator::kRaine, "\"x\",\"C:\\\"\r\n");
+  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine, {"Bubble Bobble"});
+  files_.Fail(FileStep::kOpen, "Raine.set", "Input/output error", 0);
+  const ModalPlay<FilePicker> play([](FilePicker& picker) { picker.UnloadWindow(); });
+  panel.lblRomSettings->SetCaption("Rainbow Islands");
+  PressKey(panel.favourites->lstPref, Qt::Key_Return);
+  EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! Raine.set: Input/output error"),
+                                       testing::StartsWith("! [Warning! - No EXE")));
+  files_.Heal();
+  Press(panel.imgButInfo);
+  EXPECT_EQ(Keys(Emulator::kRaine), "x|Rainbow Islands|");
 }
 
 }  // namespace

@@ -269,7 +269,7 @@ TEST_F(StartTest, WhatThePickersWrite) {
   EXPECT_EQ(drive_.Read(CfgPath(Emulator::kCallus)),
             Lines({R"(C:\E\c.exe)", R"(C:\R)", R"(C:\S)", "GIF", R"(C:\E)", "up"}));
   EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
-  const std::string odd[] = {R"(C:\a,b)", R"(C:\a~b)", R"(C:\)" + std::string(90, 'x')};
+  const std::string odd[] = {R"(C:\a,b)", R"(C:\a~b)", R"(C:\)" + std::string(88, 'x')};
   for (const std::string& folder : odd) {
     sections_.SetRomFolder(Emulator::kCallus, folder);
     sections_.SetGameRomFolder(Emulator::kCallus, folder);
@@ -280,6 +280,9 @@ TEST_F(StartTest, WhatThePickersWrite) {
     EXPECT_EQ(panel.picConf->txtOptRomPath->Text(), R"(C:\R)");
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
   }
+  const std::string longest = R"(C:\)" + std::string(87, 'x');
+  sections_.SetGameRomFolder(Emulator::kCallus, longest);
+  EXPECT_EQ(panel.picSettings->txtRomPath->Text(), longest);
 }
 
 }  // namespace

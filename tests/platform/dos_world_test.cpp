@@ -12,6 +12,7 @@
 #include <set>
 
 #include "fakes/failing_files.h"
+#include "fakes/memory_files.h"
 #include "fakes/temp_drive.h"
 
 namespace zarvo {
@@ -34,6 +35,21 @@ std::string OnFullDisk(rlim_t bytes, const std::function<Status()>& step) {
   std::signal(SIGXFSZ, handler);
   return done.error().message;
 }
+
+// A world whose files say that they hold a byte more than is read whole.
+struct HugeFiles : DosWorld {
+  struct Source : ByteSource {
+    [[nodiscard]] std::uint64_t Size() const override { return (64 << 20) + 1; }
+    std::size_t Read(char* /*buffer*/, std::size_t /*size*/) override {
+      ADD_FAILURE() << "it is refused before it is read";
+      return 0;
+    }
+  };
+  using DosWorld::DosWorld;
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view /*path*/) const override {
+    return std::unique_ptr<ByteSource>(std::make_unique<Source>());
+  }
+};
 
 class DosWorldTest : public testing::Test {
  protected:
@@ -155,6 +171,12 @@ TEST_F(DosWorldTest, EveryByteIsWrittenAndReadOrTheReasonSaid) {
   EXPECT_FALSE(files_.WriteFile("Data", "x").ok());
   EXPECT_EQ(ReadAll(files_, "nofile").error().message, "No such file or directory");
   EXPECT_EQ(ReadAll(files_, "Data").error().message, "Is a directory");
+  fs::resize_file(root_ / "Zarvo/FILE", std::uintmax_t{2} << 30);
+  EXPECT_EQ(ReadAll(files_, "FILE").error().message, "The file is larger than 64 MiB");
+  EXPECT_FALSE(ReadAll(HugeFiles({{'C', root_}}), "file").ok());
+  MemoryFiles growing;  // which doesn't tell how large a file is
+  growing.Put("C:\\file", std::string((64 << 20) + 1, 'x'));
+  EXPECT_EQ(ReadAll(growing, "C:\\file").error().message, "The file is larger than 64 MiB");
   FailingFiles torn(files_);
   torn.Fail(FileStep::kRead, "file");
   EXPECT_FALSE(ReadAll(torn, "file").ok()) << "half a store must not pass for the whole";
@@ -191,6 +213,44 @@ TEST_F(DosWorldTest, AReplacementThatFailsKeepsTheOldFileAndNoTemporaryOne) {
   EXPECT_EQ(drive_.Read(cfg), "old");
 }
 
+TEST_F(DosWorldTest, NothingIsWrittenThroughALink) {
+  WriteHost(root_ / "outside", "mine");
+  for (const char* target : {"../outside", "nowhere", "/dev/full", "Data"}) {
+    fs::remove(root_ / "Zarvo/work.tmp");
+    fs::create_symlink(target, root_ / "Zarvo/work.tmp");
+    EXPECT_TRUE(files_.WriteFile("work.tmp", "work").ok()) << target;
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(root_ / "Zarvo/work.tmp"))) << target;
+    EXPECT_EQ(drive_.Read("work.tmp"), "work");
+
+    fs::remove(root_ / "Zarvo/Mame.tmp");
+    fs::create_symlink(target, root_ / "Zarvo/Mame.tmp");
+    EXPECT_EQ(Replace("work.tmp", "Mame.tmp", "new"), "done") << target;
+  }
+  EXPECT_EQ(drive_.Read("C:\\outside"), "mine");
+  EXPECT_EQ(OnFullDisk(1000, [&] { return files_.WriteFile("part", std::string(5000, 'n')); }),
+            "File too large");
+  EXPECT_FALSE(drive_.Exists("part"));
+}
+
+TEST_F(DosWorldTest, AStoreThatLeadsToNoPlainFileIsRefused) {
+  mkfifo((root_ / "pipe").c_str(), 0600);
+  const std::pair<const char*, const char*> rows[] = {
+      {"/dev/null", "It isn't a plain file"},
+      {"../pipe", "It isn't a plain file"},
+      {"Data", "Is a directory"},
+      {"nowhere", "It is a link that leads nowhere"}};
+  for (const auto& [target, reason] : rows) {
+    fs::create_symlink(target, root_ / "Zarvo/store");
+    EXPECT_EQ(Replace("store", "store.tmp", "new"), reason);
+    EXPECT_EQ(ReadAll(files_, "store").error().message, reason);
+    EXPECT_EQ(fs::read_symlink(root_ / "Zarvo/store"), target);
+    fs::remove(root_ / "Zarvo/store");
+  }
+  mkfifo((root_ / "Zarvo/store").c_str(), 0600);
+  EXPECT_EQ(Replace("store", "store.tmp", "new"), "It isn't a plain file");
+  EXPECT_TRUE(fs::is_fifo(root_ / "Zarvo/store"));
+}
+
 TEST_F(DosWorldTest, ReadOnlyFilesAreNeitherReplacedNorWrittenNorDeleted) {
   drive_.Write("cfg\\Mame.cfg", "mine");
   fs::permissions(drive_.Host("cfg\\Mame.cfg"), fs::perms(0444));
@@ -200,16 +260,6 @@ TEST_F(DosWorldTest, ReadOnlyFilesAreNeitherReplacedNorWrittenNorDeleted) {
   EXPECT_EQ(files_.DeleteFile("cfg\\mame.cfg").error().message, denied);
   EXPECT_EQ(drive_.Read("cfg\\Mame.cfg"), "mine");
   EXPECT_THAT(List("cfg"), ElementsAre("Mame.cfg"));
-}
-
-TEST_F(DosWorldTest, ALeftoverTemporaryFileTakesThePlaceOfAMissingStore) {
-  const auto read = [this] { return ReadReplaceable(files_, "cfg\\Mame.set", "cfg\\Mameset.tmp"); };
-  EXPECT_FALSE(read().ok());
-  for (const char* text : {"left over", "torn"}) {
-    drive_.Write("cfg\\Mameset.tmp", text);
-    EXPECT_EQ(read().value(), "left over");
-    EXPECT_THAT(List("cfg"), ElementsAre("Mame.set"));
-  }
 }
 
 TEST_F(DosWorldTest, CopyFileNeverOverwritesAndLeavesNoPart) {

@@ -14,13 +14,17 @@ using testing::HasSubstr;
 using testing::Pair;
 
 TEST(DriveTable, ReadsLettersAndFolders) {
+  const std::string home = std::getenv("HOME");
+  std::vector<std::string> missing;
   const auto drives = DosWorld::ParseDrives(
       "\xEF\xBB\xBF; my drives\r\nC = ..\r\n\r\n  d=/mnt/cd rom/ ; the disc\n"
-      "\tE\t=\troms/./arcade//\nY = /",
-      "/home/me/dos/Zarvo");
+      "\tE\t=\troms/./arcade//\nF = ~\nG = ~/dos/x\nI = ~me\nY = /",
+      "/home/me/dos/Zarvo", missing);
   ASSERT_TRUE(drives.ok()) << drives.error().message;
   EXPECT_THAT(*drives, ElementsAre(Pair('C', "/home/me/dos"), Pair('D', "/mnt/cd rom"),
-                                   Pair('E', "/home/me/dos/Zarvo/roms/arcade"), Pair('Y', "/")));
+                                   Pair('E', "/home/me/dos/Zarvo/roms/arcade"), Pair('F', home),
+                                   Pair('G', home + "/dos/x"), Pair('I', "/home/me/dos/Zarvo/~me"),
+                                   Pair('Y', "/")));
 }
 
 TEST(DriveTable, AMessageNamesTheLineThatIsWrong) {
@@ -36,8 +40,9 @@ TEST(DriveTable, AMessageNamesTheLineThatIsWrong) {
       {std::string("C = /a\0b", 8), "Line 1", "C = /a"},
       {"; none\n", "", "no drive"},
   };
+  std::vector<std::string> missing;
   for (const auto& [text, line, word] : cases) {
-    const auto drives = DosWorld::ParseDrives(text, "/p");
+    const auto drives = DosWorld::ParseDrives(text, "/p", missing);
     ASSERT_FALSE(drives.ok()) << text;
     EXPECT_THAT(drives.error().message, testing::AllOf(HasSubstr(line), HasSubstr(word)));
   }
@@ -60,10 +65,42 @@ TEST(ProgramFolder, ItsTableSaysWhatTheDrivesAre) {
   EXPECT_EQ(world->HostPath("E:\\a").value(), drive.Host("C:\\Emu\\a"));
 
   for (const auto& [table, message] : {std::pair("C = /\n?\n", "Line 2"),
+                                       {"C = /no/such\n",
+                                        "Line 1 of drives.ini names the folder "
+                                        "\"/no/such\", which isn't there."},
                                        {"C = ../Emu\n", "No drive reaches"},
                                        {"", "no drive"}}) {
     drive.Write("C:\\Zarvo\\drives.ini", table);
     EXPECT_THAT(DosWorld::ForProgramFolder(folder).error().message, HasSubstr(message)) << table;
+  }
+}
+
+TEST(ProgramFolder, ADriveWhoseFolderIsAwayIsToldAndKept) {
+  TempDrive drive;
+  const std::string folder = drive.Host("C:\\Zarvo");
+  drive.Write("C:\\Zarvo\\drives.ini", "C = ..\nE = /no/such\n");
+  const auto world = DosWorld::ForProgramFolder(folder);
+  ASSERT_TRUE(world.ok()) << world.error().message;
+  EXPECT_EQ(world->MissingFolders(),
+            "Line 2 of drives.ini names the folder \"/no/such\", which isn't there.\r");
+  EXPECT_THAT(world->Drives(), ElementsAre('C', 'E'));
+
+  std::string many = "C = ..\n";
+  for (char letter = 'D'; letter <= 'Z'; ++letter) many += std::string(1, letter) + " = /no/such\n";
+  drive.Write("C:\\Zarvo\\drives.ini", many);
+  EXPECT_THAT(DosWorld::ForProgramFolder(folder)->MissingFolders(),
+              testing::AllOf(HasSubstr("Line 11 "), testing::EndsWith("\r...\r"),
+                             testing::Not(HasSubstr("Line 12 "))));
+}
+
+TEST(ProgramFolder, WhatIsQuotedFromTheTableIsCut) {
+  TempDrive drive;
+  for (const std::string& line :
+       {std::string(1 << 20, '\0'), std::string(100000, 'x'), "C = /" + std::string(100000, 'x')}) {
+    drive.Write("C:\\Zarvo\\drives.ini", line);
+    const auto world = DosWorld::ForProgramFolder(drive.Host("C:\\Zarvo"));
+    EXPECT_LT(world.error().message.size(), 700U);
+    EXPECT_EQ(world.error().message.find('\0'), std::string::npos);
   }
 }
 

@@ -29,6 +29,15 @@ TEST(NameList, SortKeepsTheOrderOfEqualNames) {
   list.Clear();
   list.Append("new");
   EXPECT_EQ(Names(list), "new,");
+
+  // Enough that the sort doesn't go by insertion, which is stable by itself.
+  list.Clear();
+  for (int pair = 99; pair >= 0; --pair) {
+    list.Append("b" + std::to_string(pair));
+    list.Append(pair % 2 == 0 ? "A" : "a");
+  }
+  list.Sort();
+  for (int index = 0; index < 100; ++index) EXPECT_EQ(list.At(index), index % 2 == 0 ? "a" : "A");
 }
 
 TEST(NameList, AFullListStaysAsItIs) {
