@@ -1,15 +1,15 @@
 #!/bin/sh
-# How long zarvo-import takes against a bare count of line ends over the same list:
+# How long zarvo-import takes against a bare pass of expat over the same list:
 #
-#   bench/bench_import.sh build/release/zarvo-import list.xml
+#   bench/bench_import.sh build/bench/zarvo-import build/bench/bare_expat list.xml
 set -eu
 
-if [ $# -ne 2 ]; then
-  echo "Usage: bench/bench_import.sh ZARVO-IMPORT LIST" >&2
+if [ $# -ne 3 ]; then
+  echo "Usage: bench/bench_import.sh ZARVO-IMPORT BARE-EXPAT LIST" >&2
   exit 2
 fi
 
-# The shortest of seven runs, in milliseconds.
+# The shortest of seven runs, in hundredths of a millisecond.
 shortest() {
   best=
   for run in 1 2 3 4 5 6 7; do
@@ -21,9 +21,11 @@ shortest() {
   echo "$best"
 }
 
-bare=$(shortest wc -l "$2")
-import=$(shortest "$1" --quiet --arcade --years 1975-1999 "$2")
+bare=$(shortest "$2" "$3")
+import=$(shortest "$1" --quiet --arcade --years 1975-1999 "$3")
 awk -v bare="$bare" -v import="$import" 'BEGIN {
-  printf "import %.1f ms, bare pass %.1f ms, ratio %.1f (target 5)\n",
-         import / 100, bare / 100, import / bare
+  ratio = import / bare
+  printf "import %.0f ms, bare pass %.0f ms, ratio %.2f (target 1.5)\n",
+         import / 100, bare / 100, ratio
+  exit ratio > 1.5
 }'

@@ -15,16 +15,12 @@ namespace zarvo {
 // memory that any input can claim.
 inline constexpr std::size_t kLongestToken = 1U << 20;
 
-// Line feeds in `size` bytes.
-std::size_t CountLineFeeds(const char* bytes, std::size_t size);
-
 class InputWindow {
  public:
   // `source` must outlive the window.
   explicit InputWindow(ByteSource& source);
 
-  // The bytes not yet consumed. At least 64 readable bytes of zero follow End(), so that a block
-  // can be loaded at any place before it.
+  // The bytes not yet consumed.
   [[nodiscard]] const char* Begin() const { return buffer_.get() + begin_; }
   [[nodiscard]] const char* End() const { return buffer_.get() + end_; }
   [[nodiscard]] std::string_view Rest() const { return {Begin(), end_ - begin_}; }

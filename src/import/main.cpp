@@ -3,14 +3,17 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <functional>
 
 #include "import/catalogue_builder.h"
 #include "import/data_file_writer.h"
 #include "import/import_options.h"
 #include "import/list_reader.h"
+#include "platform/host_file.h"
 
 namespace zarvo {
 namespace {
@@ -24,48 +27,54 @@ int Complain(ExitStatus status, const std::string& message) {
   return status;
 }
 
-// The list's bytes from a descriptor; tells how far it is while somebody looks on.
+// The list's bytes from a descriptor; tells how far it is while somebody looks on and waits.
 class ListSource : public ByteSource {
  public:
-  ListSource(int descriptor, bool shows_progress)
-      : descriptor_(descriptor), shows_progress_(shows_progress) {}
+  // `games` is asked for the number of games so far; empty if nobody looks on.
+  ListSource(int descriptor, std::function<std::size_t()> games)
+      : descriptor_(descriptor), games_(std::move(games)) {}
 
   std::size_t Read(char* buffer, std::size_t size) override {
-    ssize_t got = 0;
-    do {
-      got = ::read(descriptor_, buffer, size);
-    } while (got < 0 && errno == EINTR);
-    if (got < 0) failure_ = std::strerror(errno);
+    const long got = ReadSome(descriptor_, buffer, size);
+    if (got < 0) failure_ = LastError().message;
     if (got <= 0) return 0;
     total_ += static_cast<std::size_t>(got);
-    if (shows_progress_) ShowProgress();
+    if (games_) ShowProgress();
     return static_cast<std::size_t>(got);
   }
+  [[nodiscard]] bool Failed() const override { return !failure_.empty(); }
 
   // Why reading ended before the end of the list; empty if it didn't.
   [[nodiscard]] const std::string& Failure() const { return failure_; }
   void ClearProgress() const {
-    if (shown_ != 0) Say("\r\033[K");
+    if (is_shown_) Say("\r\033[K");
   }
 
  private:
   void ShowProgress() {
-    constexpr std::size_t kStep = std::size_t{8} << 20;
-    if (total_ < shown_ + kStep) return;
-    shown_ = total_;
-    Say("\r" + std::to_string(total_ >> 20) + " MiB read");
+    constexpr std::chrono::milliseconds kStep{100};
+    const auto now = std::chrono::steady_clock::now();
+    if (now < next_) return;
+    next_ = now + kStep;
+    is_shown_ = true;
+    Say("\r" + std::to_string(games_()) + " games, " + std::to_string(total_ / 1'000'000) +
+        " MB read");
   }
 
   int descriptor_;
-  bool shows_progress_;
+  std::function<std::size_t()> games_;
   std::size_t total_ = 0;
-  std::size_t shown_ = 0;
+  bool is_shown_ = false;
+  std::chrono::steady_clock::time_point next_ =
+      std::chrono::steady_clock::now() + std::chrono::seconds(1);
   std::string failure_;
 };
 
 int Import(const ImportOptions& options, int descriptor) {
   CatalogueBuilder catalogue(options);
-  ListSource source(descriptor, !options.quiet && ::isatty(STDERR_FILENO) == 1);
+  const bool is_watched = !options.quiet && ::isatty(STDERR_FILENO) == 1;
+  ListSource source(descriptor, is_watched ? [&] { return catalogue.GameCount(); }
+                                           : std::function<std::size_t()>());
   const Status read = ReadList(source, catalogue);
   source.ClearProgress();
   const std::string shown = options.input == "-" ? "standard input" : options.input;

@@ -2,15 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
-#include "import/byte_block.h"
 #include "import/import_fixture.h"
-#include "import/mark_index.h"
 
 namespace zarvo {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 using testing::StartsWith;
@@ -70,7 +67,7 @@ TEST(ListReader, SaysWhereACutListEnds) {
         continue;
       }
       const auto line = 1 + std::count(read.begin(), read.end(), '\n');
-      ASSERT_THAT(error, MatchesRegex("line [0-9]+: .+")) << name << " " << size;
+      ASSERT_THAT(error, MatchesRegex("line [0-9]+(, column [0-9]+)?: .+")) << name << " " << size;
       EXPECT_LE(std::stol(error.substr(5)), line) << name << " " << size;
       // In a block a text that doesn't end is told by where it begins.
       EXPECT_TRUE(blocks || std::stol(error.substr(5)) == line) << error;
@@ -90,88 +87,43 @@ TEST(ListReader, RefusesWhatIsNoList) {
       {"game ( name a ) )", "line 1: a block such as"},
       {"game (\n description \"x\"\n)", "line 3: a game without a name"},
       {"emulator ( name x )", "line 1: there is no game"},
-      {"<html>", "line 1: <html> is no list of games"},
-      {"<mame></mame>", "there is no machine in the list"},
-      {"<mame></mame>" + std::string(300000, '\n'), "line 300001: there is no machine in the list"},
-      {"<mame>\n<machine/>\n</mame>", "line 2: a machine without a name"},
-      {"<mame>\n<machine name='a'>\n</game>", "line 3: </game>, but <machine> is open"},
-      {"<mame><machine name='a'/></mame>\n</mame>", "line 2: </mame>, but nothing is open"},
-      {"<mame><machine name='a'/></mame>\n<mame>", "line 2: a second list"},
-      {"<mame><machine name='a'/></mame>\nx", "line 2: the list ends in the middle of a tag"},
-      {"x<mame>", "line 1: \"(\" is expected"},
-      {"<mame>\n<machine name='a\n<b'/>", "line 2: \"<\" within the tag <machine>"},
-      {"<mame>\n<machine name=a>", "line 2: a broken attribute in <machine>"},
-      {"<mame>\n<machine name=\"a\"year=\"\">", "line 2: a broken attribute in <machine>"},
-      {"<mame>\n<machine name='&nbsp;'/>", "line 2: an entity that isn't known"},
-      {"<mame><machine name='a'>\n<year>&</year>", "line 2: an entity that isn't known"},
-      {"<mame><machine name='a'><year>&#0;</year>", "line 1: an entity that isn't known"},
-      {"<mame>\n< machine>", "line 2: \"<\" that begins no tag"},
-      {"<mame>\n<!ENTITY a \"b\">", "line 2: a declaration that isn't known here"},
-      {"<mame>\n<!DOCTYPE mame>", "line 2: a document type behind the first tag"},
-      {deep, "line 1: too many elements"},
+      {"<html>", "line 1, column 1: <html> is no list of games"},
+      {"<mame></mame>", "line 1, column 14: there is no machine in the list"},
+      {"<mame></mame>" + std::string(300000, '\n'),
+       "line 300001, column 1: there is no machine in the list"},
+      {"\n\n <mame>\n <machine/>\n</mame>", "line 4, column 2: a machine without a name"},
+      {"<mame>\n<machine name='a'>\n</game>", "line 3, column 3: mismatched tag"},
+      {"<mame><machine name='a'/></mame>\n<mame>", "line 2, column 1: junk after"},
+      {"<mame>\n<machine name=a>", "line 2, column 15: not well-formed"},
+      {"<mame>\n<machine name='&nbsp;'/>", "line 2, column 1: undefined entity"},
+      {"<mame>\n<rom name=\"x/>\n<rom name=\"y\"/>", "line 3, column 1: not well-formed"},
+      {"<mame>\n<machine name='a'><year>\xC0\xAF</year>", "line 2, column 25: not well-formed"},
+      {"<?xml version='1.0' encoding='koi8-r'?><mame/>", "line 1, column 31: unknown encoding"},
+      {"<!DOCTYPE mame [\n<!ENTITY a 'b'><!ENTITY c '&a;&a;'>]><mame>&c;</mame>",
+       "line 2, column 12: the list declares an entity"},
+      {"<!DOCTYPE mame [<!ENTITY a SYSTEM 'file:///etc/passwd'>]>\n<mame>&a;</mame>",
+       "line 1, column 55: the list declares an entity"},
+      {"<!DOCTYPE mame SYSTEM 'mame.dtd'>\n<mame><machine name='a'>&b;</machine></mame>",
+       "line 2, column 25: an entity that isn't known"},
+      {deep, "line 1, column 196: too many elements within one another"},
       {"<mame>\n<machine name='" + std::string(2 << 20, 'x') + "'/></mame>",
-       "line 1: a tag or text of more than 1 MiB"},
+       "line 2, column 1: a tag or text of more than 1 MiB"},
+      {std::string("<") + '\0' + "m", "line 1, column 1: the list ends in the middle"},
       {"game ( name \"" + std::string(2 << 20, 'x') + "\" )", "line 1: a text of more than 1 MiB"},
-      {std::string("<") + '\0' + "m", "line 1: "},
   };
   for (const auto& [list, error] : cases) {
     EXPECT_THAT(ImportText(list).error, HasSubstr(error)) << list.substr(0, 60);
   }
 }
 
-std::vector<Mark> Marks(FindMarks find, const std::string& text) {
-  const std::string padded = text + std::string(64, '\0');
-  std::vector<Mark> marks(text.size() + 16);
-  marks.resize(static_cast<std::size_t>(
-      find(std::string_view(padded).substr(0, text.size()), marks.data()) - marks.data()));
-  return marks;
-}
-
-TEST(MarkIndex, WaysAgreeOnAnyBytes) {
-  std::mt19937 random(1);
-  for (std::size_t size = 0; size < 300; ++size) {
-    std::string text(size, '\0');
-    const bool dense = size % 2 == 0;  // else few marks, as in a list
-    for (char& c : text) c = dense ? "<>\"'"[random() % 4] : static_cast<char>(random() % 64);
-    const std::vector<Mark> plain = Marks(WaysToFindMarks().back(), text);
-    for (const FindMarks find : WaysToFindMarks()) EXPECT_EQ(Marks(find, text), plain) << size;
-  }
-}
-
-// A tag ends at the first ">" outside of quotation marks, wherever it stands in its block.
-TEST(ListReader, FindsTheEndOfATag) {
-  const std::string gap(100, '%');  // more than a block
-  const std::string tags[] = {"<rom a=\"'>" + gap + ">\" b='" + gap + "\">'/>",
-                              R"(<rom a=">" b='"'/>)",
-                              R"(<rom a="it's"/>)",
-                              "<rom a='>'/>",
-                              R"(<rom a="" b=">>"/>)",
-                              R"(<rom a='"' b="'>"/>)",
-                              "<rom/>",
-                              R"(<rom>"'></rom>)"};
-  for (const std::string& tag : tags) {
-    for (std::size_t shift = 0; shift < 70; ++shift) {
-      const std::string list = "<mame><machine name='a'>" + std::string(shift, ' ') + tag +
-                               "<year>1980</year></machine></mame>";
-      const Imported imported = ImportText(list);
-      ASSERT_EQ(imported.error, "") << tag << shift;
-      EXPECT_THAT(imported.games[0], HasSubstr(";1980;")) << tag << shift;
-    }
-  }
-}
-
-// Roms, devices and switches are passed over, but their tags have to be whole all the same.
-TEST(ListReader, ChecksWhatItPassesOver) {
-  const std::string before = "<mame><machine name='a'>\n<rom name=\"x\"/><rom name=\"y\"/>\n";
-  EXPECT_EQ(ImportText(before + "</machine></mame>").error, "");
-  EXPECT_EQ(ImportText(before + "<a>b<!--'<'--><![CDATA[<]]>c</a></machine></mame>").error, "");
-  for (const std::string_view parent : {"", "<dipswitch name=\"x\">"}) {
-    const std::string list = before + std::string(parent);
-    EXPECT_THAT(ImportText(list + "<rom name=\"x/>\n<rom name=\"y\"/>").error,
-                StartsWith("line 3: \"<\" within the tag <rom>"));
-    EXPECT_THAT(ImportText(list + "<rom name=\"x\">\n</machine>").error,
-                StartsWith("line 4: </machine>, but <rom> is open"));
-    EXPECT_THAT(ImportText(list + "<rom name=\"x\"/").error, StartsWith("line 3: the list ends"));
+TEST(ListReader, TakesLettersOfTheEncodingThatTheListTells) {
+  const std::string rest =
+      "?><mame><machine name='a'><description>\xC9t\xE9</description>"
+      "</machine></mame>";
+  for (const std::string encoding : {"windows-1252", "ISO-8859-1"}) {
+    const Imported imported = ImportText("<?xml version='1.0' encoding='" + encoding + "'" + rest);
+    EXPECT_EQ(imported.error, "");
+    EXPECT_THAT(imported.games, ElementsAre(StartsWith("\xC9t\xE9;a;"))) << encoding;
   }
 }
 

@@ -56,7 +56,10 @@ TEST_F(ImportProgram, ABrokenListLeavesTheOldFile) {
   std::ofstream(folder_ / "out.dat") << "old";
   std::ofstream(folder_ / "cut.xml") << TestList("listxml.xml").substr(0, 2000);
   EXPECT_EQ(Run("-o out.dat cut.xml"), 1);
-  EXPECT_THAT(Said(), MatchesRegex("zarvo-import: cut.xml, line [0-9]+: .*ends inside.*\n"));
+  EXPECT_THAT(
+      Said(),
+      MatchesRegex(
+          "zarvo-import: cut.xml, line [0-9]+, column [0-9]+: the list ends in the middle\n"));
   EXPECT_EQ(FileCount(), 3);
   EXPECT_EQ(Run("-o out.dat nothing.xml"), 1);
   EXPECT_THAT(Said(), HasSubstr("can't read nothing.xml"));
