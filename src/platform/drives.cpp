@@ -21,15 +21,6 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Text of the host for a message, which is Windows-1252.
-std::string ForMessage(std::string_view host_text) {
-  if (auto said = FromUtf8(host_text)) return *said;
-  std::string ascii(host_text);
-  std::replace_if(
-      ascii.begin(), ascii.end(), [](char c) { return static_cast<signed char>(c) < 0; }, '?');
-  return ascii;
-}
-
 std::string Quoted(std::string_view host_text) { return '"' + ForMessage(host_text) + '"'; }
 
 Error LineError(int line, const std::string& what) {

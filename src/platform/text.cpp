@@ -118,6 +118,14 @@ std::optional<std::string> FromUtf8(std::string_view utf8) {
   return bytes;
 }
 
+std::string ForMessage(std::string_view host_text) {
+  if (auto said = FromUtf8(host_text)) return *said;
+  std::string ascii(host_text);
+  std::replace_if(
+      ascii.begin(), ascii.end(), [](char c) { return static_cast<signed char>(c) < 0; }, '?');
+  return ascii;
+}
+
 std::optional<int> ParseInt16(std::string_view text) {
   int value = 0;
   const char* const end = text.data() + text.size();

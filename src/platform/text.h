@@ -36,6 +36,9 @@ std::string ToUtf8(std::string_view bytes);
 // doesn't have.
 std::optional<std::string> FromUtf8(std::string_view utf8);
 
+// Text of the host for a message: as FromUtf8, with question marks if that gives nothing.
+std::string ForMessage(std::string_view host_text);
+
 // The Unicode code point of one byte of Windows-1252.
 char32_t ToUnicode(unsigned char byte);
 
