@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
@@ -11,6 +12,7 @@
 #include <string>
 
 #include "catalogue/data_file.h"
+#include "launch/launch_notes.h"
 #include "layouts/layout_window.h"
 #include "panel/sections.h"
 #include "platform/child_process.h"
@@ -36,31 +38,10 @@ ClockTime LocalTime() {
 
 // The question about a command line that is longer than DOS hands on.
 std::string LostOptions(const RunPlan& plan) {
-  return "The options of this game are " + std::to_string(plan.lost_characters) +
-         " characters too long for DOS, so that the emulator won't see the last ones.\r"
-         "Turn some options off, or start the game all the same?";
-}
-
-// What the player should know of a run that has ended. An error level counts only where the program
-// ended at once: many programs end with one after a good game.
-Status Judge(const RunOutcome& outcome, qint64 milliseconds) {
-  constexpr qint64 kAtOnce = 5000;
-  if (!outcome.started) {
-    return Error{
-        "The emulator could not be started. Please check that its program, or DOSBox, can "
-        "be run."};
-  }
-  if (outcome.crashed) {
-    return Error{
-        "The emulator was broken off from outside, or it crashed. If that happens again, "
-        "please try other options in section SETTINGS."};
-  }
-  if (milliseconds < kAtOnce && (outcome.program_failed || outcome.exit_code != 0)) {
-    return Error{
-        "The emulator ended at once with an error. Please check the game's options and its "
-        "rom, or start the emulator by hand to read what it says."};
-  }
-  return Success();
+  std::string text = "DOS hands an emulator no more than " + std::to_string(kLongestTail) +
+                     " characters, and the options of this game are longer. It won't get these:\r";
+  for (const std::string& option : plan.lost_options) text += "\r" + option;
+  return text + "\r\rTurn some options off, or start the game all the same?";
 }
 
 // The whole program: its state, and the windows that exist once.
@@ -77,6 +58,8 @@ class Program {
             [this](std::string_view /*command_line*/) { return RunAndWait(); }, LocalTime) {}
 
   void Start() {
+    // What a start that was cut off has left; what can't be removed now is tried again.
+    LaunchNotes(files_, files_.CurrentFolder()).Settle();
     main_.StartUp();
     main_.Appear();
   }
@@ -101,12 +84,14 @@ class Program {
     layouts_->ShowModeless();
   }
 
-  // Asked once per emulator: some have more words than DOS takes in their plain defaults.
+  // Asked once for a game, and again when other options are lost.
   bool MayCutOff(const RunPlan& plan) {
-    const std::string emulator = files_.CurrentFolder();
-    if (plan.lost_characters == 0 || cut_off_.contains(emulator)) return true;
-    if (!boxes_.Ask(app_.Title(), LostOptions(plan))) return false;
-    cut_off_.insert(emulator);
+    if (plan.lost_options.empty()) return true;
+    const std::string question = LostOptions(plan);
+    const std::string game = files_.CurrentFolder() + "\r" + plan.first_word + question;
+    if (cut_off_.contains(game)) return true;
+    if (!boxes_.Ask(app_.Title(), question)) return false;
+    cut_off_.insert(game);
     return true;
   }
 
@@ -120,7 +105,7 @@ class Program {
     WaitingRunner runner;
     const auto outcome = CarryOut(*plan, runner);
     if (!outcome.ok()) return outcome.error();
-    return Judge(*outcome, clock.elapsed());
+    return JudgeRun(*plan, *outcome, std::chrono::milliseconds(clock.elapsed()));
   }
 
   std::future<void> font_;
@@ -130,7 +115,7 @@ class Program {
   MainWindow main_;
   Sections sections_;
   std::unique_ptr<Window> layouts_;
-  // Folders of the emulators that may start without their last words.
+  // Games that may start without their last options.
   std::set<std::string> cut_off_;
 };
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <system_error>
 
+#include "platform/child_process.h"
 #include "platform/dos_path.h"
 #include "platform/enter_folder.h"
 #include "platform/text.h"
@@ -13,25 +14,6 @@ namespace {
 
 // The set of shared roms; alone it starts no game.
 constexpr std::string_view kNeoGeo = "neogeo";
-
-// A file that belongs to one launch: deleted when the launch ends, however it ends.
-class LaunchFile {
- public:
-  explicit LaunchFile(DosFiles& files) : files_(files) {}
-  LaunchFile(const LaunchFile&) = delete;
-  LaunchFile& operator=(const LaunchFile&) = delete;
-  LaunchFile(LaunchFile&&) = delete;
-  LaunchFile& operator=(LaunchFile&&) = delete;
-  ~LaunchFile() {
-    if (!path_.empty()) Ignore(files_.DeleteFile(path_));
-  }
-
-  void Own(std::string path) { path_ = std::move(path); }
-
- private:
-  DosFiles& files_;
-  std::string path_;
-};
 
 std::string RomFolderOf(const EmulatorProfile& profile, std::string_view emulator_folder) {
   if (profile.rom_sub_folder.empty()) return std::string(emulator_folder);
@@ -68,12 +50,15 @@ class OneLaunch {
         panel_(panel),
         tools_(tools),
         files_(tools.files),
-        copy_(tools.files),
-        batch_(tools.files) {}
+        notes_(tools.files, tools.app.ProgramFolder) {
+    notes_.Settle();  // of a start that was cut off
+  }
 
   LaunchEnd Run(std::string_view game);
   // What failed, for a box; after kFailed.
   [[nodiscard]] const std::string& Failure() const { return failure_; }
+  // Removes what the launch has made; what can't be removed, with the reasons.
+  std::vector<std::string> Settle() { return notes_.Settle(); }
 
  private:
   // How the launch has ended, or nothing while it goes on.
@@ -89,6 +74,7 @@ class OneLaunch {
   Ended BringInAlone();
   Ended CopyIn(const std::string& rom);
   Ended AskToUse(const std::string& rom);
+  Ended Ask(const std::string& question);
   LaunchEnd RunBatch();
 
   LaunchEnd NoRom();
@@ -110,8 +96,7 @@ class OneLaunch {
   std::string own_rom_folder_;
   bool is_own_folder_ = false;
   std::string failure_;
-  LaunchFile copy_;
-  LaunchFile batch_;
+  LaunchNotes notes_;
 };
 
 LaunchEnd OneLaunch::Run(std::string_view game) {
@@ -181,13 +166,10 @@ OneLaunch::Ended OneLaunch::BringInWithParent() {
   if (!IsGiven(parent_)) return std::nullopt;
   if (IsNeoGeo()) return NoRom();
   if (!stood) return StandsInOwnFolder(parent_) ? AskToUse(parent_) : CopyIn(parent_);
-  const bool agreed = tools_.boxes.Ask(
-      tools_.app.Title(), "La rom " + rom_ +
-                              " \xE8 gi\xE0 contenuta nella directory mame/roms. E' stato scelto "
-                              "invece di utilizzare una rom contenuta in un altra cartella. "
-                              "Proseguendo, la rom contenuta in mame/roms verr\xE0 sovrascritta, "
-                              "e verr\xE0 perduta. Continuare?");
-  return agreed ? Ended() : LaunchEnd::kRefused;
+  return Ask("La rom " + rom_ +
+             " \xE8 gi\xE0 contenuta nella directory mame/roms. E' stato scelto invece di "
+             "utilizzare una rom contenuta in un altra cartella. Proseguendo, la rom contenuta in "
+             "mame/roms verr\xE0 sovrascritta, e verr\xE0 perduta. Continuare?");
 }
 
 OneLaunch::Ended OneLaunch::BringInAlone() {
@@ -196,19 +178,35 @@ OneLaunch::Ended OneLaunch::BringInAlone() {
   return CopyIn(rom_) ? Ended(NoRom()) : std::nullopt;
 }
 
+// The archive takes its name when it is whole, and only if nothing has it by then.
 OneLaunch::Ended OneLaunch::CopyIn(const std::string& rom) {
   const std::string archive = rom + ".zip";
-  std::string copy = JoinPath(own_rom_folder_, archive);
-  const Status copied = files_.CopyFile(JoinPath(input_.options.rom_folder, archive), copy);
-  if (!copied) return Fail(copy + ": " + copied.error().message);
-  copy_.Own(std::move(copy));
+  const std::string copy = JoinPath(own_rom_folder_, archive);
+  const std::string half = JoinPath(own_rom_folder_, kHalfCopy);
+  if (Status noted = notes_.AddWork(half); !noted) return Fail(noted.error().message);
+  if (files_.FileExists(half)) Ignore(files_.DeleteFile(half));
+  Status done = files_.CopyFile(JoinPath(input_.options.rom_folder, archive), half);
+  if (!done) return Fail(copy + ": " + done.error().message);
+  const auto identity = files_.Identity(half);
+  if (!identity) return Fail(half + ": " + identity.error().message);
+  if (Status noted = notes_.AddCopy(copy, *identity); !noted) return Fail(noted.error().message);
+  done = files_.RenameFile(half, copy);
+  if (!done) return Fail(copy + ": " + done.error().message);
+  notes_.CopyStands();
   return std::nullopt;
 }
 
 // The archive that stands in the emulator's folder is the one that runs, if the player agrees.
 OneLaunch::Ended OneLaunch::AskToUse(const std::string& rom) {
-  const std::string question = rom + ": " + tools_.app.messages.MsgRomOverwrite;
-  return tools_.boxes.Ask(tools_.app.Title(), question) ? Ended() : LaunchEnd::kRefused;
+  return Ask(rom + ": " + tools_.app.messages.MsgRomOverwrite);
+}
+
+// Both questions speak of overwriting; what is done to the archive is told below them.
+OneLaunch::Ended OneLaunch::Ask(const std::string& question) {
+  const bool agreed = tools_.boxes.Ask(
+      tools_.app.Title(), question + "\r\rYes runs the archive that stands in " + own_rom_folder_ +
+                              ". Zarvo overwrites and deletes nothing there.");
+  return agreed ? Ended() : LaunchEnd::kRefused;
 }
 
 LaunchEnd OneLaunch::RunBatch() {
@@ -216,8 +214,10 @@ LaunchEnd OneLaunch::RunBatch() {
   const Status entered = EnterFolder(files_, folder);
   if (!entered) return Fail(folder + ": " + entered.error().message);
   std::string batch = JoinPath(folder, kBatchFile);
+  // A note that can't be kept is no reason not to play: a batch file left over does no harm.
+  Ignore(notes_.AddWork(batch));
+  Ignore(notes_.AddWork(JoinPath(folder, kRunMark)));
   const Status written = files_.WriteFile(kBatchFile, CommandLine(profile_, input_) + "\r\n");
-  batch_.Own(batch);  // a half-written one goes too
   if (!written) return Fail(batch + ": " + written.error().message);
   const Status run = tools_.run("command.com /c " + std::string(kBatchFile));
   return run ? LaunchEnd::kRan : Fail(run.error().message);
@@ -252,15 +252,15 @@ bool OneLaunch::StandsInOwnFolder(const std::string& rom) const {
 
 LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPanel& panel,
                  const LaunchTools& tools) {
-  std::string failure;
-  const auto run = [&] {
-    OneLaunch launch(profile, panel, tools);
-    const LaunchEnd end = launch.Run(game);
-    failure = launch.Failure();
-    return end;
-  };
-  const LaunchEnd end = run();  // its files are gone when the box comes up
-  if (end == LaunchEnd::kFailed) tools.boxes.Warn(tools.app.Title(), failure);
+  OneLaunch launch(profile, panel, tools);
+  const LaunchEnd end = launch.Run(game);
+  std::vector<std::string> told = launch.Settle();  // the files are gone when the box comes up
+  for (std::string& stays : told)
+    stays = "This file was made for the run and can't be removed: " + stays;
+  if (end == LaunchEnd::kFailed) told.insert(told.begin(), launch.Failure());
+  std::string text;
+  for (const std::string& line : told) text += (text.empty() ? "" : "\r") + line;
+  if (!text.empty()) tools.boxes.Warn(tools.app.Title(), text);
   return end;
 }
 

@@ -6,14 +6,12 @@
 #include <string_view>
 
 #include "launch/command_line.h"
+#include "launch/launch_notes.h"
 #include "platform/dos_files.h"
 #include "platform/message_boxes.h"
 #include "shell/app_state.h"
 
 namespace zarvo {
-
-// The batch file through which every launch runs.
-inline constexpr std::string_view kBatchFile = "lancia.bat";
 
 // What a launch asks of the panel. The panel's controls hold the settings of the game by then.
 class LaunchPanel {
@@ -54,8 +52,8 @@ enum class LaunchEnd {
 };
 
 // The whole launch; returns when the emulator has ended or the launch has ended without a run. The
-// batch file and a copy made for the run are gone by then; an archive that stood in the emulator's
-// rom folder is as it was.
+// batch file and a copy made for the run are gone by then, and what couldn't be removed was told;
+// an archive that stood in the emulator's rom folder is as it was.
 LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPanel& panel,
                  const LaunchTools& tools);
 

@@ -145,6 +145,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void BrowseSnapFolder();
   void BrowseGameRom();
   void PickGameRom();
+  void KeepGameRomFolder();
   void TakeDefaultRomFolder();
   void Scan();
   bool CanKeepFolder(std::string_view folder);
@@ -167,6 +168,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   bool closed_ = false;  // saved and counted as closed
   // What the settings page held for the game in the caption while another game is started.
   std::optional<OptionValues> set_aside_;
+  bool keeps_rom_folder_ = false;  // the picker is open because a start found no archive
   // During a start, which saves the configuration twice: the failure that was told already.
   std::optional<std::string> told_;
 };

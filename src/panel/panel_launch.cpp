@@ -53,7 +53,20 @@ void EmulatorPanel::ShowRomPicker() {
   const bool snap_page = picSnap->Visible() && !RulesOf(profile_.emulator).no_rom_hides_snap;
   ShowPage(Page::kSettings);
   picSnap->Control::SetVisible(snap_page);
+  keeps_rom_folder_ = true;
   PickGameRom();
+  keeps_rom_folder_ = false;
+}
+
+// The folder that was chosen after a start found no archive is kept at once, so that the next start
+// finds it. Of the game's record nothing else changes.
+void EmulatorPanel::KeepGameRomFolder() {
+  const std::string game = lblRomSettings->Caption();
+  const std::string folder = picSettings->txtRomPath->Text();
+  OptionValues values = picSettings->Values();
+  LoadSettings(tools_.files, tools_.app, profile_, game, values);
+  values.rom_folder = folder;
+  Report(tools_, ::zarvo::SaveSettings(tools_.files, tools_.app, profile_, game, values));
 }
 
 void EmulatorPanel::BrowseGameRom() { PickGameRom(); }
@@ -144,7 +157,9 @@ void EmulatorPanel::TakeRomFolder(std::string_view folder) {
 }
 
 void EmulatorPanel::TakeGameRomFolder(std::string_view folder) {
-  if (CanKeepFolder(folder)) picSettings->txtRomPath->SetText(folder);
+  if (!CanKeepFolder(folder)) return;
+  picSettings->txtRomPath->SetText(folder);
+  if (keeps_rom_folder_) KeepGameRomFolder();
 }
 
 void EmulatorPanel::TakeSnapFolder(std::string_view folder) {

@@ -17,33 +17,10 @@
 namespace zarvo {
 namespace {
 
-// A terminal window, with the words that make it run a program and stay until it has ended. Without
-// them some hand the work to a server and return at once.
-struct Terminal {
-  std::string_view program;
-  std::array<std::string_view, 2> words;
-};
-
-constexpr std::array<Terminal, 12> kTerminals = {{
-    {"xterm", {"-e"}},
-    {"konsole", {"--separate", "-e"}},
-    {"gnome-terminal", {"--wait", "--"}},
-    {"xfce4-terminal", {"--disable-server", "-x"}},
-    {"mate-terminal", {"--disable-factory", "-x"}},
-    {"lxterminal", {"--no-remote", "-e"}},
-    {"alacritty", {"-e"}},
-    {"kitty", {}},
-    {"foot", {}},
-    {"urxvt", {"-e"}},
-    {"st", {"-e"}},
-    {"x-terminal-emulator", {"-e"}},
-}};
-
 // What a batch line says.
 struct BatchLine {
-  std::string program;   // a DOS path that exists
-  std::size_t tail = 0;  // characters behind the program
-  std::vector<std::string> arguments;
+  std::string program;  // a DOS path that exists
+  std::string tail;     // everything behind the program
 };
 
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
@@ -69,7 +46,7 @@ Result<BatchLine> ReadBatchLine(const DosFiles& files, std::string_view batch) {
        end = line.rfind(' ', end - 1)) {
     const std::string_view program = line.substr(0, end);
     if (!program.ends_with(' ') && files.FileExists(program)) {
-      return BatchLine{std::string(program), line.size() - end, SplitAtBlanks(line.substr(end))};
+      return BatchLine{std::string(program), std::string(line.substr(end))};
     }
   }
   return Error{"There is no program " + Quoted(line.substr(0, line.find(' '))) + "."};
@@ -87,24 +64,7 @@ bool IsNative(const DosFiles& files, const std::string& program) {
          magic.starts_with("#!");
 }
 
-// Puts a terminal window round a command, if the host has one.
-HostCommand InTerminal(HostCommand command, const HostPrograms& host) {
-  if (!host.has_display) return command;
-  for (const Terminal& terminal : kTerminals) {
-    const auto program = host.find(terminal.program);
-    if (!program) continue;
-    std::vector<std::string> arguments;
-    for (const std::string_view word : terminal.words) {
-      if (!word.empty()) arguments.emplace_back(word);
-    }
-    arguments.push_back(command.program);
-    arguments.insert(arguments.end(), command.arguments.begin(), command.arguments.end());
-    return {*program, std::move(arguments), command.folder};
-  }
-  return command;
-}
-
-Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line, const HostPrograms& host) {
+Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line) {
   auto program = files.HostPath(line.program);
   if (!program) return program.error();
   auto folder = files.HostPath("");
@@ -114,11 +74,11 @@ Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line, const H
                  " may not be run. Please make the file executable."};
   }
   HostCommand command{*program, {}, *folder};
-  for (const std::string& argument : line.arguments) {
+  for (const std::string& argument : SplitAtBlanks(line.tail)) {
     command.arguments.push_back(ToUtf8(argument));
   }
   RunPlan plan;
-  plan.command = InTerminal(std::move(command), host);
+  plan.command = std::move(command);
   return plan;
 }
 
@@ -142,24 +102,61 @@ std::string NewConfigurationPath() {
   return JoinHostPath(has_session ? session : "/tmp", "zarvo-" + std::to_string(number) + ".conf");
 }
 
-// The file in the emulator's folder that tells of an error level.
-constexpr std::string_view kFailureMark = "ZARVO.ERR";
+// A command line as far as DOS hands it on, and what it has to leave out.
+struct CutLine {
+  std::string kept;
+  std::vector<std::string> lost;  // whole options with their values
+};
+
+bool BeginsOption(std::string_view word) {
+  return word.size() > 1 && word[0] == '-' && !(word[1] >= '0' && word[1] <= '9');
+}
+
+// Cuts between options, so that none arrives without its values.
+CutLine CutForDos(const std::string& tail) {
+  CutLine cut;
+  if (tail.size() <= kLongestTail) return {tail, {}};
+  std::vector<std::string> pieces;
+  for (const std::string& word : SplitAtBlanks(tail)) {
+    if (pieces.empty() || BeginsOption(word)) {
+      pieces.push_back(word);
+    } else {
+      pieces.back() += " " + word;
+    }
+  }
+  for (std::string& piece : pieces) {
+    if (cut.lost.empty() && cut.kept.size() + 1 + piece.size() <= kLongestTail) {
+      cut.kept += " " + piece;
+    } else {
+      cut.lost.push_back(std::move(piece));
+    }
+  }
+  return cut;
+}
+
+// What stands in the mark: at first, while the program runs, and after an error level.
+constexpr std::string_view kMarkWaiting = "waiting";
+constexpr std::string_view kMarkRunning = "running";
+constexpr std::string_view kMarkFailed = "failed";
 
 // DOSBox runs these lines behind the player's own. The drive is the folder that DOSBox is started
 // in: so no host path, whatever characters it holds, stands where DOSBox would take it apart.
-std::string DosBoxConfiguration(const std::string& dos_folder, std::string_view batch) {
+std::string DosBoxConfiguration(const std::string& dos_folder, const std::string& call) {
   const std::string drive = dos_folder.substr(0, 1);
+  const std::string mark = JoinPath(dos_folder, kRunMark);
   std::string text = "[autoexec]\n@echo off\n";
   text += "mount -u " + drive + " >nul\n";
   text += "mount " + drive + " . >nul\n";
   text += drive + ":\n";
   text += "cd " + dos_folder.substr(2) + "\n";
-  text += "call " + std::string(batch) + "\n";
+  text.append("echo ").append(kMarkRunning).append(">" + mark + "\n");
+  text += call + "\n";
   // An error level is known in here alone.
   text += "if errorlevel 1 goto failed\n";
+  text += "del " + mark + "\n";
   text += "exit\n";
   text += ":failed\n";
-  text += "echo failed>" + JoinPath(dos_folder, kFailureMark) + "\n";
+  text.append("echo ").append(kMarkFailed).append(">" + mark + "\n");
   text += "exit\n";
   return text;
 }
@@ -186,13 +183,18 @@ Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, std::st
   const auto drive_folder = files.HostPath(folder.substr(0, 2) + "\\");
   if (!drive_folder) return drive_folder.error();
 
+  CutLine cut = CutForDos(line.tail);
+  const std::string call =
+      "call " + (cut.lost.empty() ? std::string(batch) : line.program + cut.kept);
   RunPlan plan;
   plan.configuration_path = NewConfigurationPath();
-  plan.configuration = DosBoxConfiguration(folder, batch);
-  const auto mark = files.HostPath(kFailureMark);
+  plan.configuration = DosBoxConfiguration(folder, call);
+  const auto mark = files.HostPath(kRunMark);
   if (!mark) return mark.error();
-  plan.failure_mark = *mark;
-  plan.lost_characters = line.tail > kLongestTail ? line.tail - kLongestTail : 0;
+  plan.run_mark = *mark;
+  plan.lost_options = std::move(cut.lost);
+  const std::string_view words = TrimBlanks(line.tail);
+  plan.first_word = words.substr(0, words.find(' '));
   plan.command = {*dosbox, {"-userconf", "-conf", plan.configuration_path}, *drive_folder};
   return plan;
 }
@@ -211,11 +213,39 @@ class TemporaryFile {
 
 }  // namespace
 
+namespace {
+
+// The first bytes of a file of the host; nothing if it isn't there.
+std::string StartOf(const std::string& path) {
+  const auto file = OpenPlainFile(path);
+  if (!file) return {};
+  std::array<char, 16> bytes{};
+  const long got = ReadSome(file->get(), bytes.data(), bytes.size());
+  return {bytes.data(), static_cast<std::size_t>(got < 0 ? 0 : got)};
+}
+
+// The last lines of what a program printed, for a box: each behind a carriage return, without
+// blank lines and control characters.
+std::string LastLines(std::string_view output) {
+  constexpr std::size_t kMostLines = 10;
+  std::vector<std::string> lines;
+  while (!output.empty()) {
+    const std::size_t end = std::min(output.size(), output.find_first_of("\r\n"));
+    std::string words(output.substr(0, end));
+    output.remove_prefix(std::min(output.size(), end + 1));
+    std::erase_if(words, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; });
+    std::string line = ForMessage(words);
+    if (!TrimBlanks(line).empty()) lines.push_back(std::move(line));
+  }
+  std::string text;
+  const std::size_t first = lines.size() - std::min(lines.size(), kMostLines);
+  for (std::size_t i = first; i < lines.size(); ++i) text += "\r" + lines[i];
+  return text.empty() ? text : "\r\rIt says:" + text;
+}
+
+}  // namespace
+
 HostPrograms ThisHost() {
-  const auto is_set = [](const char* name) {
-    const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
-    return value != nullptr && *value != '\0';
-  };
   const auto find = [](std::string_view name) -> std::optional<std::string> {
     const char* const path = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
     std::string_view folders = path == nullptr ? "/usr/local/bin:/usr/bin:/bin" : path;
@@ -232,13 +262,13 @@ HostPrograms ThisHost() {
     }
     return std::nullopt;
   };
-  return {find, is_set("DISPLAY") || is_set("WAYLAND_DISPLAY")};
+  return {find};
 }
 
 Result<RunPlan> PlanRun(const DosFiles& files, std::string_view batch, const HostPrograms& host) {
   const auto line = ReadBatchLine(files, batch);
   if (!line) return line.error();
-  if (IsNative(files, line->program)) return PlanNative(files, *line, host);
+  if (IsNative(files, line->program)) return PlanNative(files, *line);
   return PlanDosBox(files, *line, batch, host);
 }
 
@@ -249,11 +279,45 @@ Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner) {
     return Error{"The configuration of DOSBox can't be written: " + written.error().message};
   }
   const TemporaryFile configuration(plan.configuration_path);
-  unlink(plan.failure_mark.c_str());
-  const TemporaryFile failure_mark(plan.failure_mark);
+  unlink(plan.run_mark.c_str());  // of a run that was cut off
+  const Status marked = CreateFile(plan.run_mark, kMarkWaiting, 0666, false);
+  if (!marked) return Error{std::string(kRunMark) + ": " + marked.error().message};
+  const TemporaryFile run_mark(plan.run_mark);
   RunOutcome outcome = runner.Run(plan.command);
-  outcome.program_failed = access(plan.failure_mark.c_str(), F_OK) == 0;
+  const std::string mark = StartOf(plan.run_mark);
+  outcome.program_failed = mark.starts_with(kMarkFailed);
+  outcome.never_began = mark.starts_with(kMarkWaiting);
   return outcome;
+}
+
+Status JudgeRun(const RunPlan& plan, const RunOutcome& outcome, std::chrono::milliseconds took) {
+  // An error level counts only where the program ended at once: many programs end with one after a
+  // good game.
+  constexpr std::chrono::seconds kAtOnce{5};
+  if (!outcome.started) {
+    return Error{
+        "The emulator could not be started. Please check that its program, or DOSBox, can "
+        "be run."};
+  }
+  const std::string words = plan.configuration_path.empty() ? LastLines(outcome.last_output) : "";
+  if (outcome.crashed) {
+    return Error{
+        "The emulator was broken off from outside, or it crashed. If that happens again, "
+        "please try other options in section SETTINGS." +
+        words};
+  }
+  if (outcome.never_began) {
+    return Error{
+        "DOSBox has ended and didn't come to the game. Please look into your own configuration of "
+        "DOSBox: an \"exit\" in its section [autoexec] does that."};
+  }
+  if (took < kAtOnce && (outcome.program_failed || outcome.exit_code != 0)) {
+    return Error{
+        "The emulator ended at once with an error. Please check the game's options and its "
+        "rom, or start the emulator by hand to read what it says." +
+        words};
+  }
+  return Success();
 }
 
 }  // namespace zarvo

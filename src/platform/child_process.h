@@ -1,6 +1,7 @@
 // Running the batch file of a launch: which program it names, and how the host runs that program.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -24,12 +25,21 @@ struct RunOutcome {
   bool started = false;
   bool crashed = false;
   int exit_code = 0;
-  // The DOS program ended with an error level. Told by the run of the plan, not by the runner.
+  // The end of what it printed, at most kKeptOutput bytes of the host.
+  std::string last_output{};
+  // Told by the run of the plan, not by the runner: the DOS program ended with an error level;
+  // DOSBox ended before it came to the program.
   bool program_failed = false;
+  bool never_began = false;
 };
+
+inline constexpr std::size_t kKeptOutput = 8192;
 
 // DOS hands a program no more of its command line than this many characters.
 inline constexpr std::size_t kLongestTail = 126;
+
+// The file in the emulator's folder that tells how far a run in DOSBox came.
+inline constexpr std::string_view kRunMark = "ZARVO.ERR";
 
 // Runs one host command and returns when it has ended. A seam: the windows run it while they keep
 // painting, tests record it.
@@ -43,11 +53,9 @@ class ChildRunner {
 struct HostPrograms {
   // Absolute path of a program that the search path holds, or nothing.
   std::function<std::optional<std::string>(std::string_view name)> find;
-  // True if a desktop stands that can open a terminal window.
-  bool has_display = false;
 };
 
-// The programs of this host: $PATH, and a display if $DISPLAY or $WAYLAND_DISPLAY is set.
+// The programs of this host, in the folders of $PATH that are full paths.
 HostPrograms ThisHost();
 
 // How one batch line is to be run.
@@ -57,24 +65,30 @@ struct RunPlan {
   // and to delete after it; both empty for a native program.
   std::string configuration;
   std::string configuration_path;
-  // Host path of a file that the run in DOSBox leaves behind if the program ended with an error
-  // level; empty for a native program.
-  std::string failure_mark{};
-  // Characters of the command line that DOS won't hand to the program.
-  std::size_t lost_characters = 0;
+  // Host path of kRunMark; empty for a native program.
+  std::string run_mark{};
+  // Options, each with its values, that the program won't get: DOS hands on kLongestTail
+  // characters, and the line that DOSBox runs ends in front of the first option that isn't among
+  // them whole.
+  std::vector<std::string> lost_options{};
+  // The first word behind the program, which names the game.
+  std::string first_word{};
 };
 
 // Plans the run of the batch file `batch` in the current folder of `files`. Its one line names the
 // program: the longest beginning of the line, up to a blank or the end, that is an existing file.
-// A native program (ELF or "#!") runs directly, in a terminal window if the desktop has one;
-// everything else runs in DOSBox, with only the drive of the current folder mounted, the current
-// folder current, and an end when the program ends.
+// A native program (ELF or "#!") runs directly; everything else runs in DOSBox, with only the drive
+// of the current folder mounted, the current folder current, and an end when the program ends.
 // Fails with a sentence for the player: DOSBox missing, a folder or program that DOS can't name (a
 // component longer than 8.3, a blank), no such program.
 Result<RunPlan> PlanRun(const DosFiles& files, std::string_view batch, const HostPrograms& host);
 
-// Carries a plan out: writes its configuration, runs it, deletes the configuration and the mark of
-// a failure.
+// Carries a plan out: writes its configuration, runs it, deletes the configuration and the mark.
 Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner);
+
+// What the player should know of a run that took so long, or success for a run like any other: one
+// that was broken off, and one that ended at once with an error, with the last lines that a native
+// program printed.
+Status JudgeRun(const RunPlan& plan, const RunOutcome& outcome, std::chrono::milliseconds took);
 
 }  // namespace zarvo

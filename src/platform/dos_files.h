@@ -76,6 +76,9 @@ class DosFiles {
   // Fails if `to` exists, but for the same file in other letters.
   virtual Status RenameFile(std::string_view from, std::string_view to) = 0;
   virtual Status DeleteFile(std::string_view path) = 0;
+  // A word that no other file of this computer has: it stays the same when the file is renamed, and
+  // changes when the file is written or another one takes its place.
+  [[nodiscard]] virtual Result<std::string> Identity(std::string_view path) const = 0;
   // One folder; its parent must exist. An existing folder is no failure.
   virtual Status MakeFolder(std::string_view path) = 0;
 

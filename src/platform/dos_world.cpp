@@ -284,6 +284,21 @@ Status DosWorld::DeleteFile(std::string_view path) {
   return unlink(host->c_str()) == 0 ? Success() : Status(LastError());
 }
 
+Result<std::string> DosWorld::Identity(std::string_view path) const {
+  const auto host = HostPath(path);
+  if (!host) return host.error();
+  struct stat state {};
+  if (lstat(host->c_str(), &state) != 0) return LastError();
+  std::string word;
+  for (const auto part :
+       {static_cast<long long>(state.st_ino), static_cast<long long>(state.st_size),
+        static_cast<long long>(state.st_mtim.tv_sec),
+        static_cast<long long>(state.st_mtim.tv_nsec)}) {
+    word += (word.empty() ? "" : "-") + std::to_string(part);
+  }
+  return word;
+}
+
 Status DosWorld::MakeFolder(std::string_view path) {
   const auto host = HostPath(path);
   if (!host) return host.error();

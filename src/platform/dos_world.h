@@ -53,6 +53,7 @@ class DosWorld : public DosFiles {
   Status CopyFile(std::string_view from, std::string_view to) override;
   Status RenameFile(std::string_view from, std::string_view to) override;
   Status DeleteFile(std::string_view path) override;
+  [[nodiscard]] Result<std::string> Identity(std::string_view path) const override;
   Status MakeFolder(std::string_view path) override;
   [[nodiscard]] Result<std::string> HostPath(std::string_view path) const override;
 

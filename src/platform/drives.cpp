@@ -22,19 +22,6 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Text of the host for a message, which is Windows-1252: at most 200 characters.
-std::string ForMessage(std::string_view host_text) {
-  constexpr std::size_t kMostQuoted = 200;
-  const auto exact = FromUtf8(host_text);
-  std::string said = (exact ? *exact : std::string(host_text)).substr(0, kMostQuoted);
-  const std::size_t whole = exact ? exact->size() : host_text.size();
-  for (char& c : said) {
-    const bool is_control = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-    if (is_control || (!exact && static_cast<signed char>(c) < 0)) c = '?';
-  }
-  return whole > said.size() ? said + "..." : said;
-}
-
 std::string Quoted(std::string_view host_text) { return '"' + ForMessage(host_text) + '"'; }
 
 std::string LineText(int line, const std::string& what) {

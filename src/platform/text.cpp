@@ -118,6 +118,18 @@ std::optional<std::string> FromUtf8(std::string_view utf8) {
   return bytes;
 }
 
+std::string ForMessage(std::string_view host_text) {
+  constexpr std::size_t kMostShown = 200;
+  const auto exact = FromUtf8(host_text);
+  const std::string whole = exact ? *exact : std::string(host_text);
+  std::string said = whole.substr(0, kMostShown);
+  for (char& c : said) {
+    const bool is_control = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+    if (is_control || (!exact && static_cast<signed char>(c) < 0)) c = '?';
+  }
+  return whole.size() > said.size() ? said + "..." : said;
+}
+
 std::optional<int> ParseInt16(std::string_view text) {
   int value = 0;
   const char* const end = text.data() + text.size();

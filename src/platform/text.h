@@ -36,6 +36,10 @@ std::string ToUtf8(std::string_view bytes);
 // doesn't have.
 std::optional<std::string> FromUtf8(std::string_view utf8);
 
+// Text of the host for a message: its first 200 characters, with question marks for control
+// characters and for what isn't UTF-8 or not in Windows-1252.
+std::string ForMessage(std::string_view host_text);
+
 // The Unicode code point of one byte of Windows-1252.
 char32_t ToUnicode(unsigned char byte);
 

@@ -12,6 +12,7 @@ namespace zarvo {
 namespace {
 
 int running = 0;
+int have_run = 0;
 
 // Drops what the player does while a child runs; nothing of it is delivered later.
 class Deaf : public QObject {
@@ -70,12 +71,14 @@ QStringList ToArguments(const std::vector<std::string>& arguments) {
 
 bool ChildIsRunning() { return running > 0; }
 
+int ChildrenRun() { return have_run; }
+
 RunOutcome WaitingRunner::Run(const HostCommand& command) {
   QProcess child;
   child.setProgram(QFile::decodeName(QByteArray::fromStdString(command.program)));
   child.setArguments(ToArguments(command.arguments));
   child.setWorkingDirectory(QFile::decodeName(QByteArray::fromStdString(command.folder)));
-  child.setProcessChannelMode(QProcess::ForwardedChannels);
+  child.setProcessChannelMode(QProcess::MergedChannels);
   child.setInputChannelMode(QProcess::ManagedInputChannel);
   child.setStandardInputFile(QProcess::nullDevice());
 
@@ -84,6 +87,10 @@ RunOutcome WaitingRunner::Run(const HostCommand& command) {
   qApp->installEventFilter(&deaf);
   ++running;
   QEventLoop loop;
+  // Read as it comes, so that a child that prints a lot isn't held up; only the end is kept.
+  QByteArray output;
+  const auto take = [&] { output = (output + child.readAll()).right(int{kKeptOutput}); };
+  QObject::connect(&child, &QProcess::readyRead, &loop, take);
   QObject::connect(&child, &QProcess::finished, &loop, [&loop] { loop.quit(); });
   QObject::connect(&child, &QProcess::errorOccurred, &loop, [&](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) loop.quit();
@@ -93,11 +100,14 @@ RunOutcome WaitingRunner::Run(const HostCommand& command) {
   // What came in while the child ended is still on its way: it belongs to the run.
   QGuiApplication::sync();
   QCoreApplication::processEvents();
+  take();
   --running;
+  ++have_run;
   qApp->removeEventFilter(&deaf);
   return {.started = child.error() != QProcess::FailedToStart,
           .crashed = child.exitStatus() == QProcess::CrashExit,
-          .exit_code = child.exitCode()};
+          .exit_code = child.exitCode(),
+          .last_output = output.toStdString()};
 }
 
 }  // namespace zarvo

@@ -8,8 +8,12 @@ namespace zarvo {
 // True while a child runs: no handler may run, timers stand still.
 bool ChildIsRunning();
 
+// How many children have run so far.
+int ChildrenRun();
+
 // Runs a host command. Until it ends no window takes input: key and mouse events are dropped, a
-// request to close a window is refused; painting and answering the desktop go on.
+// request to close a window is refused; painting and answering the desktop go on. What the child
+// prints goes nowhere but into the outcome.
 class WaitingRunner : public ChildRunner {
  public:
   RunOutcome Run(const HostCommand& command) override;

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/text.h"
+#include "toolkit/child_wait.h"
 #include "toolkit/drag.h"
 #include "toolkit/drawing.h"
 #include "toolkit/keys.h"
@@ -302,8 +303,15 @@ void ListBox::wheelEvent(QWheelEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   swallow_ = false;
-  if (event->isAutoRepeat() && KeyCodeOf(*event) == key::kEnter) return;  // held: it starts once
+  // Held down it starts one game. When that ends, the desktop may hand the key over as a fresh
+  // press.
+  constexpr qint64 kMoment = 700;  // milliseconds
+  const bool is_enter = KeyCodeOf(*event) == key::kEnter;
+  const bool has_just_run = enter_ran_.isValid() && enter_ran_.elapsed() < kMoment;
+  if (is_enter && (event->isAutoRepeat() || has_just_run)) return;
+  const int runs = ChildrenRun();
   KeyDown.Raise({.code = KeyCodeOf(*event), .shift = ShiftStateOf(*event)});
+  if (is_enter && ChildrenRun() != runs) enter_ran_.start();
   if (swallow_) {
     event->accept();
     return;

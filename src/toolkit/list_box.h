@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QElapsedTimer>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -98,6 +99,7 @@ class ListBox : public QAbstractScrollArea, public Control {
   int index_ = -1;
   int columns_ = 1;
   bool sorted_ = false;
+  QElapsedTimer enter_ran_;  // since the end of a child that Enter started
   bool swallow_ = false;
   std::string typed_;
   quint64 typed_at_ = 0;  // milliseconds, as the events tell

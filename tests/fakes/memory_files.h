@@ -94,6 +94,9 @@ class MemoryFiles : public DosFiles {
   Status DeleteFile(std::string_view path) override {
     return files_.erase(Key(path)) == 1 ? Success() : Error{"No such file"};
   }
+  [[nodiscard]] Result<std::string> Identity(std::string_view path) const override {
+    return Has(path) ? Result<std::string>(BytesOf(path)) : Error{"No such file"};
+  }
   Status MakeFolder(std::string_view path) override {
     PutFolder(path);
     return Success();

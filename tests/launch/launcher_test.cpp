@@ -53,6 +53,7 @@ class LauncherTest : public testing::Test {
  protected:
   LauncherTest() {
     app_.ProgramFolder = "C:\\Zarvo";
+    drive_.MakeFolder("C:\\Zarvo");
     app_.messages.MsgNoRom = "no rom";
     app_.messages.MsgRomOverwrite = "overwrite?";
   }
@@ -101,9 +102,15 @@ class LauncherTest : public testing::Test {
     EXPECT_EQ(Archives(), before);
     EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
     EXPECT_TRUE(boxes_.answers.empty()) << "a question didn't come";
+    EXPECT_FALSE(drive_.Exists("C:\\Zarvo\\running.dat"));
     std::string told;
-    for (const auto& box : boxes_.shown) {
+    const std::string below = "\r\rYes runs the archive that stands in " + own_ +
+                              ". Zarvo overwrites and deletes nothing there.";
+    for (auto& box : boxes_.shown) {
       EXPECT_EQ(box.icon, BoxIcon::kExclamation) << box.text;
+      const bool is_question = box.buttons == BoxButtons::kYesNo;
+      EXPECT_EQ(box.text.ends_with(below), is_question) << box.text;
+      if (is_question) box.text.erase(box.text.size() - std::min(box.text.size(), below.size()));
       told += (box.title == "Zarvo v0.1" ? "" : box.title + "|") + box.text + ": ";
     }
     constexpr std::array kEnds = {"ran", "no emulator", "no rom", "refused", "unknown", "failed"};
@@ -161,7 +168,7 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
     EXPECT_EQ(Start(), no_rom) << "no folder isn't the one of the last run";
     panel_.options.rom_folder = "C:\\Mine";
     FailingFiles files(drive_.files());
-    files.Fail(FileStep::kCopy, "sf2.zip");
+    files.Fail(FileStep::kCopy, "zarvo.$$$");
     Use(profile, "SF2");
     EXPECT_EQ(Start(files),
               mame ? R"(C:\Emu\Mame\roms\sf2.zip: No space left on device: failed)" : no_rom);
@@ -259,7 +266,7 @@ TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
   const std::tuple<FileStep, const char*, std::string> rows[] = {
       {FileStep::kWrite, "lancia.bat", R"(C:\Emu\Mame\lancia.bat: No space left on device)"},
       {FileStep::kChangeFolder, "Mame", "C:\\Emu\\Mame: No space left on device"},
-      {FileStep::kCopy, "sf.zip", R"(C:\Emu\Mame\roms\sf.zip: No space left on device)"}};
+      {FileStep::kCopy, "zarvo.$$$", R"(C:\Emu\Mame\roms\sf.zip: No space left on device)"}};
   for (const auto& [step, name, message] : rows) {
     UseMame("sf");
     panel_.parent = "sf";
@@ -276,6 +283,86 @@ TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
               "The emulator's folder isn't known.\rPlease choose the emulator in section CONF: "
               "failed");
   }
+}
+
+TEST_F(LauncherTest, WhatCannotBeRemovedAfterTheRunIsTold) {
+  UseMame("sf2");
+  for (const std::string name : {"sf2.zip", "lancia.bat"}) {
+    FailingFiles files(drive_.files());
+    files.Fail(FileStep::kDelete, name);
+    const auto run = [](std::string_view /*line*/) { return Success(); };
+    boxes_.shown.clear();
+    EXPECT_EQ(Launch(*profile_, "Street Fighter II", panel_,
+                     {.files = files, .boxes = boxes_, .app = app_, .run = run}),
+              LaunchEnd::kRan);
+    const std::string path = (name == "sf2.zip" ? own_ : folder_) + "\\" + name;
+    ASSERT_EQ(boxes_.shown.size(), 1U);
+    EXPECT_THAT(boxes_.shown[0].text, testing::EndsWith(path + ": No space left on device"));
+    EXPECT_TRUE(drive_.Exists(path));
+    LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();  // the next start of the program
+    EXPECT_FALSE(drive_.Exists(path) || drive_.Exists("C:\\Zarvo\\running.dat"));
+  }
+}
+
+// A start that is cut off after each of its steps, as its files stand on the disk then.
+TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
+  UseMame("sf2");
+  drive_.MakeFolder(own_);
+  const std::string copy = JoinPath(own_, "sf2.zip");
+  const std::string half = JoinPath(own_, "zarvo.$$$");
+  for (int steps = 1; steps <= 5; ++steps) {
+    {
+      LaunchNotes cut_off(drive_.files(), app_.ProgramFolder);
+      ASSERT_TRUE(cut_off.AddWork(half).ok());
+      if (steps >= 2) drive_.Write(half, "ha");
+      if (steps >= 3) {
+        ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(half).value()).ok());
+      }
+      if (steps >= 4) {
+        ASSERT_TRUE(drive_.files().RenameFile(half, copy).ok());
+      }
+      if (steps >= 5) {
+        ASSERT_TRUE(cut_off.AddWork(folder_ + "\\lancia.bat").ok());
+        drive_.Write(folder_ + "\\lancia.bat", "half");
+      }
+    }
+    if (steps == 3) drive_.Write(copy, "of the player");
+    const std::string stays = steps == 3 ? " sf2.zip=of the player" : "";
+    LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();
+    EXPECT_EQ(Archives(), stays) << steps;
+    EXPECT_FALSE(drive_.Exists(half) || drive_.Exists(folder_ + "\\lancia.bat")) << steps;
+    EXPECT_FALSE(drive_.Exists("C:\\Zarvo\\running.dat")) << steps;
+    std::filesystem::remove(drive_.Host(copy));
+  }
+  // The next start of the game takes the copy for what it is.
+  {
+    LaunchNotes cut_off(drive_.files(), app_.ProgramFolder);
+    drive_.Write(copy, "mine");
+    ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(copy).value()).ok());
+  }
+  const std::string before = Archives();
+  EXPECT_EQ(before, " sf2.zip=mine");
+  boxes_.shown.clear();
+  Launch(
+      *profile_, "Street Fighter II", panel_,
+      {.files = drive_.files(), .boxes = boxes_, .app = app_, .run = [](std::string_view /*line*/) {
+         return Success();
+       }});
+  EXPECT_TRUE(boxes_.shown.empty());
+  EXPECT_EQ(Archives(), "");
+}
+
+TEST_F(LauncherTest, ANoteThatWasTamperedWithRemovesNothing) {
+  UseMame("", "sf2");
+  drive_.Write("C:\\precious.txt", "x");
+  const std::string identity = drive_.files().Identity("C:\\precious.txt").value();
+  drive_.Write("C:\\Zarvo\\running.dat",
+               "work C:\\precious.txt\r\ncopy " + identity + " C:\\precious.txt\r\ncopy  " + own_ +
+                   "\\sf2.zip\r\ncopy 1-2-3-4 " + own_ +
+                   "\\sf2.zip\r\nwork lancia.bat\r\ncopy\r\n" + std::string(3, '\0') + "\r\nwork");
+  LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();
+  EXPECT_TRUE(drive_.Exists("C:\\precious.txt"));
+  EXPECT_EQ(Archives(), " sf2.ZIP=own");
 }
 
 }  // namespace

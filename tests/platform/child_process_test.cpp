@@ -20,13 +20,13 @@ using testing::HasSubstr;
 const char* const kDosProgram = "MZ a program of DOS";
 
 // A host that has the programs of these names, each at "/bin/".
-HostPrograms Host(const std::string& programs, bool has_display = false) {
+HostPrograms Host(const std::string& programs) {
   const auto find = [programs](std::string_view name) -> std::optional<std::string> {
     const bool has =
         (" " + programs + " ").find(" " + std::string(name) + " ") != std::string::npos;
     return has ? std::optional("/bin/" + std::string(name)) : std::nullopt;
   };
-  return {find, has_display};
+  return {find};
 }
 
 // A drive whose current folder is that of an emulator, with a batch file.
@@ -59,7 +59,7 @@ class RunTest : public testing::Test {
 TEST_F(RunTest, ADosProgramRunsInDosBoxFromTheFolderThatIsItsDrive) {
   Batch("C:\\Emu\\Mame", "C:\\Emu\\Mame\\Mame.exe pengo -ignorecfg");
   drive_.Write("C:\\EMU\\MAME\\MAME.EXE", kDosProgram);
-  const auto plan = Plan(Host("dosbox xterm", true));
+  const auto plan = Plan();
   ASSERT_TRUE(plan.ok()) << plan.error().message;
   EXPECT_EQ(plan->command.program, "/bin/dosbox");
   EXPECT_EQ(plan->command.folder, drive_.root());
@@ -67,21 +67,36 @@ TEST_F(RunTest, ADosProgramRunsInDosBoxFromTheFolderThatIsItsDrive) {
               testing::ElementsAre("-userconf", "-conf", plan->configuration_path));
   EXPECT_EQ(plan->configuration,
             "[autoexec]\n@echo off\nmount -u C >nul\nmount C . >nul\nC:\ncd \\Emu\\Mame\n"
-            "call lancia.bat\nif errorlevel 1 goto failed\nexit\n"
+            "echo running>C:\\Emu\\Mame\\ZARVO.ERR\n"
+            "call lancia.bat\nif errorlevel 1 goto failed\ndel C:\\Emu\\Mame\\ZARVO.ERR\nexit\n"
             ":failed\necho failed>C:\\Emu\\Mame\\ZARVO.ERR\nexit\n");
   EXPECT_FALSE(fs::exists(plan->configuration_path)) << "planning writes nothing";
   EXPECT_NE(Plan()->configuration_path, plan->configuration_path);
 
   Batch("C:\\", "C:\\Mame.exe");
   drive_.Write("C:\\Mame.exe", kDosProgram);
-  EXPECT_THAT(Plan()->configuration, HasSubstr("\ncd \\\ncall lancia.bat\n"));
+  EXPECT_THAT(Plan()->configuration,
+              HasSubstr("\ncd \\\necho running>C:\\ZARVO.ERR\ncall lancia.bat\n"));
 }
 
-TEST_F(RunTest, WhatDosCutsOffIsCounted) {
+// The options that are lost, and the line that DOSBox runs.
+TEST_F(RunTest, ALineTooLongForDosIsCutBetweenOptions) {
   drive_.Write("C:\\Emu\\Mame.exe", kDosProgram);
-  for (const auto& [tail, lost] : std::map<std::size_t, std::size_t>{{126, 0}, {127, 1}}) {
-    Batch("C:\\Emu", "C:\\Emu\\Mame.exe " + std::string(tail - 1, 'x'));
-    EXPECT_EQ(Plan()->lost_characters, lost) << tail;
+  const std::string full = " pengo -" + std::string(107, 'x');  // 115 characters
+  const std::tuple<std::string, std::string, std::string> rows[] = {
+      {full + " -sb 220 55", "", "call lancia.bat"},  // 126
+      {full + " -sb 220 555", "-sb 220 555|", "call C:\\Emu\\Mame.exe" + full},
+      {full + "  -y -4 -sb 1", "-sb 1|", "call C:\\Emu\\Mame.exe" + full + " -y -4"},
+      {full + " -sb 220 555 -a", "-sb 220 555|-a|", "call C:\\Emu\\Mame.exe" + full},
+  };
+  for (const auto& [tail, lost, call] : rows) {
+    Batch("C:\\Emu", "C:\\Emu\\Mame.exe" + tail);
+    const auto plan = Plan();
+    std::string told;
+    for (const std::string& option : plan->lost_options) told += option + "|";
+    EXPECT_EQ(told, lost) << tail;
+    EXPECT_EQ(plan->first_word, "pengo");
+    EXPECT_THAT(plan->configuration, HasSubstr("\n" + call + "\n")) << tail;
   }
 }
 
@@ -96,23 +111,49 @@ TEST_F(RunTest, ANativeProgramRunsWithoutAShellAndSeesItsWordsAndItsFolder) {
   EXPECT_EQ(drive_.Read("C:\\Emu\\My Mame\\out"), "caf\xC3\xA9|$(reboot);|*|-x|");
 }
 
-TEST_F(RunTest, ATerminalThatWaitsIsPutRoundANativeProgram) {
-  Batch("C:\\Emu", "mame pengo");
-  Native("C:\\Emu\\mame", std::string("\x7F") + "ELF\x02");
-  const std::string words = drive_.Host("mame").string() + "|pengo";
-  const std::map<std::string, std::string> cases = {
-      {"x-terminal-emulator xterm", "/bin/xterm|-e|"},
-      {"konsole", "/bin/konsole|--separate|-e|"},
-      {"gnome-terminal", "/bin/gnome-terminal|--wait|--|"},
-      {"xfce4-terminal", "/bin/xfce4-terminal|--disable-server|-x|"},
-      {"kitty", "/bin/kitty|"},
-      {"x-terminal-emulator", "/bin/x-terminal-emulator|-e|"},
-      {"", ""},
-  };
-  for (const auto& [programs, front] : cases) {
-    EXPECT_EQ(Planned(Host(programs, true)), front + words);
-    EXPECT_EQ(Planned(Host(programs)), words) << "no desktop, no window";
+// Only folders that are full paths count: "." and an empty entry are the current one.
+TEST_F(RunTest, NoProgramOfTheCurrentFolderIsFound) {
+  const std::string before = std::getenv("PATH");
+  Native("C:\\zarvo-test-program", "#!/bin/sh\n");
+  const fs::path here = fs::current_path();
+  fs::current_path(drive_.root());
+  const std::string beside = "../" + drive_.root().filename().string();
+  for (const std::string& path : {std::string("."), std::string(), std::string(":./:x"), beside}) {
+    setenv("PATH", path.c_str(), 1);
+    EXPECT_FALSE(ThisHost().find("zarvo-test-program")) << path;
   }
+  setenv("PATH", ("relative:" + drive_.root().string()).c_str(), 1);
+  EXPECT_TRUE(ThisHost().find("zarvo-test-program"));
+  fs::current_path(here);
+  setenv("PATH", before.c_str(), 1);
+}
+
+TEST_F(RunTest, OnlyARunThatFailedIsToldAndANativeOneInItsOwnWords) {
+  using std::chrono::milliseconds;
+  const RunPlan native;
+  RunPlan dos;
+  dos.configuration_path = "x";
+  const auto judged = [](const RunPlan& plan, const RunOutcome& outcome, int took) {
+    const Status status = JudgeRun(plan, outcome, milliseconds(took));
+    return status ? std::string() : status.error().message;
+  };
+  std::string many;
+  for (int i = 0; i < 30; ++i) many += "line " + std::to_string(i) + "\n";
+  const RunOutcome failed = {.started = true, .exit_code = 2, .last_output = many};
+  EXPECT_THAT(judged(native, failed, 4999),
+              testing::EndsWith("It says:\rline 20\rline 21\rline 22"
+                                "\rline 23\rline 24\rline 25\rline 26\rline 27\rline 28\rline 29"));
+  EXPECT_EQ(judged(native, failed, 5000), "");
+  EXPECT_THAT(judged(dos, failed, 100), testing::EndsWith("read what it says."));
+  const RunOutcome odd = {.started = true,
+                          .crashed = true,
+                          .last_output = "\r\n caf\xC3\xA9\x1B \xFF\t\n\n" + std::string(300, 'x')};
+  EXPECT_THAT(judged(native, odd, 99999),
+              HasSubstr("It says:\r caf?? ?\r" + std::string(200, 'x') + "..."));
+  EXPECT_THAT(judged(dos, {.started = true, .never_began = true}, 99999), HasSubstr("[autoexec]"));
+  EXPECT_THAT(judged(dos, {.started = true, .program_failed = true}, 10), HasSubstr("at once"));
+  EXPECT_THAT(judged(dos, {}, 10), HasSubstr("could not be started"));
+  EXPECT_EQ(judged(dos, {.started = true}, 10), "");
 }
 
 TEST_F(RunTest, TheLongestBeginningThatIsAFileIsTheProgram) {
@@ -162,8 +203,12 @@ TEST_F(RunTest, WhatCannotBeRunIsSaidPlainly) {
 TEST_F(RunTest, TheConfigurationStandsForTheRunAndIsDeletedAfterIt) {
   const fs::path path = drive_.root() / "run.conf";
   const fs::path seen = drive_.root() / "seen";
-  const RunPlan plan = {{"/bin/cp", {"-p", path, seen}, "/"}, "[autoexec]\n", path};
-  EXPECT_TRUE(CarryOut(plan, runner_)->started);
+  const fs::path mark = drive_.root() / "mark";
+  RunPlan plan = {{"/bin/cp", {"-p", path, seen}, "/"}, "[autoexec]\n", path, mark};
+  std::ofstream(mark) << "failed";  // of a run that was cut off
+  const auto outcome = CarryOut(plan, runner_);
+  EXPECT_TRUE(outcome->started && outcome->never_began && !outcome->program_failed);
+  EXPECT_FALSE(fs::exists(mark));
   EXPECT_EQ(drive_.Read("C:\\seen"), "[autoexec]\n");
   EXPECT_EQ(fs::status(seen).permissions(), fs::perms(0600));
   EXPECT_FALSE(fs::exists(path));
@@ -194,6 +239,7 @@ TEST_F(RunTest, ARealDosBoxRunsTheLineAndTellsOfAnErrorLevel) {
   setenv("SDL_AUDIODRIVER", "dummy", 1);
   setenv("HOME", drive_.root().c_str(), 1);
 
+  std::ofstream(drive_.root() / ".dosbox/exit.conf") << "[autoexec]\nexit\n";
   for (const char* program : {"tail.bat", "bad.com"}) {
     const std::string line = "C:\\Emu\\Mame\\" + std::string(program) + " pengo -s 1 %MINE%\r\n";
     ASSERT_TRUE(world.WriteFile("lancia.bat", line).ok());
@@ -203,10 +249,17 @@ TEST_F(RunTest, ARealDosBoxRunsTheLineAndTellsOfAnErrorLevel) {
     ASSERT_TRUE(outcome.ok()) << outcome.error().message;
     EXPECT_TRUE(outcome->started && !outcome->crashed && outcome->exit_code == 0) << program;
     EXPECT_EQ(outcome->program_failed, std::string_view(program) == "bad.com");
+    EXPECT_FALSE(outcome->never_began);
     EXPECT_FALSE(world.FileExists("ZARVO.ERR"));
     EXPECT_FALSE(fs::exists(plan->configuration_path));
   }
   EXPECT_EQ(ReadAll(world, "TAIL").value(), "pengo -s 1 of the player\r\n");
+
+  // A player's own configuration that ends DOSBox: no game, and that is told.
+  fs::rename(drive_.root() / ".dosbox/exit.conf", drive_.root() / ".dosbox/dosbox-0.74-3.conf");
+  const auto plan = PlanRun(world, "lancia.bat", real);
+  const auto outcome = CarryOut(*plan, runner_);
+  EXPECT_TRUE(outcome->started && outcome->never_began);
 }
 
 }  // namespace
