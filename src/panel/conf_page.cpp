@@ -24,6 +24,7 @@ struct ConfPage::PathRow {
 
 ConfPage::ConfPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
   SetName(ControlName(profile, "picConf"));
+  SetAccessibleName("Configuration page");
   SetBackColor(kCard);
   const PanelTexts& texts = TextsOf(profile.emulator);
   MakeHeading(this, {60, 75, 3735, 210}, texts.conf_heading);
@@ -53,6 +54,7 @@ void ConfPage::BuildPath(const EmulatorProfile& profile, const PathRow& row) {
       MakeButton(this, ButtonKind::kPath, {3030, row.top + 225, 705, 270}, "Browse");
   button->SetName(row.button_name);
   button->SetToolTipText(row.button_tip);
+  button->SetAccessibleName(row.button_tip.substr(1, row.button_tip.size() - 2));
   *row.button = button;
 }
 

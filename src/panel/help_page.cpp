@@ -64,6 +64,7 @@ bool IsHeading(const KeyRow& row) { return row.key.empty(); }
 
 HelpPage::HelpPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
   SetName(ControlName(profile, "picHelp"));
+  SetAccessibleName("Help page");
   SetBackColor(kCard);
   BuildKeys(BuildList(profile), profile.emulator);
   if (profile.emulator == Emulator::kSystem16) SetLines(System16Help());

@@ -57,6 +57,7 @@ constexpr std::array<RowPlace, kFieldCount> kRows = {{
 
 InfoPage::InfoPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
   SetName(ControlName(profile, "picInfo"));
+  SetAccessibleName("Details page");
   SetBackColor(kCard);
   BuildFrames();
   BuildRows();

@@ -15,6 +15,12 @@ bool IsNumberKey(int code) {
          code == key::kNumpadMinus || code == key::kBackspace || code == key::kDelete;
 }
 
+// While the player is in the box, the "0" is selected, so that what is typed replaces it.
+void PutZero(TextBox* box) {
+  box->SetText("0");
+  if (box->window()->focusWidget() == box) box->selectAll();
+}
+
 }  // namespace
 
 RecordingRules::RecordingRules(const SettingsPage& page, const PanelTools& tools,
@@ -59,7 +65,7 @@ void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title) {
   box->Change.Connect([box] {
     const std::string text = box->Text();
     if (text.empty() || text.find_first_not_of("0123456789-") != std::string::npos) {
-      box->SetText("0");
+      PutZero(box);
     }
   });
   box->KeyDown.Connect([box, &tools, title = std::move(title)](const KeyArgs& key) {
@@ -68,7 +74,7 @@ void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title) {
     tools.boxes.Warn(title,
                      "Format not valid!  \rYou must enter only 0-9 or\r"
                      "optionally '-' for negative values");
-    box->SetText("0");
+    PutZero(box);
   });
 }
 

@@ -30,6 +30,7 @@ void OptionControl::Set(const OptionValue& value) const {
 SettingsPage::SettingsPage(QWidget* parent, const EmulatorProfile& profile)
     : PictureBox(parent), profile_(profile) {
   SetName(ControlName(profile, "picSettings"));
+  SetAccessibleName("Settings page");
   SetBackColor(kCard);
   BuildFolderRow();
   const std::span<const OptionSpec> table = OptionsOf(profile.emulator);
@@ -48,12 +49,15 @@ void SettingsPage::BuildFolderRow() {
   cmdSelDir = MakeButton(this, ButtonKind::kPath, {2340, 60, 465, 255}, "Brow");
   cmdSelDir->SetName(ControlName(profile_, "cmdSelDir"));
   cmdSelDir->SetToolTipText(" Choose Univoque Rom Directory ");
+  cmdSelDir->SetAccessibleName("Browse for this game's rom folder");
   cmdDirRomDefault = MakeButton(this, ButtonKind::kPath, {2835, 60, 435, 255}, "Def.");
   cmdDirRomDefault->SetName("cmdDirRomDefault");
   cmdDirRomDefault->SetToolTipText(" Assign default Rom Directory ");
+  cmdDirRomDefault->SetAccessibleName("Use the default rom folder for this game");
   cmdApplytoAll = MakeButton(this, ButtonKind::kBulk, {3315, 60, 480, 255}, "All");
   cmdApplytoAll->SetName("cmdApplytoAll");
   cmdApplytoAll->SetToolTipText(" Apply current settings to All Games ");
+  cmdApplytoAll->SetAccessibleName("Apply these settings to all games");
 }
 
 void SettingsPage::BuildOption(const OptionSpec& declared) {

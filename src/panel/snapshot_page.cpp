@@ -14,6 +14,7 @@ constexpr int kLongestSide = 1024;
 
 SnapshotPage::SnapshotPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
   SetName(ControlName(profile, "picSnap"));
+  SetAccessibleName("Snapshot page");
   SetBackColor(kDeepNight);
   Build(profile);
 }

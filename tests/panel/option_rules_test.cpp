@@ -129,9 +129,11 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
       EXPECT_EQ(TakeBoxes(), std::vector(at.after == "0" ? 1 : 0, refusal));
     }
     box->SetText("7");
+    box->setFocus();
     box->end(false);
     PressKey(box, Qt::Key_Backspace);
     EXPECT_EQ(box->Text(), "0") << "never empty";
+    EXPECT_EQ(FromQt(box->selectedText()), "0") << "what is typed next replaces it";
     box->SetText("123456");
     EXPECT_EQ(box->Text(), is_row ? "1234" : "123456");
     for (const char* pasted : {"1,2", "~", "\xE9"}) {
