@@ -1,13 +1,21 @@
 // Zarvo: wires the DOS world, the windows and the panels together.
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QLockFile>
+#include <QSocketNotifier>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -17,10 +25,12 @@
 #include "panel/sections.h"
 #include "platform/child_process.h"
 #include "platform/dos_world.h"
+#include "platform/text.h"
 #include "shell/about_window.h"
 #include "shell/main_window.h"
 #include "toolkit/child_wait.h"
 #include "toolkit/desktop_boxes.h"
+#include "toolkit/display.h"
 #include "toolkit/style.h"
 
 namespace zarvo {
@@ -56,6 +66,8 @@ class Program {
         sections_(
             files_, app_, boxes_, main_,
             [this](std::string_view /*command_line*/) { return RunAndWait(); }, LocalTime) {}
+
+  void SaveWithoutQuestions() { sections_.SaveWithoutQuestions(); }
 
   void Start() {
     // What a start that was cut off has left; what can't be removed now is tried again.
@@ -119,26 +131,107 @@ class Program {
   std::set<std::string> cut_off_;
 };
 
+// What has to be saved where the program is ended from outside.
+Program* running = nullptr;
+
+void SaveRunning() {
+  if (running != nullptr) std::exchange(running, nullptr)->SaveWithoutQuestions();
+}
+
+int signal_pipe[2] = {-1, -1};  // NOLINT(modernize-avoid-c-arrays): the form of pipe()
+
+void NoteSignal(int number) {
+  const auto byte = static_cast<unsigned char>(number);
+  [[maybe_unused]] const ssize_t written = write(signal_pipe[1], &byte, 1);
+}
+
+// Saves when the program is told to end: by a signal, by the end of the desktop's session, or by
+// the X server's end, after which Qt calls exit().
+void SaveAtAnyEnd(QApplication& application, QLockFile& lock) {
+  std::atexit(SaveRunning);
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
+                   [] { running->SaveWithoutQuestions(); });
+  if (pipe2(signal_pipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
+  auto* const notifier = new QSocketNotifier(signal_pipe[0], QSocketNotifier::Read, &application);
+  QObject::connect(notifier, &QSocketNotifier::activated, &application, [&lock] {
+    unsigned char number = 0;
+    if (read(signal_pipe[0], &number, 1) != 1) return;
+    SaveRunning();
+    lock.unlock();
+    // At once: a box, a picker or a running game may stand in the way of a return to main().
+    std::_Exit(128 + number);
+  });
+  for (const int number : {SIGTERM, SIGHUP, SIGINT}) std::signal(number, NoteSignal);
+}
+
+// Whether the folder is this program's alone. One that can't be written needs no lock.
+bool TakeFolder(QLockFile& lock) {
+  lock.setStaleLockTime(0);  // a lock counts as long as its owner lives
+  return lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
+}
+
+int RunInFolder(QApplication& application, const std::string& folder) {
+  const auto refuse = [](const std::string& reason) {
+    DesktopBoxes().Warn(AppState().Title(), reason);
+    return EXIT_FAILURE;
+  };
+  auto files = DosWorld::ForProgramFolder(folder);
+  if (!files.ok()) return refuse(files.error().message);
+  QLockFile lock(QDir(QFile::decodeName(folder.c_str())).filePath(QStringLiteral("zarvo.lock")));
+  if (!TakeFolder(lock)) {
+    return refuse("Zarvo is already running in this folder:\r" + ForMessage(folder) +
+                  "\r\rTwo at a time would undo each other's changes.");
+  }
+  if (const std::string& missing = files->MissingFolders(); !missing.empty()) {
+    DesktopBoxes().Warn(AppState().Title(), missing);
+  }
+  Program program(std::move(*files));
+  running = &program;
+  SaveAtAnyEnd(application, lock);
+  program.Start();
+  const int status = QApplication::exec();
+  running = nullptr;
+  return status;
+}
+
+// What a command line of today's programs asks for; nothing if windows are wanted.
+std::optional<int> Answer(int argc, char** argv) {
+  if (argc < 2) return std::nullopt;
+  const std::string_view word = argv[1];
+  if (argc == 2 && (word == "--help" || word == "-h")) {
+    std::cout << "Usage: zarvo\n"
+                 "Shows the games of five arcade emulators and starts them. Its files are in the "
+                 "folder\nin which it is started; zarvo-home starts it in ~/Zarvo.\n\n"
+                 "  --help     this text\n  --version  the version\n";
+    return EXIT_SUCCESS;
+  }
+  if (argc == 2 && word == "--version") {
+    const AppState app;
+    std::cout << app.ProgramName << ' ' << app.ProgramVersion << '\n';
+    return EXIT_SUCCESS;
+  }
+  std::cerr << "zarvo: it takes no argument \"" << word << "\"; --help tells more\n";
+  return 2;
+}
+
 int Run(int argc, char** argv) {
+  if (const auto answered = Answer(argc, argv)) return *answered;
+  if (const std::string reason = ChooseDisplay(); !reason.empty()) {
+    std::cerr << "zarvo: " << reason << '\n';
+    return EXIT_FAILURE;
+  }
   PrepareApplication();
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   DressUp(application);
   std::error_code failure;
   const std::string folder = std::filesystem::current_path(failure).string();
-  auto files =
-      failure ? Result<DosWorld>(Error{"The current folder can't be read: " + failure.message()})
-              : DosWorld::ForProgramFolder(folder);
-  if (!files.ok()) {
-    DesktopBoxes().Warn(AppState().Title(), files.error().message);
+  if (failure) {
+    DesktopBoxes().Warn(AppState().Title(),
+                        "The current folder can't be read: " + failure.message());
     return EXIT_FAILURE;
   }
-  if (const std::string& missing = files->MissingFolders(); !missing.empty()) {
-    DesktopBoxes().Warn(AppState().Title(), missing);
-  }
-  Program program(std::move(*files));
-  program.Start();
-  return QApplication::exec();
+  return RunInFolder(application, folder);
 }
 
 }  // namespace

@@ -165,6 +165,11 @@ constexpr std::array kOptions = {
              o.quiet = true;
              return Success();
            }},
+    Option{"version", "", "print the version",
+           [](ImportOptions& o, const std::string& /*v*/) {
+             o.version = true;
+             return Success();
+           }},
     Option{"help", "", "print this text",
            [](ImportOptions& o, const std::string& /*v*/) {
              o.help = true;

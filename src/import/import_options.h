@@ -48,6 +48,7 @@ struct ImportOptions {
   std::array<std::string, kHeaderLines> header;  // empty: filled from the list
   bool quiet = false;
   bool help = false;
+  bool version = false;
 };
 
 // The keys of --header, in the order of the header's lines. The line with the number of games has

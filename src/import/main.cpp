@@ -92,6 +92,10 @@ int Import(const ImportOptions& options, int descriptor) {
 int Run(std::span<const std::string> arguments) {
   const auto options = ParseOptions(arguments);
   if (!options) return Complain(kWrongUse, options.error().message + "; --help tells more");
+  if (options->version) {
+    std::puts("zarvo-import of Zarvo v0.1");
+    return kDone;
+  }
   if (options->help) {
     std::fputs(HelpText().c_str(), stdout);
     return std::fflush(stdout) == 0 ? kDone : kNotWritten;

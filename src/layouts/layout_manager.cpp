@@ -196,7 +196,7 @@ void LayoutManager::LoadLayout() {
     TellFailure({"layouts.dat: the layout \"" + name + "\" is damaged"});
     return;
   }
-  tools_.sections.CloseOpenPanels();
+  if (!tools_.sections.CloseOpenPanels()) return;
   ApplyRecords(tools_, block->records);
 }
 

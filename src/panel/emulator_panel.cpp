@@ -59,21 +59,47 @@ Status EmulatorPanel::TrySaveSettings(std::string_view key) {
 
 void EmulatorPanel::SaveSettings(std::string_view key) { Report(tools_, TrySaveSettings(key)); }
 
-void EmulatorPanel::SaveAndMarkClosed() {
-  SaveCfg();
-  SaveSettings(lblRomSettings->Caption());
+Status EmulatorPanel::TrySaveAll() {
+  const Status cfg = TrySaveCfg();
+  const Status settings = TrySaveSettings(lblRomSettings->Caption());
+  std::string reasons;
+  for (const Status* saved : {&cfg, &settings}) {
+    if (!*saved) reasons += (reasons.empty() ? "" : "\r") + saved->error().message;
+  }
+  return reasons.empty() ? Success() : Status(Error{reasons});
+}
+
+bool EmulatorPanel::SaveOrLeave() {
+  for (;;) {
+    const Status saved = TrySaveAll();
+    if (saved) return true;
+    const BoxAnswer answer =
+        tools_.boxes.Show(BoxIcon::kExclamation, BoxButtons::kRetryStayLeave, tools_.app.Title(),
+                          "What was changed in " + std::string(profile_.selector_caption) +
+                              " can't be saved, and would be lost:\r\r" + saved.error().message);
+    if (answer != BoxAnswer::kRetry) return answer == BoxAnswer::kLeave;
+  }
+}
+
+bool EmulatorPanel::SaveAndMarkClosed() {
+  if (!SaveOrLeave()) return false;
   tools_.app.ShowWord(profile_.emulator) = "NO";
   closed_ = true;
+  return true;
 }
 
 void EmulatorPanel::Exit() {
-  SaveAndMarkClosed();
-  UnloadWindow();
+  if (SaveAndMarkClosed()) UnloadWindow();
 }
 
+// Beside the main window: at its right, or at its left where less than half would be seen there, or
+// else where all of it is seen.
 void EmulatorPanel::Dock() {
   SetTop(tools_.main.MainTop());
   SetLeft(tools_.main.MainLeft() + kDockDistance);
+  if (IsHalfSeen()) return;
+  SetLeft(tools_.main.MainLeft() - Window::Width());
+  if (!IsWhollySeen()) BringWhollyOnScreen();
 }
 
 void EmulatorPanel::Enter() {
@@ -111,8 +137,12 @@ bool EmulatorPanel::FindRom(std::string_view game) {
     ParentFile = (*record)[Field::kCloneOf];
     return true;
   }
+  // The removal selects a neighbour, which is looked up in turn: its failure is the same one.
+  if (removes_unknown_) return false;
+  removes_unknown_ = true;
   tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgRomNotInDataFile);
   if (profile_.has_favourites) favourites->RemoveUnknown();
+  removes_unknown_ = false;
   return false;
 }
 

@@ -47,8 +47,12 @@ class EmulatorPanel : public Window, private LaunchPanel {
   // because it couldn't be read is no error, for that was told when it was noticed.
   Status TrySaveCfg();
   Status TrySaveSettings(std::string_view key);
-  // SaveCfg, then the settings of the current game; the panel then counts as closed.
-  void SaveAndMarkClosed();
+  // Both, for the current game; the error has a line for each that failed.
+  Status TrySaveAll();
+  // Both, before what isn't saved goes. Asks if that fails; false if the player stays.
+  bool SaveOrLeave();
+  // The panel then counts as closed; false if the player stays.
+  bool SaveAndMarkClosed();
 
   // The entry to the section from filling the list to the panel on screen.
   void Enter();
@@ -168,6 +172,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   bool closed_ = false;  // saved and counted as closed
   // What the settings page held for the game in the caption while another game is started.
   std::optional<OptionValues> set_aside_;
+  bool removes_unknown_ = false;   // inside the removal of a favourite that the data file lacks
   bool keeps_rom_folder_ = false;  // the picker is open because a start found no archive
   // During a start, which saves the configuration twice: the failure that was told already.
   std::optional<std::string> told_;

@@ -194,9 +194,9 @@ void EmulatorPanel::Wire() {
   WireSettings();
   games->on_missing_scan = [this] { ShowConfiguration(); };
   cmdExit->Click.Connect([this] { Exit(); });
-  Unload.Connect([this](bool& /*refuse*/) {
-    if (!closed_) SaveAndMarkClosed();
-    Closed.Raise();
+  Unload.Connect([this](bool& refuse) {
+    refuse = !closed_ && !SaveAndMarkClosed();
+    if (!refuse) Closed.Raise();
   });
   logo->MouseMove.Connect([this](const MouseArgs& mouse) {
     if (mouse.button == MouseButton::kLeft) MoveWithMouse();

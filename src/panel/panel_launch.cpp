@@ -64,9 +64,9 @@ void EmulatorPanel::KeepGameRomFolder() {
   const std::string game = lblRomSettings->Caption();
   const std::string folder = picSettings->txtRomPath->Text();
   OptionValues values = picSettings->Values();
-  LoadSettings(tools_.files, tools_.app, profile_, game, values);
+  LoadSettings(settings_, tools_.app, profile_, game, values);
   values.rom_folder = folder;
-  Report(tools_, ::zarvo::SaveSettings(tools_.files, tools_.app, profile_, game, values));
+  Report(tools_, zarvo::SaveSettings(settings_, profile_, game, values));
 }
 
 void EmulatorPanel::BrowseGameRom() { PickGameRom(); }

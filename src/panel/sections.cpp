@@ -49,22 +49,32 @@ void Sections::OpenSection(const EmulatorProfile& profile) {
   Panel(profile.emulator).Enter();
 }
 
-void Sections::SaveOpenPanels() {
+bool Sections::EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const {
   for (const EmulatorProfile& profile : Profiles()) {
     EmulatorPanel* const panel = Find(profile.emulator);
     if (panel == nullptr || !tools_.app.IsOpen(profile.emulator)) continue;
-    panel->SaveCfg();
-    panel->SaveSettings(panel->lblRomSettings->Caption());
+    if (!visit(*panel)) return false;
   }
+  return true;
 }
 
-void Sections::CloseOpenPanels() {
-  for (const EmulatorProfile& profile : Profiles()) {
-    EmulatorPanel* const panel = Find(profile.emulator);
-    if (panel == nullptr || !tools_.app.IsOpen(profile.emulator)) continue;
-    panel->SaveAndMarkClosed();
-    panel->UnloadWindow();
-  }
+bool Sections::SaveOpenPanels() {
+  return EachOpenPanel([](EmulatorPanel& panel) { return panel.SaveOrLeave(); });
+}
+
+void Sections::SaveWithoutQuestions() {
+  EachOpenPanel([](EmulatorPanel& panel) {
+    Ignore(panel.TrySaveAll());
+    return true;
+  });
+}
+
+bool Sections::CloseOpenPanels() {
+  return EachOpenPanel([](EmulatorPanel& panel) {
+    if (!panel.SaveAndMarkClosed()) return false;
+    panel.UnloadWindow();
+    return true;
+  });
 }
 
 std::optional<TwipRect> Sections::PanelPlace(Emulator emulator) const {

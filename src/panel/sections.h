@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,8 +25,10 @@ class Sections : public SectionHost, public PickerPanels {
   [[nodiscard]] EmulatorPanel* Find(Emulator emulator) const;
 
   void OpenSection(const EmulatorProfile& profile) override;
-  void SaveOpenPanels() override;
-  void CloseOpenPanels() override;
+  bool SaveOpenPanels() override;
+  bool CloseOpenPanels() override;
+  // As SaveOpenPanels; what can't be saved is lost.
+  void SaveWithoutQuestions();
   [[nodiscard]] std::optional<TwipRect> PanelPlace(Emulator emulator) const override;
   void SetPanelPlace(Emulator emulator, const TwipRect& place) override;
   void ResetClearLabels() override;
@@ -40,6 +43,8 @@ class Sections : public SectionHost, public PickerPanels {
 
  private:
   void Drop(Emulator emulator);
+  // In profile order, until a visit gives false; whether none did.
+  bool EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const;
 
   PanelTools tools_;
   std::array<std::unique_ptr<EmulatorPanel>, kEmulatorCount> panels_;

@@ -7,13 +7,14 @@
 namespace zarvo {
 
 enum class BoxIcon { kInformation, kExclamation };
-enum class BoxButtons { kOk, kYesNo };
-enum class BoxAnswer { kOk, kYes, kNo };
+enum class BoxButtons { kOk, kYesNo, kRetryStayLeave };
+enum class BoxAnswer { kOk, kYes, kNo, kRetry, kStay, kLeave };
 
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  // Shows the box and returns when a button was pressed; closing a Yes and No box is No. A carriage
+  // Shows the box and returns when a button was pressed; closing a Yes and No box is No, and
+  // one that offers to stay is that. A carriage
   // return in `text` is a line break; everything else is shown literally. Windows-1252.
   virtual BoxAnswer Show(BoxIcon icon, BoxButtons buttons, std::string_view title,
                          std::string_view text) = 0;

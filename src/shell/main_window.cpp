@@ -114,8 +114,8 @@ void MainWindow::ConfirmEnd(bool& refuse) {
     refuse = true;
     return;
   }
-  actions_.sections().SaveOpenPanels();
-  actions_.end_program();
+  refuse = !actions_.sections().SaveOpenPanels();
+  if (!refuse) actions_.end_program();
 }
 
 }  // namespace zarvo

@@ -16,10 +16,10 @@ class SectionHost {
   // The entry to an emulator's section, with its messages. Without a data file nothing opens.
   virtual void OpenSection(const EmulatorProfile& profile) = 0;
   // Saves what every open panel holds, in profile order: the configuration, then the settings of
-  // its current game.
-  virtual void SaveOpenPanels() = 0;
+  // its current game. What can't be saved is asked about; false if the player stays.
+  virtual bool SaveOpenPanels() = 0;
   // The same, and each panel then counts as closed and is unloaded.
-  virtual void CloseOpenPanels() = 0;
+  virtual bool CloseOpenPanels() = 0;
   // The place and size of a panel that is open, else nothing.
   [[nodiscard]] virtual std::optional<TwipRect> PanelPlace(Emulator emulator) const = 0;
   // Top, Left, Width, Height in that order; nothing happens for a panel that isn't there.

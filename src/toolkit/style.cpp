@@ -260,11 +260,6 @@ QFont Underlined(QFont font, bool underline) {
 void PrepareApplication() {
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-  const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-  if (wayland && qEnvironmentVariableIsSet("DISPLAY") &&
-      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "xcb");
-  }
 }
 
 void DressUp(QApplication& /*application*/) {

@@ -134,6 +134,7 @@ void Window::SetBackground(const Picture& picture) {
 void Window::ShowModeless() {
   unloaded_ = false;
   BringOnScreen();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
@@ -168,6 +169,27 @@ void Window::BringOnScreen() {
     return screen->geometry().intersects(frame);
   });
   if (!seen && !screens.isEmpty()) move(screens.front()->availableGeometry().topLeft());
+}
+
+// How much of the window the screens show, from 0 to 1.
+double Window::SeenShare() const {
+  const QRect frame(pos(), size());
+  double seen = 0;
+  for (const QScreen* const screen : QGuiApplication::screens()) {
+    const QRect part = screen->geometry() & frame;
+    seen += double{1} * part.width() * part.height();
+  }
+  return seen / (double{1} * frame.width() * frame.height());
+}
+
+bool Window::IsHalfSeen() const { return SeenShare() >= 0.5; }
+
+bool Window::IsWhollySeen() const { return SeenShare() >= 1; }
+
+void Window::BringWhollyOnScreen() {
+  const QRect room = screen()->availableGeometry();
+  move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+       std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
 }
 
 // Over the middle of its owner, but wholly on the screen.

@@ -40,7 +40,12 @@ class Window : public QWidget {
   // A picture on the window's ground behind the controls, in its own size from the top left.
   void SetBackground(const Picture& picture);
 
+  // Also brings back a window that was minimised.
   void ShowModeless();
+  // Whether the screens show at least half of the window, or all of it, at its place.
+  [[nodiscard]] bool IsHalfSeen() const;
+  [[nodiscard]] bool IsWhollySeen() const;
+  void BringWhollyOnScreen();
   // As ShowModeless, for the first window of the program, which doesn't wait for its texts: the
   // controls work, but only the ground is drawn until DrawControls.
   void ShowGround();
@@ -81,6 +86,7 @@ class Window : public QWidget {
   void ApplyPlace();
   void ApplySize();
   void BringOnScreen();
+  [[nodiscard]] double SeenShare() const;
   void CentreOver(const QWidget& owner);
   void DrawGround();
 

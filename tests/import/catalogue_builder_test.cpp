@@ -96,8 +96,9 @@ TEST(CatalogueBuilder, BoundsGamesLinesAndMemory) {
 
   many.resize(1300);
   for (std::string& game : many) game += std::string(30000, 'x');
-  EXPECT_THAT(ImportText(ListOf(many)).error,
-              testing::MatchesRegex("line 1[01][0-9]+: the texts of the list take more.*"));
+  EXPECT_THAT(
+      ImportText(ListOf(many)).error,
+      testing::MatchesRegex("line 1[01][0-9]+, column [0-9]+: the texts of the list take more.*"));
 
   const Imported fits = ImportText(ListOf({"a=" + std::string(32000, 'x')}));
   ASSERT_EQ(fits.games.size(), 1U);

@@ -36,11 +36,12 @@ class RecordingSections : public SectionHost, public MainPlace {
     told.push_back("open " + std::string(profile.section_word));
     if (!without_data_file.contains(profile.emulator)) Stand(profile.emulator, {});
   }
-  void SaveOpenPanels() override {}
-  void CloseOpenPanels() override {
+  bool SaveOpenPanels() override { return true; }
+  bool CloseOpenPanels() override {
     told.emplace_back("close all");
     for (const auto& [emulator, place] : places) app_.ShowWord(emulator) = "NO";
     places.clear();
+    return true;
   }
   [[nodiscard]] std::optional<TwipRect> PanelPlace(Emulator emulator) const override {
     const auto found = places.find(emulator);

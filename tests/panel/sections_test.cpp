@@ -159,8 +159,22 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   files_.Fail(FileStep::kReplace, "");
   const std::vector<std::string> both = {"! Raine.cfg: No space left on device",
                                          "! Raine.set: No space left on device"};
-  sections_.SaveOpenPanels();
-  EXPECT_EQ(TakeBoxes(), both);
+  // Before anything goes, the player chooses: once more, stay, or leave it.
+  const std::string lost =
+      "! What was changed in R.A.I.N.E. can't be saved, and would be lost:||Raine.cfg: No space "
+      "left on device|Raine.set: No space left on device";
+  boxes_.answers = {BoxAnswer::kRetry, BoxAnswer::kStay};
+  EXPECT_FALSE(sections_.SaveOpenPanels());
+  EXPECT_THAT(TakeBoxes(), ElementsAre(lost, lost));
+  boxes_.answers = {BoxAnswer::kStay, BoxAnswer::kStay};
+  Press(panel.cmdExit);
+  EXPECT_FALSE(sections_.CloseOpenPanels());
+  EXPECT_THAT(TakeBoxes(), ElementsAre(lost, lost));
+  EXPECT_EQ(app_.ShowWord(Emulator::kRaine), "SI");
+  boxes_.answers = {BoxAnswer::kLeave};
+  EXPECT_TRUE(sections_.SaveOpenPanels());
+  sections_.SaveWithoutQuestions();
+  EXPECT_THAT(TakeBoxes(), ElementsAre(lost));
   Press(panel.imgButInfo);
   EXPECT_THAT(TakeBoxes(), ElementsAre(both[1]));
   EXPECT_EQ(Pages(panel), "info");
@@ -169,6 +183,13 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   EXPECT_THAT(TakeBoxes(), ElementsAre(both[0], testing::StartsWith("! [Warning! - No EXE")));
   EXPECT_EQ(drive_.Read(CfgPath(Emulator::kRaine)), old_cfg);
   EXPECT_EQ(Keys(Emulator::kRaine), "old|");
+  boxes_.answers = {BoxAnswer::kRetry};
+  boxes_.on_show = [this] { files_.Heal(); };  // there is room again
+  Press(panel.cmdExit);
+  boxes_.on_show = {};
+  EXPECT_THAT(TakeBoxes(), ElementsAre(lost));
+  EXPECT_EQ(app_.ShowWord(Emulator::kRaine), "NO");
+  EXPECT_NE(Keys(Emulator::kRaine), "old|");
 }
 
 // Told once, and what is there is read by the next panel.
