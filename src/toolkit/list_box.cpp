@@ -308,7 +308,10 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
   constexpr qint64 kMoment = 700;  // milliseconds
   const bool is_enter = KeyCodeOf(*event) == key::kEnter;
   const bool has_just_run = enter_ran_.isValid() && enter_ran_.elapsed() < kMoment;
-  if (is_enter && (event->isAutoRepeat() || has_just_run)) return;
+  if (is_enter && (event->isAutoRepeat() || has_just_run)) {
+    if (has_just_run) enter_ran_.start();  // until it is let go
+    return;
+  }
   const int runs = ChildrenRun();
   KeyDown.Raise({.code = KeyCodeOf(*event), .shift = ShiftStateOf(*event)});
   if (is_enter && ChildrenRun() != runs) enter_ran_.start();
