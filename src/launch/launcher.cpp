@@ -256,10 +256,13 @@ LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPa
   const LaunchEnd end = launch.Run(game);
   std::vector<std::string> told = launch.Settle();  // the files are gone when the box comes up
   for (std::string& stays : told)
-    stays = "This file was made for the run and can't be removed: " + stays;
+    stays.insert(0, "This file was made for the run and can't be removed: ");
   if (end == LaunchEnd::kFailed) told.insert(told.begin(), launch.Failure());
   std::string text;
-  for (const std::string& line : told) text += (text.empty() ? "" : "\r") + line;
+  for (const std::string& line : told) {
+    if (!text.empty()) text += '\r';
+    text += line;
+  }
   if (!text.empty()) tools.boxes.Warn(tools.app.Title(), text);
   return end;
 }

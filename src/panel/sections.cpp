@@ -1,5 +1,6 @@
 #include "panel/sections.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "panel/panel_hover.h"
@@ -50,12 +51,10 @@ void Sections::OpenSection(const EmulatorProfile& profile) {
 }
 
 bool Sections::EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const {
-  for (const EmulatorProfile& profile : Profiles()) {
+  return std::ranges::all_of(Profiles(), [&](const EmulatorProfile& profile) {
     EmulatorPanel* const panel = Find(profile.emulator);
-    if (panel == nullptr || !tools_.app.IsOpen(profile.emulator)) continue;
-    if (!visit(*panel)) return false;
-  }
-  return true;
+    return panel == nullptr || !tools_.app.IsOpen(profile.emulator) || visit(*panel);
+  });
 }
 
 bool Sections::SaveOpenPanels() {
