@@ -8,11 +8,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "catalogue/game_list.h"
-#include "catalogue/scan.h"
-#include "launch/settings_store.h"
+#include "core/catalogue/game_list.h"
+#include "core/catalogue/scan.h"
+#include "core/launch/settings_store.h"
+#include "core/platform/dos_world.h"
 #include "measure.h"
-#include "platform/dos_world.h"
 #include "synthetic.h"
 
 namespace zarvo::bench {

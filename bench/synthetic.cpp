@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/text.h"
+#include "core/platform/text.h"
 
 namespace zarvo::bench {
 namespace {

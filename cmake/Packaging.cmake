@@ -14,7 +14,7 @@ install(FILES data/Mame.dat data/Callus.dat data/Raine.dat data/System16.dat dat
 install(FILES packaging/Readme.txt packaging/drives.ini DESTINATION ${share}/zarvo)
 install(FILES packaging/zarvo.desktop DESTINATION ${share}/applications)
 install(FILES packaging/example.zarvo.zarvo.metainfo.xml DESTINATION ${share}/metainfo)
-install(FILES src/toolkit/pictures/app_icon.svg DESTINATION ${share}/icons/hicolor/scalable/apps
+install(FILES src/ui/toolkit/pictures/app_icon.svg DESTINATION ${share}/icons/hicolor/scalable/apps
   RENAME zarvo.svg)
 install(FILES docs/zarvo.1 docs/zarvo-home.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

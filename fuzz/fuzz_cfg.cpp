@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "core/panel/cfg_file.h"
 #include "fakes/memory_files.h"
-#include "panel/cfg_file.h"
 
 namespace {
 

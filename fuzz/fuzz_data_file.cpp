@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "catalogue/game_list.h"
-#include "catalogue/scan.h"
+#include "core/catalogue/game_list.h"
+#include "core/catalogue/scan.h"
 #include "fakes/memory_files.h"
 
 namespace {

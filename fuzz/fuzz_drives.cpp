@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/dos_world.h"
+#include "core/platform/dos_world.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "catalogue/game_details.h"
+#include "core/catalogue/game_details.h"
 #include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "core/platform/line_reader.h"
 #include "import/catalogue_builder.h"
 #include "import/list_reader.h"
-#include "platform/line_reader.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "core/layouts/layout_store.h"
 #include "fakes/memory_files.h"
-#include "layouts/layout_store.h"
 
 namespace {
 

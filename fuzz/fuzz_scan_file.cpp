@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "catalogue/game_list.h"
+#include "core/catalogue/game_list.h"
 #include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "core/launch/option_layout.h"
+#include "core/launch/settings_store.h"
+#include "core/platform/text_lines.h"
 #include "fakes/memory_files.h"
-#include "launch/option_layout.h"
-#include "launch/settings_store.h"
-#include "platform/text_lines.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <cstring>
 #include <set>
 
+#include "core/platform/line_reader.h"
+#include "core/platform/name_list.h"
+#include "core/platform/text.h"
 #include "import/list_text.h"
-#include "platform/line_reader.h"
-#include "platform/name_list.h"
-#include "platform/text.h"
 
 namespace zarvo {
 namespace {

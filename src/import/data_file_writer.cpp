@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/host_file.h"
+#include "core/platform/host_file.h"
 
 namespace zarvo {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "core/platform/result.h"
 #include "import/catalogue_builder.h"
-#include "platform/result.h"
 
 namespace zarvo {
 

@@ -10,8 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "catalogue/data_file.h"
-#include "platform/result.h"
+#include "core/catalogue/data_file.h"
+#include "core/platform/result.h"
 
 namespace zarvo {
 

@@ -2,9 +2,9 @@
 // XML (`-listxml` of MAME, Logiqx DATs) and the text of `-listinfo` of MAME for DOS.
 #pragma once
 
+#include "core/platform/result.h"
 #include "import/input_window.h"
 #include "import/machine.h"
-#include "platform/result.h"
 
 namespace zarvo {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "platform/text.h"
+#include "core/platform/text.h"
 
 namespace zarvo {
 namespace {

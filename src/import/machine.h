@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/result.h"
+#include "core/platform/result.h"
 
 namespace zarvo {
 

@@ -9,11 +9,11 @@
 #include <exception>
 #include <functional>
 
+#include "core/platform/host_file.h"
 #include "import/catalogue_builder.h"
 #include "import/data_file_writer.h"
 #include "import/import_options.h"
 #include "import/list_reader.h"
-#include "platform/host_file.h"
 
 namespace zarvo {
 namespace {

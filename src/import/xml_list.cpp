@@ -10,8 +10,8 @@
 #include <memory>
 #include <string>
 
+#include "core/platform/text.h"
 #include "import/list_reader.h"
-#include "platform/text.h"
 
 namespace zarvo {
 namespace {

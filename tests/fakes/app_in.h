@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "shell/app_state.h"
+#include "core/emulators/app_state.h"
 
 namespace zarvo {
 

@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "core/platform/dos_path.h"
+#include "core/platform/dos_world.h"
+#include "core/platform/text.h"
 #include "fakes/memory_source.h"
-#include "platform/dos_path.h"
-#include "platform/dos_world.h"
-#include "platform/text.h"
 
 namespace zarvo {
 

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "core/platform/dos_files.h"
+#include "core/platform/text.h"
 #include "fakes/memory_source.h"
-#include "platform/dos_files.h"
-#include "platform/text.h"
 
 namespace zarvo {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/dos_files.h"
+#include "core/platform/dos_files.h"
 
 namespace zarvo {
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-#include "toolkit/window.h"
+#include "ui/toolkit/window.h"
 
 namespace zarvo {
 

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <vector>
 
-#include "platform/child_process.h"
+#include "core/platform/child_process.h"
 
 namespace zarvo {
 

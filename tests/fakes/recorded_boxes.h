@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/platform/message_boxes.h"
 #include "gtest/gtest.h"
-#include "platform/message_boxes.h"
 
 namespace zarvo {
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "toolkit/event.h"
+#include "ui/toolkit/event.h"
 
 namespace zarvo {
 

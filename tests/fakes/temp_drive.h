@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/dos_world.h"
+#include "core/platform/dos_world.h"
 
 namespace zarvo {
 

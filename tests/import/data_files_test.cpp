@@ -5,11 +5,11 @@
 #include <map>
 #include <set>
 
-#include "catalogue/game_list.h"
+#include "core/catalogue/game_list.h"
+#include "core/platform/name_list.h"
+#include "core/platform/text.h"
 #include "import/import_fixture.h"
 #include "import/list_text.h"
-#include "platform/name_list.h"
-#include "platform/text.h"
 
 namespace zarvo {
 namespace {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "core/platform/piece_source.h"
 #include "import/catalogue_builder.h"
 #include "import/list_reader.h"
-#include "platform/piece_source.h"
 
 namespace zarvo {
 

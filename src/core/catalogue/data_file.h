@@ -1,0 +1,96 @@
+// The data file of an emulator, `<Emu>.dat` in the folder Data: a header of 17 lines that begin
+// with "*", then one game a line, 21 fields each closed by a semicolon, sorted by name.
+//
+// Nothing of it is held in memory: every question opens the file and reads from its first line.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/emulators/app_state.h"
+#include "core/platform/dos_files.h"
+#include "core/platform/line_reader.h"
+
+namespace zarvo {
+
+// Places of the fields in a record, from 0.
+enum class Field : int {
+  kName,
+  kRomFile,
+  kOC,
+  kCloneOf,
+  kGenre,
+  kMadeBy,
+  kYear,
+  kPlayable,
+  kColors,
+  kSound,
+  kHiScore,
+  kCocktail,
+  kDriver,
+  kCpu1,
+  kCpu2,
+  kCpu3,
+  kCpu4,
+  kSound1,
+  kSound2,
+  kSound3,
+  kSound4
+};
+inline constexpr int kFieldCount = 21;
+
+struct GameRecord {
+  std::array<std::string, kFieldCount> fields;
+  int field_count = 0;  // fields that the line has closed by a semicolon; the others are empty
+
+  [[nodiscard]] const std::string& operator[](Field field) const {
+    return fields[static_cast<std::size_t>(field)];
+  }
+};
+
+inline constexpr int kHeaderLines = 17;
+
+// Cuts the first field off `rest` and its semicolon with it; nothing if no semicolon is left.
+std::optional<std::string_view> CutField(std::string_view& rest);
+
+// One record of an open data file after the other: blank lines, "#" and "*" lines are passed over.
+class RecordReader {
+ public:
+  // Sets the current drive and folder to the folder Data and opens the file by its bare name.
+  static Result<RecordReader> Open(DosFiles& files, const AppState& app,
+                                   const EmulatorProfile& profile);
+  // The next record's line, valid until the next call; false at the end of the file.
+  bool Next(std::string_view& line);
+  // True if the file could not be read to its end.
+  [[nodiscard]] bool Failed() const { return lines_.Failed(); }
+
+ private:
+  explicit RecordReader(LineReader lines) : lines_(std::move(lines)) {}
+  LineReader lines_;
+};
+
+// The first record whose name is `name` exactly; nothing if there is none or no file. An empty name
+// is no name.
+std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app,
+                                     const EmulatorProfile& profile, std::string_view name);
+
+// The header lines, each without its first character: kHeaderLines, fewer if the file ends inside
+// the header, none if there is no file or the first line that is neither blank nor a comment
+// doesn't begin with "*".
+std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app,
+                                    const EmulatorProfile& profile);
+
+// What a panel's load finds for its total.
+struct DataTotal {
+  bool file_opened = false;
+  std::optional<std::string> total;  // header line 8; nothing if the file ends before it
+};
+
+// Header line 8, counted from the first line that begins with "*", whatever stands before it.
+DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+
+}  // namespace zarvo

@@ -1,0 +1,161 @@
+#include "core/catalogue/game_list.h"
+
+#include <array>
+#include <string>
+
+#include "core/catalogue/scan.h"
+
+namespace zarvo {
+namespace {
+
+constexpr std::string_view kWorkFile = "tofilter.tmp";
+constexpr std::string_view kNeoGeo = "neogeo";
+
+// Drops `count` fields; false if the line has fewer. The fields are short, so a plain walk is
+// quicker than a search for each semicolon.
+bool DropFields(std::string_view& rest, int count) {
+  std::size_t place = 0;
+  while (count > 0 && place < rest.size()) {
+    if (rest[place++] == ';') --count;
+  }
+  rest.remove_prefix(place);
+  return count == 0;
+}
+
+enum class Verdict { kIn, kOut, kCut };
+
+Verdict InIf(bool passes) { return passes ? Verdict::kIn : Verdict::kOut; }
+
+// Whether a record belongs to a state; `rest` is what follows its name. The tests look at the start
+// of a field, whether or not it is closed, and a record without the fields before it is cut.
+Verdict Judge(GameState state, std::string_view rest) {
+  constexpr int kFieldsToOC = 1;
+  if (state == GameState::kAllSupported) return Verdict::kIn;
+  if (!DropFields(rest, kFieldsToOC)) return Verdict::kCut;
+  const std::string_view original_or_clone = rest;
+  if (state == GameState::kOriginals) return InIf(original_or_clone.starts_with('O'));
+  if (!DropFields(rest, 1)) return Verdict::kCut;
+  const bool neo_geo = rest.starts_with(kNeoGeo);
+  if (state == GameState::kNeoGeo) return InIf(neo_geo);
+  if (state == GameState::kNoNeoGeo) return InIf(!neo_geo);
+  return InIf(original_or_clone.starts_with('C') && !neo_geo);
+}
+
+FillResult FillFromDataFile(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+                            GameState state, NameList& list) {
+  if (state == GameState::kAllSupported) list.Clear();
+  auto records = RecordReader::Open(files, app, profile);
+  if (!records) return FillResult::kNoDataFile;
+  list.Clear();
+  std::string_view line;
+  while (records->Next(line)) {
+    const auto name = CutField(line);
+    const Verdict verdict = name ? Judge(state, line) : Verdict::kCut;
+    if (verdict == Verdict::kCut) break;
+    if (verdict == Verdict::kIn) list.Append(*name);
+  }
+  list.Sort();
+  return FillResult::kFilled;
+}
+
+// Takes the first line off `text`, without its line end.
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = text.find('\n');
+  std::string_view line = text.substr(0, end);
+  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
+// A line without the quotation marks round it, whatever stands in their place.
+std::string_view Unquote(std::string_view line) {
+  return line.size() < 2 ? std::string_view() : line.substr(1, line.size() - 2);
+}
+
+FillResult FillFromScan(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+                        char mark, NameList& list) {
+  if (!profile.has_scan) return FillResult::kNoScanFile;
+  const auto scan = ScanStoreOf(files, app, profile).Read();
+  if (!scan) return FillResult::kNoScanFile;
+  list.Clear();
+  for (std::string_view text = *scan; !text.empty();) {
+    const std::string_view entry = Unquote(TakeLine(text));
+    const std::size_t end = entry.find(';');
+    if (end != std::string_view::npos && entry.back() == mark) list.Append(entry.substr(0, end));
+  }
+  list.Sort();
+  return FillResult::kFilled;
+}
+
+int PlaceOf(ValueFilter filter) {
+  constexpr std::array kPlaces = {Field::kGenre, Field::kMadeBy, Field::kYear};
+  return static_cast<int>(kPlaces[static_cast<std::size_t>(filter)]);
+}
+
+// True if the field at `place`, counted from the start of `rest`, is exactly `value`.
+bool HasValue(std::string_view rest, int place, std::string_view value) {
+  return DropFields(rest, place) && rest.size() > value.size() && rest[value.size()] == ';' &&
+         rest.starts_with(value);
+}
+
+// The text of the work file: the names of `list`, as the data file spells them, whose record has
+// the value. Each name is looked for from where the one before it was found.
+std::string KeptNames(RecordReader& records, int place, std::string_view value,
+                      const NameList& list) {
+  std::string kept;
+  std::string_view line;
+  int index = 0;
+  while (index < list.Count() && records.Next(line)) {
+    if (!line.starts_with(list.At(index))) continue;
+    ++index;
+    const auto name = CutField(line);
+    if (name && HasValue(line, place - 1, value)) {
+      kept += '"';
+      kept += *name;
+      kept += "\"\r\n";
+    }
+  }
+  return kept;
+}
+
+// Puts the names of the work file into `list`, or leaves it if they can't be read.
+void ReadWorkFile(const DosFiles& files, NameList& list) {
+  auto source = files.Open(kWorkFile);
+  if (!source) return;
+  LineReader lines(std::move(*source));
+  NameList kept;
+  std::string_view line;
+  while (lines.Next(line)) kept.Append(Unquote(line));
+  if (lines.Failed()) return;
+  kept.Sort();
+  list = std::move(kept);
+}
+
+}  // namespace
+
+FillResult FillList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+                    GameState state, NameList& list) {
+  switch (state) {
+    case GameState::kAvailable:
+      return FillFromScan(files, app, profile, kFoundMark, list);
+    case GameState::kMissing:
+      return FillFromScan(files, app, profile, kMissingMark, list);
+    default:
+      return FillFromDataFile(files, app, profile, state, list);
+  }
+}
+
+void FilterList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+                ValueFilter filter, std::string_view value, NameList& list) {
+  const auto items = FilterItems(profile.emulator, filter);
+  if (items.empty() || value == items.front()) return;
+  auto records = RecordReader::Open(files, app, profile);
+  if (!records) return;
+  const std::string names = KeptNames(*records, PlaceOf(filter), value, list);
+  if (records->Failed()) return;
+  if (!files.WriteFile(kWorkFile, names)) return;
+  ReadWorkFile(files, list);
+  Ignore(files.DeleteFile(kWorkFile));
+}
+
+}  // namespace zarvo

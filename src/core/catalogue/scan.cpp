@@ -1,0 +1,129 @@
+#include "core/catalogue/scan.h"
+
+#include <optional>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "core/platform/dos_path.h"
+#include "core/platform/enter_folder.h"
+#include "core/platform/text.h"
+
+namespace zarvo {
+namespace {
+
+struct HashNoCase {
+  std::size_t operator()(std::string_view name) const {
+    std::size_t hash = 14695981039346656037U;
+    for (const char c : name) {
+      hash = (hash ^ FoldCase(static_cast<unsigned char>(c))) * 1099511628211U;
+    }
+    return hash;
+  }
+};
+
+struct SameNoCase {
+  bool operator()(std::string_view left, std::string_view right) const {
+    return EqualNoCase(left, right);
+  }
+};
+
+// The plain files of the current folder, looked through once.
+class Archives {
+ public:
+  explicit Archives(const DosFiles& files) {
+    auto listed = files.ListFolder("");
+    if (!listed) return;
+    entries_ = std::move(*listed);
+    names_.reserve(entries_.size());
+    for (const FolderEntry& entry : entries_) {
+      if (!entry.is_folder) names_.insert(entry.name);
+    }
+  }
+
+  bool Hold(std::string_view rom) {
+    if (!IsPlainName(rom)) return false;
+    name_.assign(rom).append(".zip");
+    return names_.contains(name_);
+  }
+
+ private:
+  std::vector<FolderEntry> entries_;
+  std::unordered_set<std::string_view, HashNoCase, SameNoCase> names_;
+  std::string name_;
+};
+
+struct ScanFields {
+  std::string_view name, rom_file, original_or_clone, clone_of;
+};
+
+// What the scan takes of a record; fields that it lacks are empty. Nothing if it has no name.
+std::optional<ScanFields> CutScanFields(std::string_view line) {
+  const auto name = CutField(line);
+  if (!name) return std::nullopt;
+  const auto next = [&line] { return CutField(line).value_or(std::string_view()); };
+  return ScanFields{
+      .name = *name, .rom_file = next(), .original_or_clone = next(), .clone_of = next()};
+}
+
+// The name of the archive that stands for a game, or nothing if none does and it gets no line. In
+// merged sets a clone lives in its parent's archive; a Neo-Geo game has one of its own.
+std::optional<std::string_view> ArchiveOf(const ScanFields& game, SetType sets) {
+  if (sets == SetType::kSplit || game.original_or_clone == "O" || game.clone_of == "neogeo") {
+    return game.rom_file;
+  }
+  if (game.original_or_clone == "C") return game.clone_of;
+  return std::nullopt;
+}
+
+// Goes to the rom folder, or stays in the folder cfg.
+void EnterRomFolder(DosFiles& files, const AppState& app, std::string_view rom_folder) {
+  Ignore(EnterFolder(files, app.CfgFolder()));
+  if (!EnterFolder(files, rom_folder)) Ignore(EnterFolder(files, app.CfgFolder()));
+}
+
+// Adds the lines of all games to `text` and gives the number of those found.
+int LookForGames(RecordReader& records, SetType sets, Archives& archives, std::string& text) {
+  int found = 0;
+  std::string_view line;
+  while (records.Next(line)) {
+    const auto game = CutScanFields(line);
+    const auto archive = game ? ArchiveOf(*game, sets) : std::nullopt;
+    if (!archive) continue;
+    const bool held = archives.Hold(*archive);
+    if (held) ++found;
+    text += '"';
+    text += game->name;
+    text += ';';
+    text += held ? kFoundMark : kMissingMark;
+    text += "\"\r\n";
+  }
+  return found;
+}
+
+}  // namespace
+
+Store ScanStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+  return {files, app.CfgFolder(), std::string(profile.scan_file),
+          std::string(profile.word) + "scn.tmp"};
+}
+
+Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+                             std::string_view rom_folder, SetType sets) {
+  auto records = RecordReader::Open(files, app, profile);
+  if (!records) return records.error();
+  EnterRomFolder(files, app, rom_folder);
+  Archives archives(files);
+  std::string text;
+  ScanOutcome outcome;
+  outcome.found =
+      LookForGames(*records, profile.knows_parents ? sets : SetType::kSplit, archives, text);
+  if (records->Failed()) {
+    return Error{std::string(profile.data_file) + ": The file could not be read to its end"};
+  }
+  outcome.written = ScanStoreOf(files, app, profile).Replace(text);
+  EnterRomFolder(files, app, rom_folder);
+  return outcome;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,110 @@
+#include "core/launch/launch_notes.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/platform/child_process.h"
+#include "core/platform/dos_path.h"
+#include "core/platform/text.h"
+#include "core/platform/text_lines.h"
+
+namespace zarvo {
+namespace {
+
+constexpr std::string_view kNoteFile = "running.dat";
+constexpr std::string_view kTemporary = "running.tmp";
+constexpr std::string_view kWork = "work ";
+constexpr std::string_view kCopy = "copy ";
+constexpr std::string_view kArchive = ".zip";
+
+// The note is read from the disk: it may name nothing but what a start could have made.
+bool IsWorkFile(std::string_view path) {
+  constexpr std::array kNames = {kBatchFile, kHalfCopy, kRunMark};
+  return DriveLetter(path) != 0 &&
+         std::any_of(kNames.begin(), kNames.end(),
+                     [path](std::string_view name) { return EqualNoCase(FileName(path), name); });
+}
+
+bool IsArchive(std::string_view path) {
+  std::string_view name = FileName(path);
+  if (DriveLetter(path) == 0 || !name.ends_with(kArchive)) return false;
+  name.remove_suffix(kArchive.size());
+  return IsPlainName(name);
+}
+
+}  // namespace
+
+LaunchNotes::LaunchNotes(DosFiles& files, const std::string& program_folder)
+    : files_(files),
+      note_(JoinPath(program_folder, kNoteFile)),
+      temporary_(JoinPath(program_folder, kTemporary)) {
+  Read();
+}
+
+void LaunchNotes::Read() {
+  if (!files_.FileExists(note_)) return;
+  const auto text = ReadAll(files_, note_);
+  if (!text) return;
+  std::string_view rest = *text;
+  while (!rest.empty()) {
+    std::string_view line = WithoutLineEnd(TakeLine(rest));
+    if (line.starts_with(kWork) && IsWorkFile(line.substr(kWork.size()))) {
+      entries_.push_back({.path = std::string(line.substr(kWork.size())), .identity = {}});
+    }
+    if (!line.starts_with(kCopy)) continue;
+    line.remove_prefix(kCopy.size());
+    const std::size_t blank = line.find(' ');
+    if (blank == 0 || blank == std::string_view::npos || !IsArchive(line.substr(blank + 1)))
+      continue;
+    entries_.push_back({.path = std::string(line.substr(blank + 1)),
+                        .identity = std::string(line.substr(0, blank))});
+  }
+}
+
+Status LaunchNotes::Write() {
+  std::string text;
+  for (const Entry& entry : entries_) {
+    text += entry.identity.empty() ? std::string(kWork) + entry.path
+                                   : std::string(kCopy) + entry.identity + " " + entry.path;
+    text += "\r\n";
+  }
+  const Status written = files_.ReplaceFile(note_, temporary_, text);
+  return written ? written : Status(Error{note_ + ": " + written.error().message});
+}
+
+Status LaunchNotes::AddWork(std::string path) {
+  entries_.push_back({.path = std::move(path), .identity = {}});
+  return Write();
+}
+
+Status LaunchNotes::AddCopy(std::string path, std::string identity) {
+  entries_.push_back({.path = std::move(path), .identity = std::move(identity)});
+  return Write();
+}
+
+Status LaunchNotes::Remove(const Entry& entry) {
+  if (!files_.FileExists(entry.path)) return Success();
+  if (!entry.identity.empty() && !entry.is_sure) {
+    const auto identity = files_.Identity(entry.path);
+    if (!identity || *identity != entry.identity) return Success();
+  }
+  return files_.DeleteFile(entry.path);
+}
+
+std::vector<std::string> LaunchNotes::Settle() {
+  std::vector<std::string> failures;
+  if (entries_.empty()) return failures;
+  std::erase_if(entries_, [&](const Entry& entry) {
+    const Status removed = Remove(entry);
+    if (!removed) failures.push_back(entry.path + ": " + removed.error().message);
+    return removed.ok();
+  });
+  if (!entries_.empty()) {
+    Ignore(Write());
+  } else if (files_.FileExists(note_)) {
+    Ignore(files_.DeleteFile(note_));
+  }
+  return failures;
+}
+
+}  // namespace zarvo

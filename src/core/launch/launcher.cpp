@@ -1,0 +1,270 @@
+#include "core/launch/launcher.h"
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "core/platform/child_process.h"
+#include "core/platform/dos_path.h"
+#include "core/platform/enter_folder.h"
+#include "core/platform/text.h"
+
+namespace zarvo {
+namespace {
+
+// The set of shared roms; alone it starts no game.
+constexpr std::string_view kNeoGeo = "neogeo";
+
+std::string RomFolderOf(const EmulatorProfile& profile, std::string_view emulator_folder) {
+  if (profile.rom_sub_folder.empty()) return std::string(emulator_folder);
+  return JoinPath(emulator_folder, profile.rom_sub_folder.substr(1));
+}
+
+bool SamePath(std::string_view left, std::string_view right) {
+  const auto left_parts = PathComponents(left);
+  const auto right_parts = PathComponents(right);
+  if (DriveLetter(left) != DriveLetter(right) || left_parts.size() != right_parts.size()) {
+    return false;
+  }
+  for (std::size_t i = 0; i < left_parts.size(); ++i) {
+    if (!EqualNoCase(left_parts[i], right_parts[i])) return false;
+  }
+  return true;
+}
+
+// Also by another drive, or through a link of the host.
+bool SameFolder(const DosFiles& files, std::string_view left, std::string_view right) {
+  if (SamePath(left, right)) return true;
+  if (left.empty()) return false;  // no folder at all, not the current one
+  const auto left_host = files.HostPath(left);
+  const auto right_host = files.HostPath(right);
+  std::error_code no_such_folder;
+  return left_host && right_host &&
+         std::filesystem::equivalent(*left_host, *right_host, no_such_folder);
+}
+
+class OneLaunch {
+ public:
+  OneLaunch(const EmulatorProfile& profile, LaunchPanel& panel, const LaunchTools& tools)
+      : profile_(profile),
+        panel_(panel),
+        tools_(tools),
+        files_(tools.files),
+        notes_(tools.files, tools.app.ProgramFolder) {
+    notes_.Settle();  // of a start that was cut off
+  }
+
+  LaunchEnd Run(std::string_view game);
+  // What failed, for a box; after kFailed.
+  [[nodiscard]] const std::string& Failure() const { return failure_; }
+  // Removes what the launch has made; what can't be removed, with the reasons.
+  std::vector<std::string> Settle() { return notes_.Settle(); }
+
+ private:
+  // How the launch has ended, or nothing while it goes on.
+  using Ended = std::optional<LaunchEnd>;
+
+  Ended FirstSteps(std::string_view game);
+  Ended TestEmulator();
+  Ended FindRom(std::string_view game);
+  Ended FindFolders();
+  Ended LookForArchive();
+  Ended BringIn();
+  Ended BringInWithParent();
+  Ended BringInAlone();
+  Ended CopyIn(const std::string& rom);
+  Ended AskToUse(const std::string& rom);
+  Ended Ask(const std::string& question);
+  LaunchEnd RunBatch();
+
+  LaunchEnd NoRom();
+  LaunchEnd Fail(std::string message);
+  [[nodiscard]] std::string TitleOr(std::string_view title) const;
+
+  // In the folder of the game's record, and in the emulator's own.
+  [[nodiscard]] bool IsGiven(const std::string& rom) const;
+  [[nodiscard]] bool StandsInOwnFolder(const std::string& rom) const;
+  [[nodiscard]] bool IsNeoGeo() const { return EqualNoCase(parent_, kNeoGeo); }
+
+  const EmulatorProfile& profile_;
+  LaunchPanel& panel_;
+  const LaunchTools& tools_;
+  DosFiles& files_;
+  CommandInput input_;
+  std::string rom_;
+  std::string parent_;  // empty: none
+  std::string own_rom_folder_;
+  bool is_own_folder_ = false;
+  std::string failure_;
+  LaunchNotes notes_;
+};
+
+LaunchEnd OneLaunch::Run(std::string_view game) {
+  panel_.SaveCfg();
+  if (const Ended ended = FirstSteps(game)) return *ended;
+  if (const Ended ended = FindFolders()) return *ended;
+  if (const Ended ended = LookForArchive()) return *ended;
+  if (const Ended ended = BringIn()) return *ended;
+  return RunBatch();
+}
+
+OneLaunch::Ended OneLaunch::FirstSteps(std::string_view game) {
+  Ended ended = profile_.tests_emulator_first ? TestEmulator() : FindRom(game);
+  if (!ended) ended = profile_.tests_emulator_first ? FindRom(game) : TestEmulator();
+  return ended;
+}
+
+OneLaunch::Ended OneLaunch::TestEmulator() {
+  const std::string path = panel_.EmulatorPath();
+  if (!path.empty() && files_.FileExists(path)) return std::nullopt;
+  tools_.boxes.Warn(TitleOr(profile_.no_emulator_title), tools_.app.messages.MsgNoEmulator);
+  panel_.ShowEmulatorPicker();
+  return LaunchEnd::kNoEmulator;
+}
+
+OneLaunch::Ended OneLaunch::FindRom(std::string_view game) {
+  if (!panel_.FindRom(game)) return LaunchEnd::kUnknownGame;
+  rom_ = panel_.RomName();
+  if (profile_.knows_parents && IsPlainName(panel_.ParentRom())) parent_ = panel_.ParentRom();
+  return std::nullopt;
+}
+
+OneLaunch::Ended OneLaunch::FindFolders() {
+  const std::string folder = panel_.EmulatorFolder();
+  if (DriveLetter(folder) == 0) {
+    return Fail("The emulator's folder isn't known.\rPlease choose the emulator in section CONF");
+  }
+  input_ = panel_.Command();
+  input_.emulator_path = panel_.EmulatorPath();
+  input_.rom_name = rom_;
+  own_rom_folder_ = RomFolderOf(profile_, folder);
+  is_own_folder_ = SameFolder(files_, input_.options.rom_folder, own_rom_folder_);
+  return std::nullopt;
+}
+
+OneLaunch::Ended OneLaunch::LookForArchive() {
+  // A name that could lead elsewhere stands for no archive at all.
+  if (!IsPlainName(rom_)) return NoRom();
+  const bool looks = profile_.archive_look == ArchiveLook::kAlways ||
+                     (profile_.archive_look == ArchiveLook::kInOwnFolder && is_own_folder_);
+  if (!looks || IsGiven(rom_) || (IsGiven(parent_) && !IsNeoGeo())) return std::nullopt;
+  return NoRom();
+}
+
+OneLaunch::Ended OneLaunch::BringIn() {
+  if (is_own_folder_) return std::nullopt;
+  return profile_.knows_parents ? BringInWithParent() : BringInAlone();
+}
+
+OneLaunch::Ended OneLaunch::BringInWithParent() {
+  const bool stood = StandsInOwnFolder(rom_);
+  Ignore(files_.MakeFolder(own_rom_folder_));
+  if (!stood && IsGiven(rom_)) return CopyIn(rom_);
+  if (stood) {
+    if (const Ended refused = AskToUse(rom_)) return refused;
+  }
+  if (!IsGiven(parent_)) return std::nullopt;
+  if (IsNeoGeo()) return NoRom();
+  if (!stood) return StandsInOwnFolder(parent_) ? AskToUse(parent_) : CopyIn(parent_);
+  return Ask("La rom " + rom_ +
+             " \xE8 gi\xE0 contenuta nella directory mame/roms. E' stato scelto invece di "
+             "utilizzare una rom contenuta in un altra cartella. Proseguendo, la rom contenuta in "
+             "mame/roms verr\xE0 sovrascritta, e verr\xE0 perduta. Continuare?");
+}
+
+OneLaunch::Ended OneLaunch::BringInAlone() {
+  if (!IsGiven(rom_)) return NoRom();
+  if (StandsInOwnFolder(rom_)) return AskToUse(rom_);
+  return CopyIn(rom_) ? Ended(NoRom()) : std::nullopt;
+}
+
+// The archive takes its name when it is whole, and only if nothing has it by then.
+OneLaunch::Ended OneLaunch::CopyIn(const std::string& rom) {
+  const std::string archive = rom + ".zip";
+  const std::string copy = JoinPath(own_rom_folder_, archive);
+  const std::string half = JoinPath(own_rom_folder_, kHalfCopy);
+  if (Status noted = notes_.AddWork(half); !noted) return Fail(noted.error().message);
+  if (files_.FileExists(half)) Ignore(files_.DeleteFile(half));
+  Status done = files_.CopyFile(JoinPath(input_.options.rom_folder, archive), half);
+  if (!done) return Fail(copy + ": " + done.error().message);
+  const auto identity = files_.Identity(half);
+  if (!identity) return Fail(half + ": " + identity.error().message);
+  if (Status noted = notes_.AddCopy(copy, *identity); !noted) return Fail(noted.error().message);
+  done = files_.RenameFile(half, copy);
+  if (!done) return Fail(copy + ": " + done.error().message);
+  notes_.CopyStands();
+  return std::nullopt;
+}
+
+// The archive that stands in the emulator's folder is the one that runs, if the player agrees.
+OneLaunch::Ended OneLaunch::AskToUse(const std::string& rom) {
+  return Ask(rom + ": " + tools_.app.messages.MsgRomOverwrite);
+}
+
+// Both questions speak of overwriting; what is done to the archive is told below them.
+OneLaunch::Ended OneLaunch::Ask(const std::string& question) {
+  const bool agreed = tools_.boxes.Ask(
+      tools_.app.Title(), question + "\r\rYes runs the archive that stands in " + own_rom_folder_ +
+                              ". Zarvo overwrites and deletes nothing there.");
+  return agreed ? Ended() : LaunchEnd::kRefused;
+}
+
+LaunchEnd OneLaunch::RunBatch() {
+  const std::string folder = panel_.EmulatorFolder();
+  const Status entered = EnterFolder(files_, folder);
+  if (!entered) return Fail(folder + ": " + entered.error().message);
+  std::string batch = JoinPath(folder, kBatchFile);
+  // A note that can't be kept is no reason not to play: a batch file left over does no harm.
+  Ignore(notes_.AddWork(batch));
+  Ignore(notes_.AddWork(JoinPath(folder, kRunMark)));
+  const Status written = files_.WriteFile(kBatchFile, CommandLine(profile_, input_) + "\r\n");
+  if (!written) return Fail(batch + ": " + written.error().message);
+  const Status run = tools_.run("command.com /c " + std::string(kBatchFile));
+  return run ? LaunchEnd::kRan : Fail(run.error().message);
+}
+
+LaunchEnd OneLaunch::NoRom() {
+  tools_.boxes.Warn(TitleOr(profile_.no_rom_title), tools_.app.messages.MsgNoRom);
+  panel_.ShowRomPicker();
+  return LaunchEnd::kNoRom;
+}
+
+LaunchEnd OneLaunch::Fail(std::string message) {
+  failure_ = std::move(message);
+  return LaunchEnd::kFailed;
+}
+
+std::string OneLaunch::TitleOr(std::string_view title) const {
+  return title.empty() ? tools_.app.Title() : std::string(title);
+}
+
+bool OneLaunch::IsGiven(const std::string& rom) const {
+  const std::string& folder = input_.options.rom_folder;
+  return !rom.empty() && DriveLetter(folder) != 0 &&
+         files_.FileExists(JoinPath(folder, rom + ".zip"));
+}
+
+bool OneLaunch::StandsInOwnFolder(const std::string& rom) const {
+  return files_.FileExists(JoinPath(own_rom_folder_, rom + ".zip"));
+}
+
+}  // namespace
+
+LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPanel& panel,
+                 const LaunchTools& tools) {
+  OneLaunch launch(profile, panel, tools);
+  const LaunchEnd end = launch.Run(game);
+  std::vector<std::string> told = launch.Settle();  // the files are gone when the box comes up
+  for (std::string& stays : told)
+    stays.insert(0, "This file was made for the run and can't be removed: ");
+  if (end == LaunchEnd::kFailed) told.insert(told.begin(), launch.Failure());
+  std::string text;
+  for (const std::string& line : told) {
+    if (!text.empty()) text += '\r';
+    text += line;
+  }
+  if (!text.empty()) tools.boxes.Warn(tools.app.Title(), text);
+  return end;
+}
+
+}  // namespace zarvo

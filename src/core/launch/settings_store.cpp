@@ -1,0 +1,172 @@
+#include "core/launch/settings_store.h"
+
+#include <optional>
+#include <vector>
+
+#include "core/launch/option_layout.h"
+#include "core/platform/text.h"
+#include "core/platform/text_lines.h"
+
+namespace zarvo {
+namespace {
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+// A text between quotes; nothing for anything else.
+std::optional<std::string> Unquoted(std::string_view field) {
+  if (field.size() < 2 || !field.starts_with('"') || !field.ends_with('"')) return std::nullopt;
+  return std::string(field.substr(1, field.size() - 2));
+}
+
+// The lines that a load looks for, without their line ends.
+struct FoundLines {
+  std::optional<std::string_view> record;
+  std::optional<std::string_view> default_record;
+  bool stopped = false;  // by an empty line, before the record
+};
+
+FoundLines FindLines(std::string_view store, std::string_view key) {
+  const std::string quoted_key = Quoted(key);
+  const std::string quoted_default = Quoted(kDefaultKey);
+  FoundLines found;
+  while (!store.empty() && !found.record && !found.stopped) {
+    const std::string_view line = WithoutLineEnd(TakeLine(store));
+    if (line.starts_with(quoted_key)) found.record = line;
+    if (line.starts_with(quoted_default) && !found.default_record) found.default_record = line;
+    found.stopped = line.empty();
+  }
+  return found;
+}
+
+// What stands behind the key and its comma, cut at every comma and tilde.
+std::vector<std::string_view> FieldsOf(std::string_view line, std::string_view key) {
+  std::string_view rest = line.substr(std::min(line.size(), key.size() + 3));
+  std::vector<std::string_view> fields;
+  for (;;) {
+    const std::size_t end = rest.find_first_of(",~");
+    fields.push_back(rest.substr(0, end));
+    if (end == std::string_view::npos) return fields;
+    rest.remove_prefix(end + 1);
+  }
+}
+
+// A combo may stand without a selection.
+bool CanHold(const OptionSpec& option, int number) {
+  return InRange(option, number) || (option.kind == OptionKind::kCombo && number == -1);
+}
+
+void Take(const OptionSpec& option, std::string_view field, OptionValue& value) {
+  if (option.kind == OptionKind::kText) {
+    if (auto text = Unquoted(field)) value.text = *std::move(text);
+    return;
+  }
+  const std::optional<int> number = ParseInt16(field);
+  if (number && CanHold(option, *number)) value.number = *number;
+}
+
+void Apply(std::span<const std::string_view> fields, std::span<const OptionSpec> options,
+           OptionValues& values) {
+  if (auto folder = Unquoted(fields[0])) values.rom_folder = *std::move(folder);
+  for (std::size_t i = 0; i < options.size() && i + 1 < fields.size(); ++i) {
+    if (options[i].stored) Take(options[i], fields[i + 1], values.values[i]);
+  }
+}
+
+void Remember(std::span<const std::string_view> fields, AppState& app) {
+  const std::size_t count = std::min(fields.size(), app.SettingsFields.size());
+  for (std::size_t i = 0; i < count; ++i) app.SettingsFields[i] = fields[i];
+}
+
+// What isn't stored, and what can be used, stay as they are on the page.
+void KeepUnstored(std::span<const OptionSpec> options, const OptionValues& page,
+                  OptionValues& loaded) {
+  if (page.values.size() != options.size()) return;
+  for (std::size_t i = 0; i < options.size(); ++i) {
+    if (!options[i].stored) loaded.values[i] = page.values[i];
+    loaded.values[i].enabled = page.values[i].enabled;
+  }
+}
+
+std::string FieldOf(const OptionSpec& option, const OptionValue& value) {
+  return option.kind == OptionKind::kText ? Quoted(value.text) : std::to_string(value.number);
+}
+
+bool HasRecord(std::string_view store, std::string_view quoted_key) {
+  while (!store.empty()) {
+    const std::string_view line = WithoutLineEnd(TakeLine(store));
+    if (line.empty()) return false;
+    if (line.starts_with(quoted_key)) return true;
+  }
+  return false;
+}
+
+std::string WithReplaced(std::string_view store, std::string_view quoted_key,
+                         const std::string& record) {
+  std::string text;
+  text.reserve(store.size() + record.size());
+  while (!store.empty()) {
+    const std::string_view line = TakeLine(store);
+    text.append(line.starts_with(quoted_key) ? std::string_view(record) : line);
+  }
+  return text;
+}
+
+std::string WithAppended(std::string store, const std::string& record) {
+  if (!EndsItsLine(store)) store += "\r\n";
+  return std::move(store) + record;
+}
+
+}  // namespace
+
+Store SettingsStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
+  return {files, app.CfgFolder(), std::string(profile.settings_file),
+          std::string(profile.settings_temp_file)};
+}
+
+LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& profile,
+                         std::string_view key, OptionValues& values) {
+  app.SettingsFound = false;
+  const auto text = store.Load();
+  if (!text) return LoadOutcome::kNothing;
+  const FoundLines lines = FindLines(*text, key);
+  if (lines.stopped) return LoadOutcome::kNothing;
+
+  const auto options = OptionsOf(profile.emulator);
+  OptionValues loaded = DefaultValues(profile, app.RomPathOf(profile.emulator));
+  if (lines.record) KeepUnstored(options, values, loaded);
+  values = std::move(loaded);
+  const auto line = lines.record ? lines.record : lines.default_record;
+  if (!line) return LoadOutcome::kDefaults;
+
+  const auto fields = FieldsOf(*line, lines.record ? key : kDefaultKey);
+  Remember(fields, app);
+  Apply(fields, options, values);
+  app.SettingsFound = true;
+  return LoadOutcome::kRecord;
+}
+
+Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_view key,
+                    const OptionValues& values) {
+  const std::string record = RecordLine(profile, key, values) + "\r\n";
+  const std::string quoted_key = Quoted(key);
+  return store.Change([&](std::string text) {
+    return HasRecord(text, quoted_key) ? WithReplaced(text, quoted_key, record)
+                                       : WithAppended(std::move(text), record);
+  });
+}
+
+Status SaveAsDefault(Store& store, const EmulatorProfile& profile, const OptionValues& values) {
+  return store.Overwrite(RecordLine(profile, kDefaultKey, values) + "\r\n");
+}
+
+std::string RecordLine(const EmulatorProfile& profile, std::string_view key,
+                       const OptionValues& values) {
+  std::string line = Quoted(key) + "," + Quoted(values.rom_folder);
+  const auto options = OptionsOf(profile.emulator);
+  for (std::size_t i = 0; i < options.size(); ++i) {
+    if (options[i].stored) line += "," + FieldOf(options[i], values.values[i]);
+  }
+  return line;
+}
+
+}  // namespace zarvo

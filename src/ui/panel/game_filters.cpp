@@ -1,0 +1,167 @@
+#include "ui/panel/game_filters.h"
+
+#include <utility>
+
+#include "ui/panel/control_names.h"
+#include "ui/panel/page_parts.h"
+#include "ui/panel/panel_rules.h"
+#include "ui/panel/panel_texts.h"
+#include "ui/toolkit/keys.h"
+
+namespace zarvo {
+
+GameFilters::GameFilters(QWidget* panel, const EmulatorProfile& profile, const PanelTools& tools)
+    : profile_(profile), tools_(tools) {
+  if (!profile.has_game_list) return;
+  BuildList(panel);
+  if (profile.has_filters) BuildCombos(panel);
+  BuildCounters(panel);
+}
+
+void GameFilters::BuildList(QWidget* panel) {
+  const PanelRules& rules = RulesOf(profile_.emulator);
+  lstRom = new ListBox(panel);
+  lstRom->SetName(ControlName(profile_, "lstRom"));
+  lstRom->SetAccessibleName("Games");
+  lstRom->SetSorted(true);
+  lstRom->SetColumns(rules.start_columns);
+  lstRom->SetPlace(rules.game_list);
+}
+
+void GameFilters::BuildCombos(QWidget* panel) {
+  struct Row {
+    ComboBox** combo;
+    std::string_view tail;
+    std::string_view accessible;
+    std::span<const std::string_view> items;
+  };
+  const std::array<Row, 4> rows = {{
+      {&cboFilterMisc, "Misc", "State filter", StateItems(profile_.emulator)},
+      {&cboFilterGenre, "Genre", "Genre filter",
+       FilterItems(profile_.emulator, ValueFilter::kGenre)},
+      {&cboFilterManufactor, "Manufactor", "Manufacturer filter",
+       FilterItems(profile_.emulator, ValueFilter::kManufactor)},
+      {&cboFilterYear, "Year", "Year filter", FilterItems(profile_.emulator, ValueFilter::kYear)},
+  }};
+  const PanelRules& rules = RulesOf(profile_.emulator);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    auto* const combo = new ComboBox(panel);
+    *rows[i].combo = combo;
+    combo->SetName(ControlName(profile_, "cboFilter", rows[i].tail));
+    combo->SetAccessibleName(rows[i].accessible);
+    for (const std::string_view item : rows[i].items) combo->AddItem(item);
+    combo->SetPlace({rules.combos[i].left, 4650, rules.combos[i].width, 285});
+    combo->Click.Connect([this, combo] { OnComboClick(combo); });
+    if (rules.shift_resets_filters) {
+      combo->KeyDown.Connect([this](const KeyArgs& key) { OnComboKey(key); });
+    }
+  }
+}
+
+void GameFilters::BuildCounters(QWidget* panel) {
+  const PanelTexts& texts = TextsOf(profile_.emulator);
+  // Between the year combo and the right edge; the long captions take a smaller letter.
+  const bool narrow = texts.total_caption.size() > 2;
+  const int left = profile_.has_filters ? (narrow ? 5445 : 5640) : 5340;
+  const int caption_width = narrow ? 495 : 165;
+  const auto counter = [&](int top, std::string_view caption, std::string_view tail) {
+    Label* const text = MakeCaption(panel, {left, top, caption_width, 165}, caption);
+    Label* const number =
+        MakeCaption(panel, {left + caption_width, top, 6285 - left - caption_width, 165}, "");
+    number->SetName(ControlName(profile_, "lbl", tail));
+    for (Label* const label : {text, number}) {
+      label->SetForeColor(kPeriwinkle);
+      if (narrow && profile_.has_filters) label->SetTextSize(9);
+    }
+    number->SetForeColor(kWhite);
+    return number;
+  };
+  if (!texts.count_caption.empty()) lblRomCount = counter(4635, texts.count_caption, "RomCount");
+  lblTotal = counter(profile_.has_filters ? 4800 : 4605, texts.total_caption, "Total");
+  lblTotal->SetCaption(texts.design_total);
+}
+
+void GameFilters::Load() {
+  if (profile_.has_filters) {
+    lblFilterHide = "FREE";
+    for (ComboBox* const combo : Combos()) combo->SetListIndex(0);
+    lblFilterHide.clear();
+  }
+  if (lblTotal != nullptr) ReadTotal();
+}
+
+void GameFilters::ReadTotal() {
+  const DataTotal total = ReadDataTotal(tools_.files, tools_.app, profile_);
+  const bool empty_without_file = TextsOf(profile_.emulator).design_total.empty();
+  if (total.total) {
+    lblTotal->SetCaption(*total.total);
+  } else if (empty_without_file) {
+    lblTotal->SetCaption("");
+  }
+}
+
+void GameFilters::ShowCount() {
+  if (lblRomCount != nullptr) lblRomCount->SetCaption(std::to_string(lstRom->ListCount()));
+}
+
+void GameFilters::Fill(GameState state) {
+  NameList names = lstRom->Items();
+  switch (FillList(tools_.files, tools_.app, profile_, state, names)) {
+    case FillResult::kFilled:
+      lstRom->SetItems(std::move(names));
+      ShowCount();
+      break;
+    case FillResult::kNoDataFile:
+      if (state == GameState::kAllSupported) lstRom->Clear();
+      break;
+    case FillResult::kNoScanFile:
+      ReportMissingScan();
+      break;
+  }
+}
+
+void GameFilters::ReportMissingScan() {
+  lstRom->SetVisible(true);
+  tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgNoScnFile);
+  cboFilterMisc->SetListIndex(0);
+  if (on_missing_scan) on_missing_scan();
+}
+
+void GameFilters::Refresh() {
+  const int state = cboFilterMisc->ListIndex();
+  const std::string genre = cboFilterGenre->Text();
+  const std::string manufactor = cboFilterManufactor->Text();
+  const std::string year = cboFilterYear->Text();
+  if (state >= 0) Fill(static_cast<GameState>(state));
+  Step(ValueFilter::kGenre, genre);
+  Step(ValueFilter::kManufactor, manufactor);
+  Step(ValueFilter::kYear, year);
+  lstRom->SetListIndex(0);
+}
+
+void GameFilters::Step(ValueFilter filter, const std::string& value) {
+  if (value == FilterItems(profile_.emulator, filter).front()) return;
+  lblFilterHide = "FREE";
+  NameList names = lstRom->Items();
+  FilterList(tools_.files, tools_.app, profile_, filter, value, names);
+  lstRom->SetItems(std::move(names));
+  lblFilterHide.clear();
+}
+
+void GameFilters::OnComboClick(ComboBox* combo) {
+  if (lblFilterHide == "FREE") return;
+  lstRom->SetVisible(false);
+  Refresh();
+  lstRom->SetVisible(true);
+  ShowCount();
+  const bool neutral = combo->ListIndex() == 0;
+  combo->SetBackColor(neutral ? kSilver : kLavender);
+  if (combo != cboFilterMisc) combo->SetForeColor(neutral ? kBlack : kDarkRed);
+}
+
+void GameFilters::OnComboKey(const KeyArgs& key) {
+  if (key.shift != kShiftDown) return;
+  for (ComboBox* const combo : Combos()) combo->SetListIndex(0);
+}
+
+}  // namespace zarvo

@@ -1,0 +1,29 @@
+// The help page: the keys of the emulator, and on some panels a list above them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/catalogue/game_details.h"
+#include "core/emulators/emulator_profile.h"
+#include "ui/toolkit/frame.h"
+#include "ui/toolkit/list_box.h"
+
+namespace zarvo {
+
+class HelpPage : public PictureBox {
+ public:
+  HelpPage(QWidget* parent, const EmulatorProfile& profile);
+
+  // Replaces the content of the list.
+  void SetLines(const std::vector<std::string>& lines) const;
+
+  ListBox* lstHelp = nullptr;  // nullptr: this panel has keys alone
+
+ private:
+  int BuildList(const EmulatorProfile& profile);
+  void BuildKeys(int top, Emulator emulator);
+  void BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator);
+};
+
+}  // namespace zarvo

@@ -1,0 +1,108 @@
+#include "ui/panel/info_page.h"
+
+#include <array>
+
+#include "ui/panel/control_names.h"
+#include "ui/panel/page_parts.h"
+
+namespace zarvo {
+namespace {
+
+// Where the value of a field stands: its row on the page and the width of its caption, in twips.
+struct RowPlace {
+  Field field;
+  TwipRect place;
+  int caption_width;
+};
+
+constexpr Colour kValue{0x8A3A1E};  // a blue that stands out from the captions
+
+constexpr int kRow = 195;
+
+constexpr TwipRect LeftRow(int top, int row) { return {105, top + row * kRow, 1770, kRow}; }
+constexpr TwipRect RightRow(int top, int row) { return {2010, top + row * kRow, 1800, kRow}; }
+
+constexpr int kGeneralTop = 240;
+constexpr int kEmulationTop = 1230;
+constexpr int kChipsTop = 2730;
+
+constexpr int kWide = 765;
+constexpr int kNarrow = 705;
+
+constexpr std::array<RowPlace, kFieldCount> kRows = {{
+    {Field::kName, {105, kGeneralTop, 3555, kRow}, kWide},
+    {Field::kRomFile, LeftRow(kEmulationTop, 0), kWide},
+    {Field::kOC, LeftRow(kEmulationTop, 3), kWide},
+    {Field::kCloneOf, LeftRow(kEmulationTop, 4), kWide},
+    {Field::kGenre, {105, kGeneralTop + 2 * kRow, 3555, kRow}, kWide},
+    {Field::kMadeBy, {105, kGeneralTop + kRow, 2580, kRow}, kWide},
+    {Field::kYear, {2790, kGeneralTop + kRow, 945, kRow}, 450},
+    {Field::kPlayable, RightRow(kEmulationTop, 0), kWide},
+    {Field::kColors, RightRow(kEmulationTop, 1), kWide},
+    {Field::kSound, RightRow(kEmulationTop, 2), kWide},
+    {Field::kHiScore, RightRow(kEmulationTop, 3), kWide},
+    {Field::kCocktail, RightRow(kEmulationTop, 4), kWide},
+    {Field::kDriver, LeftRow(kEmulationTop, 2), kWide},
+    {Field::kCpu1, LeftRow(kChipsTop, 0), kNarrow},
+    {Field::kCpu2, LeftRow(kChipsTop, 1), kNarrow},
+    {Field::kCpu3, LeftRow(kChipsTop, 2), kNarrow},
+    {Field::kCpu4, LeftRow(kChipsTop, 3), kNarrow},
+    {Field::kSound1, RightRow(kChipsTop, 0), kNarrow},
+    {Field::kSound2, RightRow(kChipsTop, 1), kNarrow},
+    {Field::kSound3, RightRow(kChipsTop, 2), kNarrow},
+    {Field::kSound4, RightRow(kChipsTop, 3), kNarrow},
+}};
+
+}  // namespace
+
+InfoPage::InfoPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
+  SetName(ControlName(profile, "picInfo"));
+  SetAccessibleName("Details page");
+  SetBackColor(kCard);
+  BuildFrames();
+  BuildRows();
+}
+
+void InfoPage::BuildFrames() {
+  MakeFrame(this, {30, 45, 3795, 870}, " General Info:");
+  MakeFrame(this, {30, 1020, 1860, 1260}, " Emulation Info:");
+  MakeFrame(this, {1950, 1020, 1875, 1260}, " Emulation Accuracy:");
+  MakeFrame(this, {30, 2520, 1860, 1095}, " CPU Emulation");
+  MakeFrame(this, {1950, 2520, 1875, 1095}, " Sound Emulation");
+}
+
+void InfoPage::BuildRows() {
+  labels_.resize(kFieldCount);
+  for (const DetailRow& row : DetailRows()) {
+    for (const RowPlace& where : kRows) {
+      if (where.field != row.field) continue;
+      labels_[static_cast<std::size_t>(row.field)] =
+          Row(where.place, where.caption_width, row.caption, row.label);
+    }
+  }
+  lblInfoSamples = Row(LeftRow(kEmulationTop, 1), kWide, "Samples:", "lblInfoSamples");
+}
+
+Label* InfoPage::Row(const TwipRect& place, int caption_width, std::string_view caption,
+                     std::string_view name) {
+  MakeCaption(this, {place.left, place.top, caption_width, place.height}, caption);
+  Label* const value = MakeCaption(
+      this, {place.left + caption_width, place.top, place.width - caption_width, place.height}, "");
+  value->SetName(name);
+  value->SetForeColor(kValue);
+  return value;
+}
+
+Label* InfoPage::FieldLabel(Field field) const { return labels_[static_cast<std::size_t>(field)]; }
+
+void InfoPage::ShowRecord(const GameRecord& record) {
+  for (const DetailRow& row : DetailRows()) {
+    const auto text = DetailText(record, row.field);
+    if (!text) continue;
+    FieldLabel(row.field)->SetCaption(*text);
+    FieldLabel(row.field)->SetToolTipText(*text);  // a long one doesn't fit its row
+  }
+  lblInfoSamples->SetCaption(SamplesText(record));
+}
+
+}  // namespace zarvo

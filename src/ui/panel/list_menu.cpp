@@ -1,0 +1,51 @@
+#include "ui/panel/list_menu.h"
+
+#include "core/catalogue/data_file.h"
+#include "ui/panel/control_names.h"
+
+namespace zarvo {
+namespace {
+
+// Places of the items in the menu.
+enum Item { kManufactor, kYear, kGenre, kSeparator, kOC };
+
+std::string_view OriginalOrClone(std::string_view oc) {
+  if (oc == "O") return "Original";
+  return oc == "C" ? "Clone" : "";
+}
+
+}  // namespace
+
+ListMenu::ListMenu(const EmulatorProfile& profile, const PanelTools& tools)
+    : profile_(profile),
+      tools_(tools),
+      menu_(ControlName(profile, "mnu"),
+            {ControlName(profile, "mnuManufactor"), ControlName(profile, "mnuYear"),
+             ControlName(profile, "mnuGenre"), "", ControlName(profile, "mnuOC")}) {}
+
+void ListMenu::Prepare(std::string_view name) {
+  const auto record = FindRecord(tools_.files, tools_.app, profile_, name);
+  if (!record && !name.empty()) return;
+  const GameRecord facts = record.value_or(GameRecord{});
+  menu_.SetCaption(kManufactor, facts[Field::kMadeBy]);
+  menu_.SetCaption(kYear, facts[Field::kYear]);
+  menu_.SetCaption(kGenre, facts[Field::kGenre]);
+  menu_.SetCaption(kOC, OriginalOrClone(facts[Field::kOC]));
+}
+
+void ListMenu::Serve(ListBox* list, bool needs_selection) {
+  list->MouseDown.Connect([this, list, needs_selection](const MouseArgs& mouse) {
+    if (mouse.button == MouseButton::kRight) Open(*list, needs_selection, mouse.global);
+  });
+  list->MenuKey.Connect(
+      [this, list, needs_selection](QPoint place) { Open(*list, needs_selection, place); });
+}
+
+void ListMenu::Open(const ListBox& list, bool needs_selection, QPoint place) {
+  const std::string name = list.Text();
+  if (needs_selection && name.empty()) return;
+  Prepare(name);
+  menu_.ShowAt(place);
+}
+
+}  // namespace zarvo

@@ -1,0 +1,34 @@
+// The popup menu of a panel's lists: four short facts about one game.
+#pragma once
+
+#include <string_view>
+
+#include "ui/panel/panel_tools.h"
+#include "ui/toolkit/list_box.h"
+#include "ui/toolkit/popup_menu.h"
+
+namespace zarvo {
+
+class ListMenu {
+ public:
+  ListMenu(const EmulatorProfile& profile, const PanelTools& tools);
+
+  // Sets the captions for one game; they stay as they are for a game that isn't known. An empty
+  // name empties them.
+  void Prepare(std::string_view name);
+
+  // The right button and the menu key on `list` open the menu for its selected game.
+  // `needs_selection`: not without one.
+  void Serve(ListBox* list, bool needs_selection);
+
+  [[nodiscard]] const PopupMenu& Menu() const { return menu_; }
+
+ private:
+  void Open(const ListBox& list, bool needs_selection, QPoint place);
+
+  const EmulatorProfile& profile_;
+  const PanelTools& tools_;
+  PopupMenu menu_;
+};
+
+}  // namespace zarvo

@@ -1,0 +1,121 @@
+#include "ui/shell/main_window.h"
+
+#include <algorithm>
+
+#include "core/platform/dos_path.h"
+#include "core/platform/text.h"
+
+namespace zarvo {
+namespace {
+
+constexpr int kTickerInterval = 10000;  // milliseconds
+
+// Whether the folder holds a plain file.
+bool HoldsFile(const DosFiles& files, std::string_view folder) {
+  const auto entries = files.ListFolder(folder);
+  return entries.ok() && std::any_of(entries->begin(), entries->end(),
+                                     [](const FolderEntry& entry) { return !entry.is_folder; });
+}
+
+}  // namespace
+
+MainWindow::MainWindow(DosFiles& files, AppState& app, MessageBoxes& boxes,
+                       HeaderReader read_header, MainActions actions)
+    : Window(WindowFrame::kNone, "frmMain"),
+      files_(files),
+      app_(app),
+      boxes_(boxes),
+      read_header_(std::move(read_header)),
+      actions_(std::move(actions)) {
+  Build();
+  Wire();
+}
+
+void MainWindow::StartUp() {
+  SetCaption(app_.Title());
+  app_.ProgramFolder = files_.CurrentFolder();
+  lblVersion->SetCaption(app_.ProgramVersion);
+  facts.front()->SetCaption(app_.Title());
+  if (!HoldsFile(files_, JoinPath(app_.ProgramFolder, "Cfg"))) {
+    boxes_.Inform(app_.Title(), WelcomeMessage());
+  }
+  Ignore(files_.MakeFolder("Cfg"));
+  Ignore(files_.MakeFolder("Data"));
+  SetMainPlace(400, 500);
+  Ignore(files_.ChangeFolder(app_.ProgramFolder));
+  actions_.autoload();
+  Timer1.SetInterval(kTickerInterval);
+}
+
+void MainWindow::Appear() {
+  ShowGround();
+  actions_.load_font([this] {
+    DrawControls();
+    // Not sooner: the first name that is given starts the line to the screen readers.
+    imgZarvo->SetAccessibleName("Zarvo");
+  });
+}
+
+void MainWindow::SetMainPlace(int top, int left) {
+  SetTop(top);
+  SetLeft(left);
+}
+
+void MainWindow::ResetCommands() {
+  ResetCommand(lblLays);
+  ResetCommand(lblAbout);
+}
+
+void MainWindow::ResetCommand(Label* command) {
+  command->SetBackColor(kBluegrey);
+  command->SetForeColor(kWhite);
+}
+
+void MainWindow::ResetSelector(Emulator emulator) {
+  Label* const label = selector[static_cast<std::size_t>(emulator)];
+  label->SetBackStyle(BackStyle::kTransparent);
+  label->SetForeColor(kPeriwinkle);
+}
+
+void MainWindow::MoveByMouse(const MouseArgs& mouse) {
+  if (mouse.button == MouseButton::kLeft) MoveWithMouse();
+}
+
+void MainWindow::HoverGround(const MouseArgs& mouse) {
+  MoveByMouse(mouse);
+  for (Label* const command : {lblExit, lblLays, lblAbout}) ResetCommand(command);
+  for (const EmulatorProfile& profile : Profiles()) ResetSelector(profile.emulator);
+  if (app_.lblHideEmuSelect != "HIDE") actions_.sections().ResetClearLabels();
+}
+
+void MainWindow::Hover(const EmulatorProfile& profile) {
+  for (const EmulatorProfile& other : Profiles()) {
+    if (other.emulator != profile.emulator) ResetSelector(other.emulator);
+  }
+  Label* const label = selector[static_cast<std::size_t>(profile.emulator)];
+  label->SetBackStyle(BackStyle::kOpaque);
+  label->SetForeColor(kWhite);
+  const std::vector<std::string> header = read_header_(profile);
+  for (std::size_t i = 0; i < std::min(facts.size(), header.size()); ++i) {
+    facts[i]->SetCaption(header[i]);
+  }
+}
+
+void MainWindow::Turn() {
+  const auto lines = TickerLines();
+  const int position = ParseInt16(lblNumerillo).value_or(1);
+  const int next = position >= static_cast<int>(lines.size()) ? 1 : position + 1;
+  lblMiscText->SetCaption(lines[static_cast<std::size_t>(next - 1)]);
+  lblNumerillo = std::to_string(next);
+}
+
+void MainWindow::ConfirmEnd(bool& refuse) {
+  if (!boxes_.Ask(app_.Title(), "Do you really want to quit ?")) {
+    refuse = true;
+    return;
+  }
+  refuse = !actions_.sections().SaveOpenPanels();
+  if (!refuse) actions_.end_program();
+}
+
+}  // namespace zarvo

@@ -1,0 +1,46 @@
+// Strokes and fonts that the controls share; strokes are vectors, crisp at every scale factor.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QRect>
+#include <QString>
+
+namespace zarvo {
+
+// A colour as it looks on something that is disabled.
+QColor Faded(const QColor& colour);
+
+// The raised face of a key of the cabinet, or the same pressed down.
+void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pressed);
+
+struct ButtonLook {
+  bool enabled = true;
+  bool is_default = false;  // Enter presses it from elsewhere in the window
+  bool hovered = false;
+  bool down = false;
+  bool focused = false;
+};
+
+// A push button without its caption.
+void DrawButton(QPainter& painter, const QRect& rect, const ButtonLook& look);
+
+// The ring round what has the keyboard's focus.
+void DrawFocus(QPainter& painter, const QRect& rect);
+
+// The recessed edge of a box that holds text or a list.
+void DrawSunkenEdge(QPainter& painter, const QRect& rect);
+
+enum class TextAlign { kLeft, kCentre, kRight };
+
+// Text in the middle of the height, elided where it doesn't fit. With `wrap`, over several lines.
+void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
+                 bool wrap);
+
+// The font with one thing changed.
+QFont InBold(QFont font, bool bold);
+QFont InSize(QFont font, int pixels);
+QFont Underlined(QFont font, bool underline);
+
+}  // namespace zarvo

@@ -1,0 +1,49 @@
+#include "ui/toolkit/pressable.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "ui/toolkit/input_gate.h"
+
+namespace zarvo {
+
+Pressable::Pressable(QWidget* parent) : QWidget(parent), Control(this) {}
+
+void Pressable::SetPressable(bool pressable) {
+  pressable_ = pressable;
+  setFocusPolicy(pressable ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void Pressable::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  down_ = true;
+  modals_at_press_ = ModalCount();
+  update();
+}
+
+void Pressable::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  // A press that a box or a move of the window has taken over isn't a click any more.
+  const bool click =
+      down_ && modals_at_press_ == ModalCount() && rect().contains(event->position().toPoint());
+  down_ = false;
+  update();
+  if (click) Click.Raise();
+}
+
+void Pressable::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) DblClick.Raise();
+}
+
+void Pressable::keyPressEvent(QKeyEvent* event) {
+  const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                       event->key() == Qt::Key_Enter;
+  if (!pressable_ || !presses || event->isAutoRepeat()) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  Press();
+}
+
+}  // namespace zarvo
