@@ -12,6 +12,7 @@
 #include "core/catalogue/scan.h"
 #include "core/launch/settings_store.h"
 #include "core/platform/dos_world.h"
+#include "fakes/emulators.h"
 #include "measure.h"
 #include "synthetic.h"
 
@@ -88,7 +89,7 @@ class Site {
   DosWorld world;
   UnflushedWorld unflushed;
   AppState app;
-  const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
+  const Emulator& mame = kMame;
 };
 
 std::size_t CountEntries(const std::string& host_folder) {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/panel/cfg_file.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 namespace {
@@ -31,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   AppState app;
   app.ProgramFolder = R"(C:\Zarvo)";
   files.Put(R"(C:\Zarvo\cfg\Mame.cfg)", std::string(reinterpret_cast<const char*>(data), size));
-  const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
+  const Emulator& mame = kMame;
   Store store = CfgStoreOf(files, app, mame);
   const CfgValues values = ValuesOf(ReadCfg(store, mame));
   if (!WriteCfg(store, mame, values)) std::abort();

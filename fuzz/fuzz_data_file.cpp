@@ -5,6 +5,7 @@
 
 #include "core/catalogue/game_list.h"
 #include "core/catalogue/scan.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 namespace {
@@ -15,7 +16,7 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-void CheckLists(MemoryFiles& files, const AppState& app, const EmulatorProfile& mame) {
+void CheckLists(MemoryFiles& files, const AppState& app, const Emulator& mame) {
   for (const GameState state : {GameState::kAllSupported, GameState::kOriginals, GameState::kClones,
                                 GameState::kNoNeoGeo, GameState::kNeoGeo}) {
     NameList list;
@@ -28,7 +29,7 @@ void CheckLists(MemoryFiles& files, const AppState& app, const EmulatorProfile& 
   Require(!files.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
-void CheckLookUps(MemoryFiles& files, const AppState& app, const EmulatorProfile& mame) {
+void CheckLookUps(MemoryFiles& files, const AppState& app, const Emulator& mame) {
   NameList list;
   FillList(files, app, mame, GameState::kAllSupported, list);
   for (int i = 0; i < list.Count() && i < 20; ++i) {
@@ -47,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   MemoryFiles files;
   AppState app;
   app.ProgramFolder = R"(C:\Zarvo)";
-  const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
+  const Emulator& mame = kMame;
   files.PutFolder(R"(C:\Zarvo\cfg)");
   files.Put(R"(C:\Roms\rom.zip)", "");
   files.Put(R"(C:\Zarvo\Data\Mame.dat)", std::string(reinterpret_cast<const char*>(data), size));

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "core/catalogue/game_details.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -13,10 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view name = bytes.substr(0, bytes.find('\n'));
   MemoryFiles files;
   files.Put(R"(C:\Emu\gamelist.txt)", std::string(bytes.substr(std::min(size, name.size() + 1))));
-  const auto mame = GameListText(files, ProfileOf(Emulator::kMame), R"(C:\Emu)", name);
+  const auto mame = GameListText(files, kMame, R"(C:\Emu)", name);
   const bool searched_whole = name.find('(') == std::string_view::npos;
   if (mame.empty()) std::abort();
   if (mame.size() > 1 && searched_whole && !mame.front().starts_with(name)) std::abort();
-  GameListText(files, ProfileOf(Emulator::kCallus), R"(C:\Emu)", name);
+  GameListText(files, kCallus, R"(C:\Emu)", name);
   return 0;
 }

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/catalogue/game_list.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -14,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   files.Put(R"(C:\Zarvo\cfg\Mame.scn)", std::string(reinterpret_cast<const char*>(data), size));
   for (const GameState state : {GameState::kAvailable, GameState::kMissing}) {
     NameList list;
-    if (FillList(files, app, ProfileOf(Emulator::kMame), state, list) != FillResult::kFilled) {
+    if (FillList(files, app, kMame, state, list) != FillResult::kFilled) {
       std::abort();
     }
     for (int i = 0; i < list.Count(); ++i) {

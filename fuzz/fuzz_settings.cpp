@@ -4,9 +4,10 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "core/launch/option_layout.h"
+#include "core/emulators/option_layout.h"
 #include "core/launch/settings_store.h"
 #include "core/platform/text_lines.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 namespace {
@@ -27,8 +28,8 @@ std::string OtherLines(std::string_view store, bool& blank) {
   return others;
 }
 
-void CheckValues(const EmulatorProfile& profile, const OptionValues& values) {
-  const auto options = OptionsOf(profile.emulator);
+void CheckValues(const Emulator& emulator, const OptionValues& values) {
+  const auto options = emulator.options;
   for (std::size_t i = 0; i < options.size(); ++i) {
     const int number = values.values[i].number;
     const bool unselected = options[i].kind == OptionKind::kCombo && number == -1;
@@ -36,26 +37,26 @@ void CheckValues(const EmulatorProfile& profile, const OptionValues& values) {
   }
 }
 
-void CheckEmulator(const EmulatorProfile& profile, const std::string& store) {
+void CheckEmulator(const Emulator& emulator, const std::string& store) {
   MemoryFiles files;
   AppState app;
   app.ProgramFolder = R"(C:\Zarvo)";
-  const std::string path = app.CfgFolder() + "\\" + std::string(profile.settings_file);
+  const std::string path = app.CfgFolder() + "\\" + std::string(emulator.SettingsFile());
   files.Put(path, store);
-  OptionValues values = DefaultValues(profile, "C:\\R");
-  Store stored = SettingsStoreOf(files, app, profile);
-  LoadSettings(stored, app, profile, kKey, values);
-  CheckValues(profile, values);
+  OptionValues values = DefaultValues(emulator, "C:\\R");
+  Store stored = SettingsStoreOf(files, app, emulator);
+  LoadSettings(stored, app, emulator, kKey, values);
+  CheckValues(emulator, values);
 
-  const OptionValues defaults = DefaultValues(profile, "C:\\R");
-  if (!SaveSettings(stored, profile, kKey, defaults)) std::abort();
+  const OptionValues defaults = DefaultValues(emulator, "C:\\R");
+  if (!SaveSettings(stored, emulator, kKey, defaults)) std::abort();
   bool blank = false;
   std::string before = OtherLines(store, blank);
   const std::string after = OtherLines(files.BytesOf(path), blank);
   if (after != before && after != before + "\r\n") std::abort();
   if (blank) return;
-  if (LoadSettings(stored, app, profile, kKey, values) != LoadOutcome::kRecord ||
-      RecordLine(profile, kKey, values) != RecordLine(profile, kKey, defaults)) {
+  if (LoadSettings(stored, app, emulator, kKey, values) != LoadOutcome::kRecord ||
+      RecordLine(emulator, kKey, values) != RecordLine(emulator, kKey, defaults)) {
     std::abort();
   }
 }
@@ -64,7 +65,7 @@ void CheckEmulator(const EmulatorProfile& profile, const std::string& store) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string store(reinterpret_cast<const char*>(data), size);
-  CheckEmulator(ProfileOf(Emulator::kMame), store);
-  CheckEmulator(ProfileOf(Emulator::kRaine), store);
+  CheckEmulator(kMame, store);
+  CheckEmulator(kRaine, store);
   return 0;
 }

@@ -61,7 +61,7 @@ class Program {
       : files_(std::move(files)),
         main_(
             files_, app_, boxes_,
-            [this](const EmulatorProfile& profile) { return ReadHeader(files_, app_, profile); },
+            [this](const Emulator& emulator) { return ReadHeader(files_, app_, emulator); },
             Actions()),
         sections_(
             files_, app_, boxes_, main_,

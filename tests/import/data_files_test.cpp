@@ -8,6 +8,7 @@
 #include "core/catalogue/game_list.h"
 #include "core/platform/name_list.h"
 #include "core/platform/text.h"
+#include "fakes/emulators.h"
 #include "import/import_fixture.h"
 #include "import/list_text.h"
 
@@ -33,9 +34,9 @@ struct DataFile {
   std::vector<Fields> games;
 };
 
-DataFile Load(const EmulatorProfile& profile) {
+DataFile Load(const Emulator& emulator) {
   DataFile file;
-  const std::string path = std::string(ZARVO_DATA_FOLDER) + "/" + std::string(profile.data_file);
+  const std::string path = std::string(ZARVO_DATA_FOLDER) + "/" + std::string(emulator.DataFile());
   for (const std::string& line : Cut(ReadBytes(path), "\r\n")) {
     EXPECT_LE(line.size(), kLongestLine);
     for (const char c : line) {
@@ -54,13 +55,13 @@ DataFile Load(const EmulatorProfile& profile) {
 }
 
 // Whether the filter's combo has the value; a panel without filters takes any.
-bool InCombo(Emulator emulator, ValueFilter filter, const std::string& value) {
-  const auto items = FilterItems(emulator, filter);
+bool InCombo(const Emulator& emulator, ValueFilter filter, const std::string& value) {
+  const auto items = ItemsOf(emulator, filter);
   return items.empty() || std::find(items.begin() + 1, items.end(), value) != items.end();
 }
 
-void ExpectForm(const EmulatorProfile& profile) {
-  const auto [header, games] = Load(profile);
+void ExpectForm(const Emulator& emulator) {
+  const auto [header, games] = Load(emulator);
   ASSERT_EQ(header.size(), 17U);
   ASSERT_GT(games.size(), 12U);
   ASSERT_LE(games.size(), static_cast<std::size_t>(kMostEntries));
@@ -78,9 +79,9 @@ void ExpectForm(const EmulatorProfile& profile) {
     before = game[0];
     EXPECT_TRUE(IsUsableRomName(game[1]));
     EXPECT_TRUE(by_rom.emplace(game[1], game).second) << "a rom stands twice";
-    EXPECT_TRUE(InCombo(profile.emulator, ValueFilter::kGenre, game[4])) << game[4];
-    EXPECT_TRUE(InCombo(profile.emulator, ValueFilter::kManufactor, game[5])) << game[5];
-    EXPECT_TRUE(InCombo(profile.emulator, ValueFilter::kYear, game[6])) << game[6];
+    EXPECT_TRUE(InCombo(emulator, ValueFilter::kGenre, game[4])) << game[4];
+    EXPECT_TRUE(InCombo(emulator, ValueFilter::kManufactor, game[5])) << game[5];
+    EXPECT_TRUE(InCombo(emulator, ValueFilter::kYear, game[6])) << game[6];
     for (std::size_t place = 7; place < 12; ++place) EXPECT_TRUE(states.contains(game[place]));
   }
   for (const Fields& game : games) {
@@ -99,17 +100,17 @@ void ExpectForm(const EmulatorProfile& profile) {
 }
 
 TEST(ShippedDataFile, KeepsItsForm) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    ExpectForm(profile);
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    ExpectForm(emulator);
   }
 }
 
 TEST(ShippedDataFile, M72HasTheGamesOfItsFixedList) {
   std::map<std::string, std::string> roms;
-  for (const Fields& game : Load(ProfileOf(Emulator::kM72)).games) roms[game[0]] = game[1];
+  for (const Fields& game : Load(kM72).games) roms[game[0]] = game[1];
   std::string found;
-  for (const std::string_view name : M72Games()) found += roms[std::string(name)] + " ";
+  for (const std::string_view name : kM72.fixed_games) found += roms[std::string(name)] + " ";
   EXPECT_EQ(found,
             "bchopper dbreed gallop hharry imgfight loht mrheli nspirit rtypeu rtypej rtype2 "
             "xmultipl ");
@@ -117,7 +118,7 @@ TEST(ShippedDataFile, M72HasTheGamesOfItsFixedList) {
 
 TEST(ShippedDataFile, WellKnownGamesHaveTheirGenre) {
   std::map<std::string, Fields> games;
-  for (const Fields& game : Load(ProfileOf(Emulator::kMame)).games) games[game[1]] = game;
+  for (const Fields& game : Load(kMame).games) games[game[1]] = game;
   EXPECT_EQ(games["puckman"][4], "Labyrinth");
   EXPECT_EQ(games["pacman"][4], "Labyrinth");
   EXPECT_EQ(games["mslug"][3], "neogeo");

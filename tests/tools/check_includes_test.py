@@ -55,7 +55,12 @@ class CheckIncludes(unittest.TestCase):
              "src/import/list.h: includes ui/panel/panel.h, which import may not use\n"),
             ({"src/ui/panel/a.h": '#include "ui/panel/b.h"\n',
               "src/ui/panel/b.h": '#include "ui/panel/a.h"\n'},
-             "src/ui/panel/a.h: includes itself: ui/panel/a.h > ui/panel/b.h > ui/panel/a.h\n"),
+             "src/ui/panel/a: includes itself: ui/panel/a > ui/panel/b > ui/panel/a\n"),
+            # A circle of sources, which no compiler notices.
+            ({"src/ui/panel/a.h": "", "src/ui/panel/b.h": "",
+              "src/ui/panel/a.cpp": '#include "ui/panel/b.h"\n',
+              "src/ui/panel/b.cpp": '#include "ui/panel/a.h"\n'},
+             "src/ui/panel/a: includes itself: ui/panel/a > ui/panel/b > ui/panel/a\n"),
             ({"src/ui/panel/panel.cpp": '#include "panel.h"\n'},
              'src/ui/panel/panel.cpp: "panel.h" isn\'t a path from src/\n'),
             ({"src/misc/a.h": ""},

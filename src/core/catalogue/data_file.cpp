@@ -7,14 +7,13 @@ namespace {
 
 constexpr int kTotalLine = 8;
 
-Result<LineReader> OpenDataFile(DosFiles& files, const AppState& app,
-                                const EmulatorProfile& profile) {
-  const auto named = [&profile](const Error& error) {
-    return Error{std::string(profile.data_file) + ": " + error.message, error.missing};
+Result<LineReader> OpenDataFile(DosFiles& files, const AppState& app, const Emulator& emulator) {
+  const auto named = [&emulator](const Error& error) {
+    return Error{std::string(emulator.DataFile()) + ": " + error.message, error.missing};
   };
   const Status entered = EnterFolder(files, app.DataFolder());
   if (!entered) return named(entered.error());
-  auto source = files.Open(profile.data_file);
+  auto source = files.Open(emulator.DataFile());
   if (!source) return named(source.error());
   return LineReader(std::move(*source));
 }
@@ -49,8 +48,8 @@ std::optional<std::string_view> CutField(std::string_view& rest) {
 }
 
 Result<RecordReader> RecordReader::Open(DosFiles& files, const AppState& app,
-                                        const EmulatorProfile& profile) {
-  auto lines = OpenDataFile(files, app, profile);
+                                        const Emulator& emulator) {
+  auto lines = OpenDataFile(files, app, emulator);
   if (!lines) return lines.error();
   return RecordReader(std::move(*lines));
 }
@@ -62,10 +61,10 @@ bool RecordReader::Next(std::string_view& line) {
   return false;
 }
 
-std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app,
-                                     const EmulatorProfile& profile, std::string_view name) {
+std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app, const Emulator& emulator,
+                                     std::string_view name) {
   if (name.empty() || name.find(';') != std::string_view::npos) return std::nullopt;
-  auto records = RecordReader::Open(files, app, profile);
+  auto records = RecordReader::Open(files, app, emulator);
   if (!records) return std::nullopt;
   std::string_view line;
   while (records->Next(line)) {
@@ -75,9 +74,9 @@ std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app,
 }
 
 std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app,
-                                    const EmulatorProfile& profile) {
+                                    const Emulator& emulator) {
   std::vector<std::string> header;
-  auto lines = OpenDataFile(files, app, profile);
+  auto lines = OpenDataFile(files, app, emulator);
   if (!lines) return header;
   std::string_view line;
   bool more = lines->Next(line);
@@ -90,8 +89,8 @@ std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app,
   return header;
 }
 
-DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
-  auto lines = OpenDataFile(files, app, profile);
+DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const Emulator& emulator) {
+  auto lines = OpenDataFile(files, app, emulator);
   if (!lines) return {};
   std::string_view line;
   bool more = lines->Next(line);

@@ -61,8 +61,7 @@ std::optional<std::string_view> CutField(std::string_view& rest);
 class RecordReader {
  public:
   // Sets the current drive and folder to the folder Data and opens the file by its bare name.
-  static Result<RecordReader> Open(DosFiles& files, const AppState& app,
-                                   const EmulatorProfile& profile);
+  static Result<RecordReader> Open(DosFiles& files, const AppState& app, const Emulator& emulator);
   // The next record's line, valid until the next call; false at the end of the file.
   bool Next(std::string_view& line);
   // True if the file could not be read to its end.
@@ -75,14 +74,13 @@ class RecordReader {
 
 // The first record whose name is `name` exactly; nothing if there is none or no file. An empty name
 // is no name.
-std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app,
-                                     const EmulatorProfile& profile, std::string_view name);
+std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app, const Emulator& emulator,
+                                     std::string_view name);
 
 // The header lines, each without its first character: kHeaderLines, fewer if the file ends inside
 // the header, none if there is no file or the first line that is neither blank nor a comment
 // doesn't begin with "*".
-std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app,
-                                    const EmulatorProfile& profile);
+std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app, const Emulator& emulator);
 
 // What a panel's load finds for its total.
 struct DataTotal {
@@ -91,6 +89,6 @@ struct DataTotal {
 };
 
 // Header line 8, counted from the first line that begins with "*", whatever stands before it.
-DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const Emulator& emulator);
 
 }  // namespace zarvo

@@ -8,8 +8,6 @@ namespace zarvo {
 namespace {
 
 constexpr std::string_view kGameListFile = "gamelist.txt";
-constexpr std::string_view kNotInGameList = "Game info not found in gamelist.txt!";
-constexpr std::size_t kItemWidth = 52;  // what a line of the MAME help list shows
 
 constexpr std::array<DetailRow, kFieldCount> kDetailRows = {{
     {"lblInfoName", "Name:", Field::kName},
@@ -35,65 +33,6 @@ constexpr std::array<DetailRow, kFieldCount> kDetailRows = {{
     {"lblInfoSound4", "Sound 4:", Field::kSound4},
 }};
 
-using Items = std::vector<std::string>;
-
-// The name without its part in parentheses and the one character before that part. A name that
-// begins with the parenthesis stays whole.
-std::string_view WithoutRegion(std::string_view name) {
-  const std::size_t parenthesis = name.find('(');
-  if (parenthesis == std::string_view::npos || parenthesis == 0) return name;
-  return name.substr(0, parenthesis - 1);
-}
-
-void AddCut(std::string_view line, Items& items) {
-  items.emplace_back(line.substr(0, kItemWidth));
-  if (line.size() > kItemWidth) items.emplace_back(line.substr(kItemWidth));
-}
-
-// The block that begins with a line which begins with the name; two empty lines end it.
-void AddMameBlock(LineReader& lines, std::string_view name, Items& items) {
-  std::string_view line;
-  bool more = lines.Next(line);
-  while (more && !line.starts_with(name)) more = lines.Next(line);
-  if (!more) {
-    items.emplace_back(kNotInGameList);
-    return;
-  }
-  items.emplace_back(line);
-  bool after_empty = false;
-  while (lines.Next(line)) {
-    AddCut(line, items);
-    if (line.empty() && after_empty) return;
-    after_empty = line.empty();
-  }
-}
-
-// The lines behind the one that holds the name. An empty line is shown twice, and the line behind
-// it isn't shown: it ends the block if it is empty too.
-void AddCallusBlock(LineReader& lines, std::string_view name, Items& items) {
-  const auto begins = [name](std::string_view line) {
-    return !line.empty() && line.find(name) != std::string_view::npos;
-  };
-  std::string_view line;
-  bool more = lines.Next(line);
-  while (more && !begins(line)) more = lines.Next(line);
-  if (!more) {
-    items.emplace_back(kNotInGameList);
-    return;
-  }
-  while (lines.Next(line)) {
-    items.emplace_back(line);
-    if (!line.empty()) continue;
-    items.emplace_back();
-    if (!lines.Next(line) || line.empty()) return;
-  }
-}
-
-Items NoGameListFile(Emulator emulator) {
-  if (emulator == Emulator::kMame) return {"gamelist.txt not found in Mame directory!"};
-  return {"Gamelist.txt not found", "in Callus directory!"};
-}
-
 }  // namespace
 
 std::span<const DetailRow> DetailRows() { return kDetailRows; }
@@ -112,19 +51,16 @@ std::string_view SamplesText(const GameRecord& record) {
   return record[Field::kSound] == "Yes(1)" ? "Available" : "Not needed";
 }
 
-std::vector<std::string> GameListText(DosFiles& files, const EmulatorProfile& profile,
+std::vector<std::string> GameListText(DosFiles& files, const Emulator& emulator,
                                       std::string_view emulator_folder, std::string_view name) {
-  if (!profile.has_game_list_text) return {};
+  const GameListRule& rule = emulator.help.game_list;
+  if (rule.read == nullptr) return {};
   Ignore(EnterFolder(files, emulator_folder));
   auto source = files.Open(kGameListFile);
-  if (!source) return NoGameListFile(profile.emulator);
+  if (!source) return {rule.no_file.begin(), rule.no_file.end()};
   LineReader lines(std::move(*source));
-  Items items;
-  if (profile.emulator == Emulator::kMame) {
-    AddMameBlock(lines, WithoutRegion(name), items);
-  } else {
-    AddCallusBlock(lines, name, items);
-  }
+  std::vector<std::string> items;
+  rule.read(lines, name, items);
   return items;
 }
 

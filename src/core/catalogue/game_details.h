@@ -27,21 +27,9 @@ std::optional<std::string> DetailText(const GameRecord& record, Field field);
 // "Available" or "Not needed".
 std::string_view SamplesText(const GameRecord& record);
 
-// The items of the help list for a game: the block of gamelist.txt in the emulator's folder, by the
-// rules of MAME or of Callus, or the texts for a missing file or block.
-std::vector<std::string> GameListText(DosFiles& files, const EmulatorProfile& profile,
+// The items of the help list for a game, from gamelist.txt in the emulator's folder, or the texts
+// for a missing file or game. None for an emulator without such a file.
+std::vector<std::string> GameListText(DosFiles& files, const Emulator& emulator,
                                       std::string_view emulator_folder, std::string_view name);
-
-// A key text of a help page. Rows with an empty `key` are headings; the first row of M72 names the
-// columns of its table.
-struct KeyRow {
-  std::string_view key;
-  std::string_view text;
-  std::string_view third;  // third column, of M72's table alone
-};
-std::span<const KeyRow> HelpKeys(Emulator emulator);
-
-// The fixed items of lstSystem16Help.
-std::vector<std::string> System16Help();
 
 }  // namespace zarvo

@@ -41,10 +41,10 @@ Verdict Judge(GameState state, std::string_view rest) {
   return InIf(original_or_clone.starts_with('C') && !neo_geo);
 }
 
-FillResult FillFromDataFile(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+FillResult FillFromDataFile(DosFiles& files, const AppState& app, const Emulator& emulator,
                             GameState state, NameList& list) {
   if (state == GameState::kAllSupported) list.Clear();
-  auto records = RecordReader::Open(files, app, profile);
+  auto records = RecordReader::Open(files, app, emulator);
   if (!records) return FillResult::kNoDataFile;
   list.Clear();
   std::string_view line;
@@ -72,10 +72,10 @@ std::string_view Unquote(std::string_view line) {
   return line.size() < 2 ? std::string_view() : line.substr(1, line.size() - 2);
 }
 
-FillResult FillFromScan(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                        char mark, NameList& list) {
-  if (!profile.has_scan) return FillResult::kNoScanFile;
-  const auto scan = ScanStoreOf(files, app, profile).Read();
+FillResult FillFromScan(DosFiles& files, const AppState& app, const Emulator& emulator, char mark,
+                        NameList& list) {
+  if (!emulator.has_scan) return FillResult::kNoScanFile;
+  const auto scan = ScanStoreOf(files, app, emulator).Read();
   if (!scan) return FillResult::kNoScanFile;
   list.Clear();
   for (std::string_view text = *scan; !text.empty();) {
@@ -133,23 +133,35 @@ void ReadWorkFile(const DosFiles& files, NameList& list) {
 
 }  // namespace
 
-FillResult FillList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                    GameState state, NameList& list) {
+std::span<const std::string_view> ItemsOf(const Emulator& emulator, ValueFilter filter) {
+  switch (filter) {
+    case ValueFilter::kGenre:
+      return emulator.filters.genres;
+    case ValueFilter::kManufactor:
+      return emulator.filters.manufactors;
+    case ValueFilter::kYear:
+      return emulator.filters.years;
+  }
+  return {};
+}
+
+FillResult FillList(DosFiles& files, const AppState& app, const Emulator& emulator, GameState state,
+                    NameList& list) {
   switch (state) {
     case GameState::kAvailable:
-      return FillFromScan(files, app, profile, kFoundMark, list);
+      return FillFromScan(files, app, emulator, kFoundMark, list);
     case GameState::kMissing:
-      return FillFromScan(files, app, profile, kMissingMark, list);
+      return FillFromScan(files, app, emulator, kMissingMark, list);
     default:
-      return FillFromDataFile(files, app, profile, state, list);
+      return FillFromDataFile(files, app, emulator, state, list);
   }
 }
 
-void FilterList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                ValueFilter filter, std::string_view value, NameList& list) {
-  const auto items = FilterItems(profile.emulator, filter);
+void FilterList(DosFiles& files, const AppState& app, const Emulator& emulator, ValueFilter filter,
+                std::string_view value, NameList& list) {
+  const auto items = ItemsOf(emulator, filter);
   if (items.empty() || value == items.front()) return;
-  auto records = RecordReader::Open(files, app, profile);
+  auto records = RecordReader::Open(files, app, emulator);
   if (!records) return;
   const std::string names = KeptNames(*records, PlaceOf(filter), value, list);
   if (records->Failed()) return;

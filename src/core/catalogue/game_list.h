@@ -9,6 +9,7 @@
 
 namespace zarvo {
 
+// In the order of the items of the state filter.
 enum class GameState {
   kAllSupported,
   kOriginals,
@@ -19,12 +20,11 @@ enum class GameState {
   kNeoGeo
 };
 
-// Items of the state combo of an emulator, in the order of GameState; five or seven.
-std::span<const std::string_view> StateItems(Emulator emulator);
-
-// The value filters, and what stands in their combos; item 0 is the neutral one.
+// The filters for a value, each on a field of the record.
 enum class ValueFilter { kGenre, kManufactor, kYear };
-std::span<const std::string_view> FilterItems(Emulator emulator, ValueFilter filter);
+
+// What stands in a filter's combo; item 0 is the neutral one.
+std::span<const std::string_view> ItemsOf(const Emulator& emulator, ValueFilter filter);
 
 enum class FillResult {
   kFilled,
@@ -35,17 +35,14 @@ enum class FillResult {
 // Refills `list`, sorted, with the names of one state. A record without a semicolon, or with too
 // few for the test of the state, ends it with the names added so far. kAvailable and kMissing read
 // the scan file alone.
-FillResult FillList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                    GameState state, NameList& list);
+FillResult FillList(DosFiles& files, const AppState& app, const Emulator& emulator, GameState state,
+                    NameList& list);
 
 // One filter step: keeps the names of `list` whose record has exactly `value` in the filter's
 // field. Walks list and file side by side, once, through the work file tofilter.tmp in the folder
 // Data. The neutral item changes nothing and reads nothing. If the data file or the work file can't
 // be used the list stays as it was.
-void FilterList(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
-                ValueFilter filter, std::string_view value, NameList& list);
-
-// M72's fixed list, in its order.
-std::span<const std::string_view> M72Games();
+void FilterList(DosFiles& files, const AppState& app, const Emulator& emulator, ValueFilter filter,
+                std::string_view value, NameList& list);
 
 }  // namespace zarvo

@@ -103,25 +103,25 @@ int LookForGames(RecordReader& records, SetType sets, Archives& archives, std::s
 
 }  // namespace
 
-Store ScanStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
-  return {files, app.CfgFolder(), std::string(profile.scan_file),
-          std::string(profile.word) + "scn.tmp"};
+Store ScanStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
+  return {files, app.CfgFolder(), std::string(emulator.ScanFile()),
+          std::string(emulator.word) + "scn.tmp"};
 }
 
-Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulator& emulator,
                              std::string_view rom_folder, SetType sets) {
-  auto records = RecordReader::Open(files, app, profile);
+  auto records = RecordReader::Open(files, app, emulator);
   if (!records) return records.error();
   EnterRomFolder(files, app, rom_folder);
   Archives archives(files);
   std::string text;
   ScanOutcome outcome;
   outcome.found =
-      LookForGames(*records, profile.knows_parents ? sets : SetType::kSplit, archives, text);
+      LookForGames(*records, emulator.knows_parents ? sets : SetType::kSplit, archives, text);
   if (records->Failed()) {
-    return Error{std::string(profile.data_file) + ": The file could not be read to its end"};
+    return Error{std::string(emulator.DataFile()) + ": The file could not be read to its end"};
   }
-  outcome.written = ScanStoreOf(files, app, profile).Replace(text);
+  outcome.written = ScanStoreOf(files, app, emulator).Replace(text);
   EnterRomFolder(files, app, rom_folder);
   return outcome;
 }

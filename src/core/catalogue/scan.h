@@ -16,7 +16,7 @@ inline constexpr char kFoundMark = 'Y';
 inline constexpr char kMissingMark = 'N';
 
 // The answers of the last scan, `<Emu>.scn` in the folder cfg.
-Store ScanStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+Store ScanStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator);
 
 struct ScanOutcome {
   int found = 0;
@@ -27,7 +27,7 @@ struct ScanOutcome {
 // folder cfg, a line `"Name;Y"` or `"Name;N"` each, in the order of the data file. If `rom_folder`
 // can't be entered, the look-ups run in the folder cfg. kMerged counts on MAME alone. Fails if the
 // data file can't be read to its end; the old scan file stays then.
-Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const EmulatorProfile& profile,
+Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulator& emulator,
                              std::string_view rom_folder, SetType sets);
 
 }  // namespace zarvo

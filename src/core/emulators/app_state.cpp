@@ -4,9 +4,12 @@
 
 namespace zarvo {
 
-AppState::AppState() : ProgramName("Zarvo"), ProgramVersion("v0.1"), messages(BuildMessages()) {
-  lblShow.fill("NO");
-}
+AppState::AppState()
+    : ProgramName("Zarvo"),
+      ProgramVersion("v0.1"),
+      RomPath(Emulators().size()),
+      lblShow(Emulators().size(), "NO"),
+      messages(BuildMessages()) {}
 
 std::string AppState::DataFolder() const { return JoinPath(ProgramFolder, "Data"); }
 std::string AppState::CfgFolder() const { return JoinPath(ProgramFolder, "cfg"); }

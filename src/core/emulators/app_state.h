@@ -4,8 +4,9 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 
 namespace zarvo {
 
@@ -39,12 +40,12 @@ std::array<std::string, 6> TickerLines();
 struct AppState {
   std::string ProgramName;
   std::string ProgramVersion;
-  std::string ProgramFolder;  // DOS path, without a trailing backslash unless a root
-  std::array<std::string, kEmulatorCount> RomPath;  // configured rom folders
-  std::array<std::string, kEmulatorCount> lblShow;  // "SI" while the panel is open, else "NO"
-  std::string lblHideEmuSelect = "HIDE";            // section entered last
-  bool SettingsFound = false;                       // by the last load of a settings record
-  std::array<std::string, 36> SettingsFields;       // the record read last
+  std::string ProgramFolder;              // DOS path, without a trailing backslash unless a root
+  std::vector<std::string> RomPath;       // configured rom folders
+  std::vector<std::string> lblShow;       // "SI" while the panel is open, else "NO"
+  std::string lblHideEmuSelect = "HIDE";  // section entered last
+  bool SettingsFound = false;             // by the last load of a settings record
+  std::array<std::string, 36> SettingsFields;  // the record read last
   SharedMessages messages;
 
   AppState();
@@ -55,10 +56,10 @@ struct AppState {
   [[nodiscard]] std::string DataFolder() const;  // ProgramFolder + "\Data"
   [[nodiscard]] std::string CfgFolder() const;   // ProgramFolder + "\cfg"
 
-  std::string& RomPathOf(Emulator emulator) { return RomPath[static_cast<std::size_t>(emulator)]; }
-  std::string& ShowWord(Emulator emulator) { return lblShow[static_cast<std::size_t>(emulator)]; }
-  [[nodiscard]] bool IsOpen(Emulator emulator) const {
-    return lblShow[static_cast<std::size_t>(emulator)] == "SI";
+  std::string& RomPathOf(const Emulator& emulator) { return RomPath[IndexOf(emulator)]; }
+  std::string& ShowWord(const Emulator& emulator) { return lblShow[IndexOf(emulator)]; }
+  [[nodiscard]] bool IsOpen(const Emulator& emulator) const {
+    return lblShow[IndexOf(emulator)] == "SI";
   }
 };
 

@@ -1,18 +1,7 @@
 #include "core/launch/command_line.h"
 
-#include <array>
-
-#include "core/launch/command_pieces.h"
-
 namespace zarvo {
 namespace {
-
-CommandTable TableOf(Emulator emulator) {
-  using MakeTable = CommandTable (*)();
-  static constexpr std::array<MakeTable, kEmulatorCount> kTables = {
-      MameCommand, CallusCommand, RaineCommand, System16Command, M72Command};
-  return kTables[static_cast<std::size_t>(emulator)]();
-}
 
 std::string ListPiece(const Piece& piece, int index) {
   if (index == -1) return std::string(piece.without_choice);
@@ -43,8 +32,8 @@ std::string Say(const Piece& piece, const CommandInput& input) {
 
 }  // namespace
 
-std::string CommandLine(const EmulatorProfile& profile, const CommandInput& input) {
-  const CommandTable table = TableOf(profile.emulator);
+std::string CommandLine(const Emulator& emulator, const CommandInput& input) {
+  const CommandTable& table = emulator.command;
   std::string line = input.emulator_path;
   line.append(table.before_rom).append(input.rom_name).append(table.behind_rom);
   for (const Piece& piece : table.pieces) line += Say(piece, input);

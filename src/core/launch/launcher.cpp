@@ -15,9 +15,9 @@ namespace {
 // The set of shared roms; alone it starts no game.
 constexpr std::string_view kNeoGeo = "neogeo";
 
-std::string RomFolderOf(const EmulatorProfile& profile, std::string_view emulator_folder) {
-  if (profile.rom_sub_folder.empty()) return std::string(emulator_folder);
-  return JoinPath(emulator_folder, profile.rom_sub_folder.substr(1));
+std::string RomFolderOf(const Emulator& emulator, std::string_view emulator_folder) {
+  if (emulator.rom_sub_folder.empty()) return std::string(emulator_folder);
+  return JoinPath(emulator_folder, emulator.rom_sub_folder.substr(1));
 }
 
 bool SamePath(std::string_view left, std::string_view right) {
@@ -45,8 +45,8 @@ bool SameFolder(const DosFiles& files, std::string_view left, std::string_view r
 
 class OneLaunch {
  public:
-  OneLaunch(const EmulatorProfile& profile, LaunchPanel& panel, const LaunchTools& tools)
-      : profile_(profile),
+  OneLaunch(const Emulator& emulator, LaunchPanel& panel, const LaunchTools& tools)
+      : emulator_(emulator),
         panel_(panel),
         tools_(tools),
         files_(tools.files),
@@ -86,7 +86,7 @@ class OneLaunch {
   [[nodiscard]] bool StandsInOwnFolder(const std::string& rom) const;
   [[nodiscard]] bool IsNeoGeo() const { return EqualNoCase(parent_, kNeoGeo); }
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   LaunchPanel& panel_;
   const LaunchTools& tools_;
   DosFiles& files_;
@@ -109,15 +109,15 @@ LaunchEnd OneLaunch::Run(std::string_view game) {
 }
 
 OneLaunch::Ended OneLaunch::FirstSteps(std::string_view game) {
-  Ended ended = profile_.tests_emulator_first ? TestEmulator() : FindRom(game);
-  if (!ended) ended = profile_.tests_emulator_first ? FindRom(game) : TestEmulator();
+  Ended ended = emulator_.launch.tests_emulator_first ? TestEmulator() : FindRom(game);
+  if (!ended) ended = emulator_.launch.tests_emulator_first ? FindRom(game) : TestEmulator();
   return ended;
 }
 
 OneLaunch::Ended OneLaunch::TestEmulator() {
   const std::string path = panel_.EmulatorPath();
   if (!path.empty() && files_.FileExists(path)) return std::nullopt;
-  tools_.boxes.Warn(TitleOr(profile_.no_emulator_title), tools_.app.messages.MsgNoEmulator);
+  tools_.boxes.Warn(TitleOr(emulator_.launch.no_emulator_title), tools_.app.messages.MsgNoEmulator);
   panel_.ShowEmulatorPicker();
   return LaunchEnd::kNoEmulator;
 }
@@ -125,7 +125,7 @@ OneLaunch::Ended OneLaunch::TestEmulator() {
 OneLaunch::Ended OneLaunch::FindRom(std::string_view game) {
   if (!panel_.FindRom(game)) return LaunchEnd::kUnknownGame;
   rom_ = panel_.RomName();
-  if (profile_.knows_parents && IsPlainName(panel_.ParentRom())) parent_ = panel_.ParentRom();
+  if (emulator_.knows_parents && IsPlainName(panel_.ParentRom())) parent_ = panel_.ParentRom();
   return std::nullopt;
 }
 
@@ -137,7 +137,7 @@ OneLaunch::Ended OneLaunch::FindFolders() {
   input_ = panel_.Command();
   input_.emulator_path = panel_.EmulatorPath();
   input_.rom_name = rom_;
-  own_rom_folder_ = RomFolderOf(profile_, folder);
+  own_rom_folder_ = RomFolderOf(emulator_, folder);
   is_own_folder_ = SameFolder(files_, input_.options.rom_folder, own_rom_folder_);
   return std::nullopt;
 }
@@ -145,15 +145,15 @@ OneLaunch::Ended OneLaunch::FindFolders() {
 OneLaunch::Ended OneLaunch::LookForArchive() {
   // A name that could lead elsewhere stands for no archive at all.
   if (!IsPlainName(rom_)) return NoRom();
-  const bool looks = profile_.archive_look == ArchiveLook::kAlways ||
-                     (profile_.archive_look == ArchiveLook::kInOwnFolder && is_own_folder_);
+  const bool looks = emulator_.launch.archive_look == ArchiveLook::kAlways ||
+                     (emulator_.launch.archive_look == ArchiveLook::kInOwnFolder && is_own_folder_);
   if (!looks || IsGiven(rom_) || (IsGiven(parent_) && !IsNeoGeo())) return std::nullopt;
   return NoRom();
 }
 
 OneLaunch::Ended OneLaunch::BringIn() {
   if (is_own_folder_) return std::nullopt;
-  return profile_.knows_parents ? BringInWithParent() : BringInAlone();
+  return emulator_.knows_parents ? BringInWithParent() : BringInAlone();
 }
 
 OneLaunch::Ended OneLaunch::BringInWithParent() {
@@ -217,14 +217,14 @@ LaunchEnd OneLaunch::RunBatch() {
   // A note that can't be kept is no reason not to play: a batch file left over does no harm.
   Ignore(notes_.AddWork(batch));
   Ignore(notes_.AddWork(JoinPath(folder, kRunMark)));
-  const Status written = files_.WriteFile(kBatchFile, CommandLine(profile_, input_) + "\r\n");
+  const Status written = files_.WriteFile(kBatchFile, CommandLine(emulator_, input_) + "\r\n");
   if (!written) return Fail(batch + ": " + written.error().message);
   const Status run = tools_.run("command.com /c " + std::string(kBatchFile));
   return run ? LaunchEnd::kRan : Fail(run.error().message);
 }
 
 LaunchEnd OneLaunch::NoRom() {
-  tools_.boxes.Warn(TitleOr(profile_.no_rom_title), tools_.app.messages.MsgNoRom);
+  tools_.boxes.Warn(TitleOr(emulator_.launch.no_rom_title), tools_.app.messages.MsgNoRom);
   panel_.ShowRomPicker();
   return LaunchEnd::kNoRom;
 }
@@ -250,9 +250,9 @@ bool OneLaunch::StandsInOwnFolder(const std::string& rom) const {
 
 }  // namespace
 
-LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPanel& panel,
+LaunchEnd Launch(const Emulator& emulator, std::string_view game, LaunchPanel& panel,
                  const LaunchTools& tools) {
-  OneLaunch launch(profile, panel, tools);
+  OneLaunch launch(emulator, panel, tools);
   const LaunchEnd end = launch.Run(game);
   std::vector<std::string> told = launch.Settle();  // the files are gone when the box comes up
   for (std::string& stays : told)

@@ -54,7 +54,7 @@ enum class LaunchEnd {
 // The whole launch; returns when the emulator has ended or the launch has ended without a run. The
 // batch file and a copy made for the run are gone by then, and what couldn't be removed was told;
 // an archive that stood in the emulator's rom folder is as it was.
-LaunchEnd Launch(const EmulatorProfile& profile, std::string_view game, LaunchPanel& panel,
+LaunchEnd Launch(const Emulator& emulator, std::string_view game, LaunchPanel& panel,
                  const LaunchTools& tools);
 
 }  // namespace zarvo

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "core/launch/option_layout.h"
+#include "core/emulators/option_layout.h"
 #include "core/platform/text.h"
 #include "core/platform/text_lines.h"
 
@@ -118,12 +118,12 @@ std::string WithAppended(std::string store, const std::string& record) {
 
 }  // namespace
 
-Store SettingsStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
-  return {files, app.CfgFolder(), std::string(profile.settings_file),
-          std::string(profile.settings_temp_file)};
+Store SettingsStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
+  return {files, app.CfgFolder(), std::string(emulator.SettingsFile()),
+          std::string(emulator.SettingsTempFile())};
 }
 
-LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& profile,
+LoadOutcome LoadSettings(Store& store, AppState& app, const Emulator& emulator,
                          std::string_view key, OptionValues& values) {
   app.SettingsFound = false;
   const auto text = store.Load();
@@ -131,8 +131,8 @@ LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& pro
   const FoundLines lines = FindLines(*text, key);
   if (lines.stopped) return LoadOutcome::kNothing;
 
-  const auto options = OptionsOf(profile.emulator);
-  OptionValues loaded = DefaultValues(profile, app.RomPathOf(profile.emulator));
+  const auto options = emulator.options;
+  OptionValues loaded = DefaultValues(emulator, app.RomPathOf(emulator));
   if (lines.record) KeepUnstored(options, values, loaded);
   values = std::move(loaded);
   const auto line = lines.record ? lines.record : lines.default_record;
@@ -145,9 +145,9 @@ LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& pro
   return LoadOutcome::kRecord;
 }
 
-Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_view key,
+Status SaveSettings(Store& store, const Emulator& emulator, std::string_view key,
                     const OptionValues& values) {
-  const std::string record = RecordLine(profile, key, values) + "\r\n";
+  const std::string record = RecordLine(emulator, key, values) + "\r\n";
   const std::string quoted_key = Quoted(key);
   return store.Change([&](std::string text) {
     return HasRecord(text, quoted_key) ? WithReplaced(text, quoted_key, record)
@@ -155,14 +155,13 @@ Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_vi
   });
 }
 
-Status SaveAsDefault(Store& store, const EmulatorProfile& profile, const OptionValues& values) {
-  return store.Overwrite(RecordLine(profile, kDefaultKey, values) + "\r\n");
+Status SaveAsDefault(Store& store, const Emulator& emulator, const OptionValues& values) {
+  return store.Overwrite(RecordLine(emulator, kDefaultKey, values) + "\r\n");
 }
 
-std::string RecordLine(const EmulatorProfile& profile, std::string_view key,
-                       const OptionValues& values) {
+std::string RecordLine(const Emulator& emulator, std::string_view key, const OptionValues& values) {
   std::string line = Quoted(key) + "," + Quoted(values.rom_folder);
-  const auto options = OptionsOf(profile.emulator);
+  const auto options = emulator.options;
   for (std::size_t i = 0; i < options.size(); ++i) {
     if (options[i].stored) line += "," + FieldOf(options[i], values.values[i]);
   }

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "core/emulators/app_state.h"
-#include "core/launch/option_table.h"
+#include "core/emulators/emulator.h"
 #include "core/platform/store.h"
 
 namespace zarvo {
@@ -23,26 +23,25 @@ enum class LoadOutcome {
               // of the record: `values` is untouched
 };
 
-Store SettingsStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+Store SettingsStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator);
 
 // Reads the record of `key` and sets app.SettingsFound and app.SettingsFields. Options that a
 // record never holds, and whether an option can be used, stay as `values` has them. Fields that a
 // record lacks, and fields that aren't numbers where numbers belong, keep the default. A combo
 // index past its items counts as such a field too.
-LoadOutcome LoadSettings(Store& store, AppState& app, const EmulatorProfile& profile,
+LoadOutcome LoadSettings(Store& store, AppState& app, const Emulator& emulator,
                          std::string_view key, OptionValues& values);
 
 // Replaces every record of `key` in its place, or adds one at the end; all other lines keep their
 // bytes. All or nothing; on failure the error names the file and the reason.
-Status SaveSettings(Store& store, const EmulatorProfile& profile, std::string_view key,
+Status SaveSettings(Store& store, const Emulator& emulator, std::string_view key,
                     const OptionValues& values);
 
 // Erases the store and writes `values` as its only record, the default one. A store that can't be
 // read stays as it is.
-Status SaveAsDefault(Store& store, const EmulatorProfile& profile, const OptionValues& values);
+Status SaveAsDefault(Store& store, const Emulator& emulator, const OptionValues& values);
 
 // The line of a record without its line end.
-std::string RecordLine(const EmulatorProfile& profile, std::string_view key,
-                       const OptionValues& values);
+std::string RecordLine(const Emulator& emulator, std::string_view key, const OptionValues& values);
 
 }  // namespace zarvo

@@ -71,7 +71,7 @@ std::optional<LayoutRecord> ParsePanel(std::string_view word, std::string_view n
 bool AddRecord(std::string_view line, std::vector<LayoutRecord>& records) {
   const std::string_view word = line.substr(0, line.find(','));
   const bool is_main = word == kMainWord;
-  if (!is_main && FindProfile(word) == nullptr) return true;
+  if (!is_main && FindEmulator(word) == nullptr) return true;
   line.remove_prefix(std::min(line.size(), word.size() + 1));
   auto record = is_main ? ParseMain(line) : ParsePanel(word, line);
   if (!record) return false;

@@ -39,12 +39,12 @@ std::string LineOf(std::string_view value) {
 }  // namespace
 
 // The temporary file is "Mamecfg.tmp" for "Mame.cfg", as the settings store names its own.
-Store CfgStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile) {
-  return {files, app.CfgFolder(), std::string(profile.cfg_file),
-          std::string(profile.word) + "cfg.tmp"};
+Store CfgStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
+  return {files, app.CfgFolder(), std::string(emulator.CfgFile()),
+          std::string(emulator.word) + "cfg.tmp"};
 }
 
-CfgFields ReadCfg(Store& store, const EmulatorProfile& profile) {
+CfgFields ReadCfg(Store& store, const Emulator& emulator) {
   CfgFields fields;
   const auto text = store.Load();
   if (!text) return fields;
@@ -55,7 +55,7 @@ CfgFields ReadCfg(Store& store, const EmulatorProfile& profile) {
     if (!value) return fields;
     *field = *value;
   }
-  if (!profile.has_favourites) return fields;
+  if (!emulator.has_favourites) return fields;
   auto& favourites = fields.favourites.emplace();
   while (favourites.size() < kMostEntries) {
     const auto favourite = TakeField(rest);
@@ -65,11 +65,11 @@ CfgFields ReadCfg(Store& store, const EmulatorProfile& profile) {
   return fields;
 }
 
-Status WriteCfg(Store& store, const EmulatorProfile& profile, const CfgValues& values) {
+Status WriteCfg(Store& store, const Emulator& emulator, const CfgValues& values) {
   std::string text = LineOf(values.exe_path) + LineOf(values.rom_path) + LineOf(values.snap_path) +
                      LineOf(values.snap_format) + LineOf(values.emulator_folder) +
                      LineOf(values.layout_word);
-  if (profile.has_favourites) {
+  if (emulator.has_favourites) {
     for (const std::string& favourite : values.favourites) text += LineOf(favourite);
   }
   return store.Replace(text);

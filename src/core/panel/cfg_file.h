@@ -25,10 +25,10 @@ struct CfgFields {
   std::optional<std::vector<std::string>> favourites;
 };
 
-Store CfgStoreOf(DosFiles& files, const AppState& app, const EmulatorProfile& profile);
+Store CfgStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator);
 
 // Loads the fields that the file has. A file that is missing or can't be read gives none.
-CfgFields ReadCfg(Store& store, const EmulatorProfile& profile);
+CfgFields ReadCfg(Store& store, const Emulator& emulator);
 
 // The values to write. `favourites` in the order of the file: from the last entry of the list to
 // the first.
@@ -43,7 +43,7 @@ struct CfgValues {
 };
 
 // All or nothing; on failure the error names the file and the reason.
-Status WriteCfg(Store& store, const EmulatorProfile& profile, const CfgValues& values);
+Status WriteCfg(Store& store, const Emulator& emulator, const CfgValues& values);
 
 // True if a value reads back the same from the file. A value with a double quote in it is written
 // bare where that works: no comma, no leading blank or quote.

@@ -11,11 +11,11 @@ void ApplyRecord(const LayoutTools& tools, const LayoutRecord& record) {
     tools.main.SetMainPlace(record.top, record.left);
     return;
   }
-  const EmulatorProfile* profile = FindProfile(record.word);
-  if (profile == nullptr) return;
-  if (!tools.app.IsOpen(profile->emulator)) tools.sections.OpenSection(*profile);
+  const Emulator* emulator = FindEmulator(record.word);
+  if (emulator == nullptr) return;
+  if (!tools.app.IsOpen(*emulator)) tools.sections.OpenSection(*emulator);
   tools.sections.SetPanelPlace(
-      profile->emulator,
+      *emulator,
       {.left = record.left, .top = record.top, .width = record.width, .height = record.height});
 }
 
@@ -34,11 +34,11 @@ std::vector<LayoutRecord> PresentWindows(const LayoutTools& tools) {
   records.push_back({.word = std::string(kMainWord),
                      .top = InRange(tools.main.MainTop()),
                      .left = InRange(tools.main.MainLeft())});
-  for (const EmulatorProfile& profile : Profiles()) {
-    if (!tools.app.IsOpen(profile.emulator)) continue;
-    const auto place = tools.sections.PanelPlace(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    if (!tools.app.IsOpen(emulator)) continue;
+    const auto place = tools.sections.PanelPlace(emulator);
     if (!place) continue;
-    records.push_back({.word = std::string(profile.section_word),
+    records.push_back({.word = std::string(emulator.SectionWord()),
                        .top = InRange(place->top),
                        .left = InRange(place->left),
                        .width = place->width,

@@ -5,7 +5,6 @@
 
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
-#include "ui/panel/panel_texts.h"
 
 namespace zarvo {
 
@@ -22,29 +21,29 @@ struct ConfPage::PathRow {
   Label** button;
 };
 
-ConfPage::ConfPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
-  SetName(ControlName(profile, "picConf"));
+ConfPage::ConfPage(QWidget* parent, const Emulator& emulator) : PictureBox(parent) {
+  SetName(ControlName(emulator, "picConf"));
   SetAccessibleName("Configuration page");
   SetBackColor(kCard);
-  const PanelTexts& texts = TextsOf(profile.emulator);
+  const PanelTexts& texts = emulator.texts;
   MakeHeading(this, {60, 75, 3735, 210}, texts.conf_heading);
   const std::array<PathRow, 3> rows = {{
-      {390, texts.exe_caption, &exe_caption, "ExePath", profile.start_exe_path, &txtOptExePath,
+      {390, texts.exe_caption, &exe_caption, "ExePath", emulator.start.exe_path, &txtOptExePath,
        "cmdSfoglia", " Choose emulator executable ", &cmdSfoglia},
-      {990, "Default Roms Directory", &rom_caption, "RomPath", profile.start_rom_path,
+      {990, "Default Roms Directory", &rom_caption, "RomPath", emulator.start.rom_path,
        &txtOptRomPath, "cmdSelDir", " Choose Default rom directory ", &cmdSelDir},
-      {1590, "ScreenShots Directory", &snap_caption, "Snap", profile.start_snap_path, &txtOptSnap,
+      {1590, "ScreenShots Directory", &snap_caption, "Snap", emulator.start.snap_path, &txtOptSnap,
        "cmdDirSnap", " Choose the snapshots directory ", &cmdDirSnap},
   }};
-  for (const PathRow& row : rows) BuildPath(profile, row);
+  for (const PathRow& row : rows) BuildPath(emulator, row);
   BuildFormats();
-  if (profile.has_scan) BuildScan(profile);
+  if (emulator.has_scan) BuildScan(emulator);
 }
 
-void ConfPage::BuildPath(const EmulatorProfile& profile, const PathRow& row) {
+void ConfPage::BuildPath(const Emulator& emulator, const PathRow& row) {
   *row.caption_label = MakeCaption(this, {120, row.top, 2700, 210}, row.caption);
   auto* const box = new TextBox(this);
-  box->SetName(ControlName(profile, "txtOpt", row.box_tail));
+  box->SetName(ControlName(emulator, "txtOpt", row.box_tail));
   box->SetAccessibleName(row.caption);
   box->SetReadOnly(true);
   box->SetText(row.start_text);
@@ -67,16 +66,16 @@ void ConfPage::BuildFormats() {
   optSnapGIF->SetValue(true);
 }
 
-void ConfPage::BuildScan(const EmulatorProfile& profile) {
-  Frame2 = MakeFrame(this, {2010, 2235, 1725, 1275}, TextsOf(profile.emulator).scan_caption);
+void ConfPage::BuildScan(const Emulator& emulator) {
+  Frame2 = MakeFrame(this, {2010, 2235, 1725, 1275}, emulator.texts.scan_caption);
   Frame2->SetName("Frame2");
-  if (profile.knows_parents) {
+  if (emulator.knows_parents) {
     optMerged = Option(Frame2, {180, 285, 1350, 240}, "optMerged", "Merged");
     optSplitted = Option(Frame2, {180, 540, 1350, 240}, "optSplitted", "Splitted");
     optMerged->SetValue(true);
   }
   lblScanNow = MakeButton(Frame2, ButtonKind::kPath,
-                          {315, profile.knows_parents ? 885 : 570, 1095, 270}, "Scan now!");
+                          {315, emulator.knows_parents ? 885 : 570, 1095, 270}, "Scan now!");
   lblScanNow->SetName("lblScanNow");
   lblScanNow->SetToolTipText(" Scan Rom directory ");
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/frame.h"
 #include "ui/toolkit/label.h"
@@ -14,7 +14,7 @@ namespace zarvo {
 
 class ConfPage : public PictureBox {
  public:
-  ConfPage(QWidget* parent, const EmulatorProfile& profile);
+  ConfPage(QWidget* parent, const Emulator& emulator);
 
   // "GIF", "JPG" or "BMP" by the option that is on, empty for none.
   [[nodiscard]] std::string SnapFormat() const;
@@ -41,9 +41,9 @@ class ConfPage : public PictureBox {
 
  private:
   struct PathRow;
-  void BuildPath(const EmulatorProfile& profile, const PathRow& row);
+  void BuildPath(const Emulator& emulator, const PathRow& row);
   void BuildFormats();
-  void BuildScan(const EmulatorProfile& profile);
+  void BuildScan(const Emulator& emulator);
   OptionButton* Option(Frame* frame, const TwipRect& place, std::string_view name,
                        std::string_view caption);
 };

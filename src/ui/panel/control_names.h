@@ -4,18 +4,17 @@
 #include <string>
 #include <string_view>
 
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 
 namespace zarvo {
 
 // The emulator's word between the two parts: "lst" and "Rom" give "lstMameRom".
-std::string ControlName(const EmulatorProfile& profile, std::string_view head,
-                        std::string_view tail);
+std::string ControlName(const Emulator& emulator, std::string_view head, std::string_view tail);
 
 // The word behind the prefix in small letters: "cboScreenRes" gives "cboMameScreenRes".
-std::string ControlName(const EmulatorProfile& profile, std::string_view member);
+std::string ControlName(const Emulator& emulator, std::string_view member);
 
-// The same for the families in which MAME's members bear no word: "imgButSnap", "cmdLarge".
-std::string BareMameName(const EmulatorProfile& profile, std::string_view member);
+// The same for the families whose members bear no word on some panels: "imgButSnap", "cmdLarge".
+std::string BareName(const Emulator& emulator, std::string_view member);
 
 }  // namespace zarvo

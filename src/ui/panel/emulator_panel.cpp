@@ -3,7 +3,6 @@
 #include "core/catalogue/game_details.h"
 #include "core/launch/settings_store.h"
 #include "core/platform/dos_path.h"
-#include "ui/panel/panel_rules.h"
 
 namespace zarvo {
 namespace {
@@ -17,25 +16,25 @@ void EmulatorPanel::LoadCfg(bool paths_only) {
   // The first lines alone don't make the favourites those of the file.
   Store first_lines = cfg_;
   Store& store = paths_only ? first_lines : cfg_;
-  const CfgFields cfg = ReadCfg(store, profile_);
+  const CfgFields cfg = ReadCfg(store, emulator_);
   Report(tools_, store.Usable());
   if (cfg.exe_path) picConf->txtOptExePath->SetText(*cfg.exe_path);
   if (cfg.rom_path) {
     picConf->txtOptRomPath->SetText(*cfg.rom_path);
-    tools_.app.RomPathOf(profile_.emulator) = *cfg.rom_path;
+    tools_.app.RomPathOf(emulator_) = *cfg.rom_path;
   }
   if (cfg.snap_path) picConf->txtOptSnap->SetText(*cfg.snap_path);
   if (cfg.snap_format) picConf->SetSnapFormat(*cfg.snap_format);
   if (cfg.emulator_folder) lblOptHide = *cfg.emulator_folder;
   if (paths_only) return;
   if (cfg.layout_word) sizes->lblRidimen = *cfg.layout_word;
-  if (cfg.favourites && profile_.has_favourites) favourites->SetEntries(*cfg.favourites);
+  if (cfg.favourites && emulator_.has_favourites) favourites->SetEntries(*cfg.favourites);
 }
 
 Status EmulatorPanel::TrySaveCfg() {
-  tools_.app.RomPathOf(profile_.emulator) = picConf->txtOptRomPath->Text();
+  tools_.app.RomPathOf(emulator_) = picConf->txtOptRomPath->Text();
   if (!cfg_.Usable()) return Success();
-  return WriteCfg(cfg_, profile_,
+  return WriteCfg(cfg_, emulator_,
                   {.exe_path = picConf->txtOptExePath->Text(),
                    .rom_path = picConf->txtOptRomPath->Text(),
                    .snap_path = picConf->txtOptSnap->Text(),
@@ -54,7 +53,7 @@ void EmulatorPanel::SaveCfg() {
 
 Status EmulatorPanel::TrySaveSettings(std::string_view key) {
   if (!settings_.Usable()) return Success();
-  return zarvo::SaveSettings(settings_, profile_, key, picSettings->Values());
+  return zarvo::SaveSettings(settings_, emulator_, key, picSettings->Values());
 }
 
 void EmulatorPanel::SaveSettings(std::string_view key) { Report(tools_, TrySaveSettings(key)); }
@@ -75,7 +74,7 @@ bool EmulatorPanel::SaveOrLeave() {
     if (saved) return true;
     const BoxAnswer answer =
         tools_.boxes.Show(BoxIcon::kExclamation, BoxButtons::kRetryStayLeave, tools_.app.Title(),
-                          "What was changed in " + std::string(profile_.selector_caption) +
+                          "What was changed in " + std::string(emulator_.selector_caption) +
                               " can't be saved, and would be lost:\r\r" + saved.error().message);
     if (answer != BoxAnswer::kRetry) return answer == BoxAnswer::kLeave;
   }
@@ -83,7 +82,7 @@ bool EmulatorPanel::SaveOrLeave() {
 
 bool EmulatorPanel::SaveAndMarkClosed() {
   if (!SaveOrLeave()) return false;
-  tools_.app.ShowWord(profile_.emulator) = "NO";
+  tools_.app.ShowWord(emulator_) = "NO";
   closed_ = true;
   return true;
 }
@@ -107,15 +106,15 @@ void EmulatorPanel::Enter() {
   if (favourites->lstPref->ListCount() > 0) {
     favourites->lstPref->SetListIndex(0);
   } else {
-    if (RulesOf(profile_.emulator).shown_before_first_game) ShowModeless();
+    if (emulator_.panel.shown_before_first_game) ShowModeless();
     if (games->lstRom != nullptr) games->lstRom->SetListIndex(0);
   }
   games->ShowCount();
-  if (!tools_.files.FileExists(JoinPath(tools_.app.CfgFolder(), profile_.cfg_file))) {
+  if (!tools_.files.FileExists(JoinPath(tools_.app.CfgFolder(), emulator_.CfgFile()))) {
     tools_.boxes.Inform(tools_.app.Title(), tools_.app.messages.MsgNoCfgFile);
     ShowConfiguration();
   }
-  tools_.app.ShowWord(profile_.emulator) = "SI";
+  tools_.app.ShowWord(emulator_) = "SI";
   FirstList()->setFocus();
   ShowModeless();
 }
@@ -129,7 +128,7 @@ void EmulatorPanel::ShowConfiguration() {
 }
 
 bool EmulatorPanel::FindRom(std::string_view game) {
-  const auto record = FindRecord(tools_.files, tools_.app, profile_, game);
+  const auto record = FindRecord(tools_.files, tools_.app, emulator_, game);
   if (record && record->field_count > static_cast<int>(Field::kRomFile)) {
     RomFile = (*record)[Field::kRomFile];
   }
@@ -141,7 +140,7 @@ bool EmulatorPanel::FindRom(std::string_view game) {
   if (removes_unknown_) return false;
   removes_unknown_ = true;
   tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgRomNotInDataFile);
-  if (profile_.has_favourites) favourites->RemoveUnknown();
+  if (emulator_.has_favourites) favourites->RemoveUnknown();
   removes_unknown_ = false;
   return false;
 }
@@ -185,8 +184,8 @@ void EmulatorPanel::EnterConfigurationPage() {
 void EmulatorPanel::EnterSettingsPage() {
   if (picSettings->Visible()) return;
   ShowPage(Page::kSettings);
-  const std::string& rom_path = tools_.app.RomPathOf(profile_.emulator);
-  picSettings->txtRomPath->SetText(rom_path.empty() ? profile_.default_rom_folder : rom_path);
+  const std::string& rom_path = tools_.app.RomPathOf(emulator_);
+  picSettings->txtRomPath->SetText(rom_path.empty() ? emulator_.default_rom_folder : rom_path);
   picSettings->ApplyPresets();
   const std::string key = FirstGame();
   lblRomSettings->SetCaption(key);
@@ -211,7 +210,7 @@ std::string EmulatorPanel::FirstGame() {
 }
 
 void EmulatorPanel::OnSelected(const ListBox* list) {
-  const bool guarded = list == games->lstRom && profile_.has_filters;
+  const bool guarded = list == games->lstRom && emulator_.has_filters;
   if (guarded && games->lblFilterHide == "FREE") return;
   TakeBack();
   ++cycles_;
@@ -257,13 +256,13 @@ bool EmulatorPanel::ShowPictureOfRom() {
 }
 
 void EmulatorPanel::ShowInfo() {
-  const auto record = FindRecord(tools_.files, tools_.app, profile_, lblRomSettings->Caption());
+  const auto record = FindRecord(tools_.files, tools_.app, emulator_, lblRomSettings->Caption());
   if (record && record->field_count == kFieldCount) picInfo->ShowRecord(*record);
 }
 
 void EmulatorPanel::ShowGameList() {
-  if (!profile_.has_game_list_text) return;
-  picHelp->SetLines(GameListText(tools_.files, profile_, lblOptHide, lblRomSettings->Caption()));
+  if (emulator_.help.game_list.read == nullptr) return;
+  picHelp->SetLines(GameListText(tools_.files, emulator_, lblOptHide, lblRomSettings->Caption()));
 }
 
 // The controls always belong to the game in the caption: whenever it moves, that game's record is
@@ -279,7 +278,7 @@ bool EmulatorPanel::MoveCaption(const std::string& name) {
 }
 
 void EmulatorPanel::ApplyDefaults() {
-  picSettings->Apply(DefaultValues(profile_, tools_.app.RomPathOf(profile_.emulator)));
+  picSettings->Apply(DefaultValues(emulator_, tools_.app.RomPathOf(emulator_)));
 }
 
 LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {
@@ -288,7 +287,7 @@ LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {
   Store borrowed = settings_;
   Store& store = key == lblRomSettings->Caption() ? settings_ : borrowed;
   const bool told = !store.Usable();
-  const LoadOutcome outcome = LoadSettings(store, tools_.app, profile_, key, values);
+  const LoadOutcome outcome = LoadSettings(store, tools_.app, emulator_, key, values);
   if (!told) Report(tools_, store.Usable());
   if (outcome != LoadOutcome::kNothing) picSettings->Apply(values);
   return outcome;
@@ -296,7 +295,7 @@ LoadOutcome EmulatorPanel::LoadGame(std::string_view key) {
 
 void EmulatorPanel::ApplyToAll() {
   if (!tools_.boxes.Ask(tools_.app.Title(), tools_.app.messages.MsgApplyDefaults)) return;
-  const Status saved = SaveAsDefault(settings_, profile_, picSettings->Values());
+  const Status saved = SaveAsDefault(settings_, emulator_, picSettings->Values());
   Report(tools_, saved);
   if (saved.ok()) tools_.boxes.Inform(tools_.app.Title(), tools_.app.messages.MsgDefaultsSaved);
 }

@@ -2,7 +2,7 @@
 // settings as the selection moves.
 //
 // The controls are the only live copy of what the panel holds. One class serves all five
-// emulators; what differs stands in the profile, the option table and the panel's rules.
+// emulators; what differs stands in the emulator, the option table and the panel's rules.
 #pragma once
 
 #include <memory>
@@ -32,10 +32,10 @@ namespace zarvo {
 class EmulatorPanel : public Window, private LaunchPanel {
  public:
   // Creates the panel and runs its load; it isn't shown.
-  EmulatorPanel(const EmulatorProfile& profile, PanelTools tools);
+  EmulatorPanel(const Emulator& emulator, PanelTools tools);
   ~EmulatorPanel() override;
 
-  [[nodiscard]] const EmulatorProfile& Profile() const { return profile_; }
+  [[nodiscard]] const Emulator& ItsEmulator() const { return emulator_; }
   [[nodiscard]] MainPlace& Main() const { return tools_.main; }
 
   // The configuration file into the controls: its first five lines alone, or all.
@@ -161,7 +161,7 @@ class EmulatorPanel : public Window, private LaunchPanel {
   void ShowEmulatorPicker() override;
   void ShowRomPicker() override;
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   PanelTools tools_;
   Store cfg_;
   Store settings_;

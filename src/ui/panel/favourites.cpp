@@ -5,40 +5,39 @@
 #include "core/platform/text.h"
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
-#include "ui/panel/panel_rules.h"
 #include "ui/toolkit/keys.h"
 
 namespace zarvo {
 
-Favourites::Favourites(QWidget* panel, const EmulatorProfile& profile, const PanelTools& tools)
-    : profile_(profile), tools_(tools) {
+Favourites::Favourites(QWidget* panel, const Emulator& emulator, const PanelTools& tools)
+    : emulator_(emulator), tools_(tools) {
   Build(panel);
-  if (profile.has_favourites) {
+  if (emulator.has_favourites) {
     BuildClear(panel);
     lstPref->SetSorted(true);
     lstPref->KeyDown.Connect([this](const KeyArgs& key) { OnKey(key); });
   } else {
-    for (const std::string_view game : M72Games()) lstPref->AddItem(game);
+    for (const std::string_view game : emulator_.fixed_games) lstPref->AddItem(game);
   }
 }
 
 void Favourites::Build(QWidget* panel) {
   lblFavorties = MakeCaption(panel, {90, 525, 870, 195}, " Favorties:");
-  lblFavorties->SetName(ControlName(profile_, "lblFavorties"));
+  lblFavorties->SetName(ControlName(emulator_, "lblFavorties"));
   lblFavorties->SetForeColor(kPeriwinkle);
   lblFavCount = MakeCaption(panel, {960, 525, 420, 195}, "Cou");
   lblFavCount->SetName(
-      ControlName(profile_, profile_.has_favourites ? "lblFavCount" : "lblFavCountFix"));
+      ControlName(emulator_, emulator_.has_favourites ? "lblFavCount" : "lblFavCountFix"));
   lblFavCount->SetForeColor(kWhite);
   lstPref = new ListBox(panel);
-  lstPref->SetName(ControlName(profile_, "lstPref"));
-  lstPref->SetAccessibleName(profile_.has_favourites ? "Favourites" : "Games");
+  lstPref->SetName(ControlName(emulator_, "lstPref"));
+  lstPref->SetAccessibleName(emulator_.has_favourites ? "Favourites" : "Games");
   lstPref->SetPlace({90, 750, 2235, 3825});
 }
 
 void Favourites::BuildClear(QWidget* panel) {
   lblClearFav = MakeButton(panel, ButtonKind::kBulk, {1425, 510, 540, 210}, "Clear");
-  lblClearFav->SetName(ControlName(profile_, "lblClearFav"));
+  lblClearFav->SetName(ControlName(emulator_, "lblClearFav"));
   lblClearFav->Click.Connect([this] { AskAndClear(); });
 }
 
@@ -47,7 +46,7 @@ void Favourites::Connect(ListBox* big_list, const Label* total) {
   big_list->KeyDown.Connect([this, big_list](const KeyArgs& key) {
     if (key.code == key::kInsert) Add(big_list->Text());
   });
-  const PercentTip tip = RulesOf(profile_.emulator).percent_tip;
+  const PercentTip tip = emulator_.panel.percent_tip;
   lblFavCount->SetPressable(tip != PercentTip::kNever);
   if (tip == PercentTip::kOnMove) {
     lblFavCount->TabbedTo.Connect([this, total] { ShowPercentage(total); });
@@ -95,7 +94,7 @@ void Favourites::SetEntries(const std::vector<std::string>& names) {
 
 std::vector<std::string> Favourites::EntriesBackwards() const {
   std::vector<std::string> names;
-  if (!profile_.has_favourites) return names;
+  if (!emulator_.has_favourites) return names;
   for (int i = lstPref->ListCount() - 1; i >= 0; --i) names.emplace_back(lstPref->Items().At(i));
   return names;
 }

@@ -15,7 +15,7 @@ namespace zarvo {
 
 class Favourites {
  public:
-  Favourites(QWidget* panel, const EmulatorProfile& profile, const PanelTools& tools);
+  Favourites(QWidget* panel, const Emulator& emulator, const PanelTools& tools);
 
   // Wires drag, Insert key and percentage to the big list and to the total; not for M72.
   void Connect(ListBox* big_list, const Label* total);
@@ -44,7 +44,7 @@ class Favourites {
   void AskAndClear();
   void ShowPercentage(const Label* total);
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   const PanelTools& tools_;
   DropTarget target_;
 };

@@ -4,24 +4,22 @@
 
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
-#include "ui/panel/panel_rules.h"
-#include "ui/panel/panel_texts.h"
 #include "ui/toolkit/keys.h"
 
 namespace zarvo {
 
-GameFilters::GameFilters(QWidget* panel, const EmulatorProfile& profile, const PanelTools& tools)
-    : profile_(profile), tools_(tools) {
-  if (!profile.has_game_list) return;
+GameFilters::GameFilters(QWidget* panel, const Emulator& emulator, const PanelTools& tools)
+    : emulator_(emulator), tools_(tools) {
+  if (!emulator.has_game_list) return;
   BuildList(panel);
-  if (profile.has_filters) BuildCombos(panel);
+  if (emulator.has_filters) BuildCombos(panel);
   BuildCounters(panel);
 }
 
 void GameFilters::BuildList(QWidget* panel) {
-  const PanelRules& rules = RulesOf(profile_.emulator);
+  const PanelRules& rules = emulator_.panel;
   lstRom = new ListBox(panel);
-  lstRom->SetName(ControlName(profile_, "lstRom"));
+  lstRom->SetName(ControlName(emulator_, "lstRom"));
   lstRom->SetAccessibleName("Games");
   lstRom->SetSorted(true);
   lstRom->SetColumns(rules.start_columns);
@@ -36,18 +34,16 @@ void GameFilters::BuildCombos(QWidget* panel) {
     std::span<const std::string_view> items;
   };
   const std::array<Row, 4> rows = {{
-      {&cboFilterMisc, "Misc", "State filter", StateItems(profile_.emulator)},
-      {&cboFilterGenre, "Genre", "Genre filter",
-       FilterItems(profile_.emulator, ValueFilter::kGenre)},
-      {&cboFilterManufactor, "Manufactor", "Manufacturer filter",
-       FilterItems(profile_.emulator, ValueFilter::kManufactor)},
-      {&cboFilterYear, "Year", "Year filter", FilterItems(profile_.emulator, ValueFilter::kYear)},
+      {&cboFilterMisc, "Misc", "State filter", emulator_.filters.states},
+      {&cboFilterGenre, "Genre", "Genre filter", emulator_.filters.genres},
+      {&cboFilterManufactor, "Manufactor", "Manufacturer filter", emulator_.filters.manufactors},
+      {&cboFilterYear, "Year", "Year filter", emulator_.filters.years},
   }};
-  const PanelRules& rules = RulesOf(profile_.emulator);
+  const PanelRules& rules = emulator_.panel;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     auto* const combo = new ComboBox(panel);
     *rows[i].combo = combo;
-    combo->SetName(ControlName(profile_, "cboFilter", rows[i].tail));
+    combo->SetName(ControlName(emulator_, "cboFilter", rows[i].tail));
     combo->SetAccessibleName(rows[i].accessible);
     for (const std::string_view item : rows[i].items) combo->AddItem(item);
     combo->SetPlace({rules.combos[i].left, 4650, rules.combos[i].width, 285});
@@ -59,30 +55,30 @@ void GameFilters::BuildCombos(QWidget* panel) {
 }
 
 void GameFilters::BuildCounters(QWidget* panel) {
-  const PanelTexts& texts = TextsOf(profile_.emulator);
+  const PanelTexts& texts = emulator_.texts;
   // Between the year combo and the right edge; the long captions take a smaller letter.
   const bool narrow = texts.total_caption.size() > 2;
-  const int left = profile_.has_filters ? (narrow ? 5445 : 5640) : 5340;
+  const int left = emulator_.has_filters ? (narrow ? 5445 : 5640) : 5340;
   const int caption_width = narrow ? 495 : 165;
   const auto counter = [&](int top, std::string_view caption, std::string_view tail) {
     Label* const text = MakeCaption(panel, {left, top, caption_width, 165}, caption);
     Label* const number =
         MakeCaption(panel, {left + caption_width, top, 6285 - left - caption_width, 165}, "");
-    number->SetName(ControlName(profile_, "lbl", tail));
+    number->SetName(ControlName(emulator_, "lbl", tail));
     for (Label* const label : {text, number}) {
       label->SetForeColor(kPeriwinkle);
-      if (narrow && profile_.has_filters) label->SetTextSize(9);
+      if (narrow && emulator_.has_filters) label->SetTextSize(9);
     }
     number->SetForeColor(kWhite);
     return number;
   };
   if (!texts.count_caption.empty()) lblRomCount = counter(4635, texts.count_caption, "RomCount");
-  lblTotal = counter(profile_.has_filters ? 4800 : 4605, texts.total_caption, "Total");
+  lblTotal = counter(emulator_.has_filters ? 4800 : 4605, texts.total_caption, "Total");
   lblTotal->SetCaption(texts.design_total);
 }
 
 void GameFilters::Load() {
-  if (profile_.has_filters) {
+  if (emulator_.has_filters) {
     lblFilterHide = "FREE";
     for (ComboBox* const combo : Combos()) combo->SetListIndex(0);
     lblFilterHide.clear();
@@ -91,8 +87,8 @@ void GameFilters::Load() {
 }
 
 void GameFilters::ReadTotal() {
-  const DataTotal total = ReadDataTotal(tools_.files, tools_.app, profile_);
-  const bool empty_without_file = TextsOf(profile_.emulator).design_total.empty();
+  const DataTotal total = ReadDataTotal(tools_.files, tools_.app, emulator_);
+  const bool empty_without_file = emulator_.texts.design_total.empty();
   if (total.total) {
     lblTotal->SetCaption(*total.total);
   } else if (empty_without_file) {
@@ -106,7 +102,7 @@ void GameFilters::ShowCount() {
 
 void GameFilters::Fill(GameState state) {
   NameList names = lstRom->Items();
-  switch (FillList(tools_.files, tools_.app, profile_, state, names)) {
+  switch (FillList(tools_.files, tools_.app, emulator_, state, names)) {
     case FillResult::kFilled:
       lstRom->SetItems(std::move(names));
       ShowCount();
@@ -140,10 +136,10 @@ void GameFilters::Refresh() {
 }
 
 void GameFilters::Step(ValueFilter filter, const std::string& value) {
-  if (value == FilterItems(profile_.emulator, filter).front()) return;
+  if (value == ItemsOf(emulator_, filter).front()) return;
   lblFilterHide = "FREE";
   NameList names = lstRom->Items();
-  FilterList(tools_.files, tools_.app, profile_, filter, value, names);
+  FilterList(tools_.files, tools_.app, emulator_, filter, value, names);
   lstRom->SetItems(std::move(names));
   lblFilterHide.clear();
 }

@@ -16,7 +16,7 @@ namespace zarvo {
 // The filters hold no data of their own: the list box is their only result.
 class GameFilters {
  public:
-  GameFilters(QWidget* panel, const EmulatorProfile& profile, const PanelTools& tools);
+  GameFilters(QWidget* panel, const Emulator& emulator, const PanelTools& tools);
 
   // The neutral items without a refresh, and the data file's own total.
   void Load();
@@ -55,7 +55,7 @@ class GameFilters {
     return {cboFilterMisc, cboFilterGenre, cboFilterManufactor, cboFilterYear};
   }
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   const PanelTools& tools_;
 };
 

@@ -1,56 +1,12 @@
 #include "ui/panel/help_page.h"
 
 #include <algorithm>
-#include <array>
 
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
 
 namespace zarvo {
 namespace {
-
-// How the keys of a panel are set out on the page.
-struct KeyLayout {
-  int list_height;  // twips; 0: no list
-  std::string_view title;
-  int columns;
-  int row_height;
-  int key_width;
-  int text_size;  // pixels
-};
-
-constexpr std::array<KeyLayout, kEmulatorCount> kLayouts = {{
-    {.list_height = 1440,
-     .title = "Game Details",
-     .columns = 1,
-     .row_height = 180,
-     .key_width = 495,
-     .text_size = 10},
-    {.list_height = 1410,
-     .title = "Game Details",
-     .columns = 2,
-     .row_height = 192,
-     .key_width = 570,
-     .text_size = 10},
-    {.list_height = 0,
-     .title = "",
-     .columns = 2,
-     .row_height = 216,
-     .key_width = 510,
-     .text_size = 10},
-    {.list_height = 1500,
-     .title = "Game Details",
-     .columns = 2,
-     .row_height = 210,
-     .key_width = 420,
-     .text_size = 10},
-    {.list_height = 0,
-     .title = "",
-     .columns = 1,
-     .row_height = 195,
-     .key_width = 1380,
-     .text_size = 11},
-}};
 
 constexpr int kMargin = 75;
 constexpr int kPageWidth = 3855;
@@ -62,29 +18,28 @@ bool IsHeading(const KeyRow& row) { return row.key.empty(); }
 
 }  // namespace
 
-HelpPage::HelpPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
-  SetName(ControlName(profile, "picHelp"));
+HelpPage::HelpPage(QWidget* parent, const Emulator& emulator) : PictureBox(parent) {
+  SetName(ControlName(emulator, "picHelp"));
   SetAccessibleName("Help page");
   SetBackColor(kCard);
-  BuildKeys(BuildList(profile), profile.emulator);
-  if (profile.emulator == Emulator::kSystem16) SetLines(System16Help());
+  BuildKeys(BuildList(emulator), emulator.help);
+  if (emulator.help.fixed_list != nullptr) SetLines(emulator.help.fixed_list());
 }
 
-int HelpPage::BuildList(const EmulatorProfile& profile) {
-  const KeyLayout& layout = kLayouts[static_cast<std::size_t>(profile.emulator)];
+int HelpPage::BuildList(const Emulator& emulator) {
+  const HelpPageTable& layout = emulator.help;
   if (layout.list_height == 0) return 60;
   MakeHeading(this, {kMargin, 30, kPageWidth - 2 * kMargin, 195}, layout.title);
   lstHelp = new ListBox(this);
-  lstHelp->SetName(ControlName(profile, "lstHelp"));
+  lstHelp->SetName(ControlName(emulator, "lstHelp"));
   lstHelp->SetAccessibleName("Game details");
   lstHelp->SetTextSize(layout.text_size);
   lstHelp->SetPlace({kMargin, 240, kPageWidth - 2 * kMargin, layout.list_height});
   return 240 + layout.list_height + 45;
 }
 
-void HelpPage::BuildKeys(int top, Emulator emulator) {
-  const KeyLayout& layout = kLayouts[static_cast<std::size_t>(emulator)];
-  const std::span<const KeyRow> rows = HelpKeys(emulator);
+void HelpPage::BuildKeys(int top, const HelpPageTable& layout) {
+  const std::span<const KeyRow> rows = layout.keys;
   const int count = static_cast<int>(rows.size());
   const int in_column = (count + layout.columns - 1) / layout.columns;
   const int column_width = (kPageWidth - kMargin) / layout.columns;
@@ -92,12 +47,11 @@ void HelpPage::BuildKeys(int top, Emulator emulator) {
     const TwipRect place = {kMargin + (i / in_column) * column_width,
                             top + (i % in_column) * layout.row_height, column_width,
                             layout.row_height};
-    BuildRow(rows[static_cast<std::size_t>(i)], place, emulator);
+    BuildRow(rows[static_cast<std::size_t>(i)], place, layout);
   }
 }
 
-void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator) {
-  const KeyLayout& layout = kLayouts[static_cast<std::size_t>(emulator)];
+void HelpPage::BuildRow(const KeyRow& row, const TwipRect& place, const HelpPageTable& layout) {
   const auto cell = [&](int left, int width, std::string_view text) {
     Label* const label =
         MakeCaption(this, {place.left + left, place.top, width, place.height}, text);

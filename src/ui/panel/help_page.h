@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/catalogue/game_details.h"
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 #include "ui/toolkit/frame.h"
 #include "ui/toolkit/list_box.h"
 
@@ -13,7 +13,7 @@ namespace zarvo {
 
 class HelpPage : public PictureBox {
  public:
-  HelpPage(QWidget* parent, const EmulatorProfile& profile);
+  HelpPage(QWidget* parent, const Emulator& emulator);
 
   // Replaces the content of the list.
   void SetLines(const std::vector<std::string>& lines) const;
@@ -21,9 +21,9 @@ class HelpPage : public PictureBox {
   ListBox* lstHelp = nullptr;  // nullptr: this panel has keys alone
 
  private:
-  int BuildList(const EmulatorProfile& profile);
-  void BuildKeys(int top, Emulator emulator);
-  void BuildRow(const KeyRow& row, const TwipRect& place, Emulator emulator);
+  int BuildList(const Emulator& emulator);
+  void BuildKeys(int top, const HelpPageTable& layout);
+  void BuildRow(const KeyRow& row, const TwipRect& place, const HelpPageTable& layout);
 };
 
 }  // namespace zarvo

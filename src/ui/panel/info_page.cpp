@@ -55,8 +55,8 @@ constexpr std::array<RowPlace, kFieldCount> kRows = {{
 
 }  // namespace
 
-InfoPage::InfoPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
-  SetName(ControlName(profile, "picInfo"));
+InfoPage::InfoPage(QWidget* parent, const Emulator& emulator) : PictureBox(parent) {
+  SetName(ControlName(emulator, "picInfo"));
   SetAccessibleName("Details page");
   SetBackColor(kCard);
   BuildFrames();

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/catalogue/game_details.h"
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 #include "ui/toolkit/frame.h"
 #include "ui/toolkit/label.h"
 
@@ -13,7 +13,7 @@ namespace zarvo {
 
 class InfoPage : public PictureBox {
  public:
-  InfoPage(QWidget* parent, const EmulatorProfile& profile);
+  InfoPage(QWidget* parent, const Emulator& emulator);
 
   // Sets the labels in the order of the fields. A field that says nothing leaves its label.
   void ShowRecord(const GameRecord& record);

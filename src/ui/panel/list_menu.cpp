@@ -16,15 +16,15 @@ std::string_view OriginalOrClone(std::string_view oc) {
 
 }  // namespace
 
-ListMenu::ListMenu(const EmulatorProfile& profile, const PanelTools& tools)
-    : profile_(profile),
+ListMenu::ListMenu(const Emulator& emulator, const PanelTools& tools)
+    : emulator_(emulator),
       tools_(tools),
-      menu_(ControlName(profile, "mnu"),
-            {ControlName(profile, "mnuManufactor"), ControlName(profile, "mnuYear"),
-             ControlName(profile, "mnuGenre"), "", ControlName(profile, "mnuOC")}) {}
+      menu_(ControlName(emulator, "mnu"),
+            {ControlName(emulator, "mnuManufactor"), ControlName(emulator, "mnuYear"),
+             ControlName(emulator, "mnuGenre"), "", ControlName(emulator, "mnuOC")}) {}
 
 void ListMenu::Prepare(std::string_view name) {
-  const auto record = FindRecord(tools_.files, tools_.app, profile_, name);
+  const auto record = FindRecord(tools_.files, tools_.app, emulator_, name);
   if (!record && !name.empty()) return;
   const GameRecord facts = record.value_or(GameRecord{});
   menu_.SetCaption(kManufactor, facts[Field::kMadeBy]);

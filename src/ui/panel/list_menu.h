@@ -11,7 +11,7 @@ namespace zarvo {
 
 class ListMenu {
  public:
-  ListMenu(const EmulatorProfile& profile, const PanelTools& tools);
+  ListMenu(const Emulator& emulator, const PanelTools& tools);
 
   // Sets the captions for one game; they stay as they are for a game that isn't known. An empty
   // name empties them.
@@ -26,7 +26,7 @@ class ListMenu {
  private:
   void Open(const ListBox& list, bool needs_selection, QPoint place);
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   const PanelTools& tools_;
   PopupMenu menu_;
 };

@@ -23,10 +23,12 @@ void PutZero(TextBox* box) {
 
 }  // namespace
 
-RecordingRules::RecordingRules(const SettingsPage& page, const PanelTools& tools,
+RecordingRules::RecordingRules(const Emulator& emulator, const SettingsPage& page,
+                               const PanelTools& tools,
                                std::function<std::string()> emulator_folder)
-    : chkRecord_(page.Option("chkRecord").check),
-      chkPlayback_(page.Option("chkPlayback").check),
+    : emulator_(emulator),
+      chkRecord_(page.Option(emulator.recording->record).check),
+      chkPlayback_(page.Option(emulator.recording->playback).check),
       tools_(tools),
       emulator_folder_(std::move(emulator_folder)) {
   chkRecord_->Click.Connect([this] { OnRecord(); });
@@ -46,7 +48,7 @@ void RecordingRules::OnPlayback() {
   if (chkRecord_->Value() == 1) chkRecord_->SetValue(0);
   if (chkPlayback_->Value() == 0) return;
   FilePicker picker(tools_.files, tools_.panels, tools_.boxes, tools_.app.Title());
-  picker.lblSelExeHide = ProfileOf(Emulator::kMame).section_word;
+  picker.lblSelExeHide = emulator_.SectionWord();
   const std::string folder = JoinPath(emulator_folder_(), "INP");
   if (!picker.ChooseRecording(folder)) {
     tools_.boxes.Warn(tools_.app.Title(),
@@ -59,7 +61,7 @@ void RecordingRules::OnPlayback() {
   chkPlayback_->SetToolTipText(" Playback:  <" + lblHideInp + "> ");
 }
 
-void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title) {
+void WireNumberBox(TextBox* box, const PanelTools& tools, std::string title) {
   // What comes without a key, by an input method or the mouse, isn't refused but put back.
   box->setAttribute(Qt::WA_InputMethodEnabled, false);
   box->Change.Connect([box] {
@@ -78,10 +80,10 @@ void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title) {
   });
 }
 
-void WireVerticalDisplay(const SettingsPage& page) {
-  CheckBox* const vertical = page.Option("chkVertDisplay").check;
-  ComboBox* const modes = page.Option("cboVR").combo;
-  vertical->Click.Connect([vertical, modes] { modes->SetEnabled(vertical->Value() == 1); });
+void WireEnabling(const SettingsPage& page, const Enabling& enabling) {
+  CheckBox* const by = page.Option(enabling.by).check;
+  Control* const option = page.Option(enabling.option).Part();
+  by->Click.Connect([by, option] { option->SetEnabled(by->Value() == 1); });
 }
 
 }  // namespace zarvo

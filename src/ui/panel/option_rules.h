@@ -9,11 +9,11 @@
 
 namespace zarvo {
 
-// MAME's Record and Playback, which exclude each other, and the recording to play back.
+// Record and Playback, which exclude each other, and the recording to play back.
 class RecordingRules {
  public:
   // `emulator_folder` gives the emulator's own folder, in which INP holds the recordings.
-  RecordingRules(const SettingsPage& page, const PanelTools& tools,
+  RecordingRules(const Emulator& emulator, const SettingsPage& page, const PanelTools& tools,
                  std::function<std::string()> emulator_folder);
 
   void ClearPlayback();
@@ -25,6 +25,7 @@ class RecordingRules {
   void OnRecord();
   void OnPlayback();
 
+  const Emulator& emulator_;
   CheckBox* chkRecord_;
   CheckBox* chkPlayback_;
   const PanelTools& tools_;
@@ -33,9 +34,9 @@ class RecordingRules {
 
 // A box that takes a whole number: never empty, and only digits and minus can be typed.
 // `title` is the title of the message about any other key.
-void WireSkipBox(TextBox* box, const PanelTools& tools, std::string title);
+void WireNumberBox(TextBox* box, const PanelTools& tools, std::string title);
 
-// M72's vertical display: its list can be used only while the box is on.
-void WireVerticalDisplay(const SettingsPage& page);
+// An option that can be used only while a check box is on.
+void WireEnabling(const SettingsPage& page, const Enabling& enabling);
 
 }  // namespace zarvo

@@ -6,8 +6,6 @@
 #include "ui/panel/emulator_panel.h"
 #include "ui/panel/page_parts.h"
 #include "ui/panel/panel_hover.h"
-#include "ui/panel/panel_rules.h"
-#include "ui/panel/panel_texts.h"
 #include "ui/toolkit/keys.h"
 #include "ui/toolkit/tab_order.h"
 
@@ -23,12 +21,12 @@ constexpr TwipRect kButtonSize{0, 0, 705, 315};
 
 }  // namespace
 
-EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, PanelTools tools)
-    : Window(WindowFrame::kNone, ControlName(profile, "frm")),
-      profile_(profile),
+EmulatorPanel::EmulatorPanel(const Emulator& emulator, PanelTools tools)
+    : Window(WindowFrame::kNone, ControlName(emulator, "frm")),
+      emulator_(emulator),
       tools_(std::move(tools)),
-      cfg_(CfgStoreOf(tools_.files, tools_.app, profile)),
-      settings_(SettingsStoreOf(tools_.files, tools_.app, profile)) {
+      cfg_(CfgStoreOf(tools_.files, tools_.app, emulator)),
+      settings_(SettingsStoreOf(tools_.files, tools_.app, emulator)) {
   Build();
   Wire();
   Load();
@@ -37,18 +35,18 @@ EmulatorPanel::EmulatorPanel(const EmulatorProfile& profile, PanelTools tools)
 EmulatorPanel::~EmulatorPanel() = default;
 
 void EmulatorPanel::Build() {
-  SetCaption(std::string(profile_.selector_caption) + " - " + tools_.app.Title());
+  SetCaption(std::string(emulator_.selector_caption) + " - " + tools_.app.Title());
   SetWidth(kPanelWidth);
-  SetHeight(profile_.panel_height);
+  SetHeight(emulator_.panel.height);
   SetBackground(Picture::FromResource("panel_background"));
-  lblOptHide = profile_.start_emulator_folder;
+  lblOptHide = emulator_.start.emulator_folder;
   BuildHeader();
-  favourites = std::make_unique<Favourites>(this, profile_, tools_);
+  favourites = std::make_unique<Favourites>(this, emulator_, tools_);
   BuildPageButtons();
   BuildPages();
-  games = std::make_unique<GameFilters>(this, profile_, tools_);
-  sizes = std::make_unique<PanelSizes>(*this, profile_, *games, *favourites);
-  menu_ = std::make_unique<ListMenu>(profile_, tools_);
+  games = std::make_unique<GameFilters>(this, emulator_, tools_);
+  sizes = std::make_unique<PanelSizes>(*this, emulator_, *games, *favourites);
+  menu_ = std::make_unique<ListMenu>(emulator_, tools_);
   BuildEdges();
   OrderControls();
 }
@@ -72,21 +70,21 @@ void EmulatorPanel::resizeEvent(QResizeEvent* event) {
 
 void EmulatorPanel::BuildHeader() {
   logo = new ImageBox(this);
-  logo->SetName(ControlName(profile_, "img", ""));
-  logo->SetAccessibleName(std::string(profile_.selector_caption) + " logo");
-  logo->SetPicture(Picture::FromResource(TextsOf(profile_.emulator).logo.data()));
+  logo->SetName(ControlName(emulator_, "img", ""));
+  logo->SetAccessibleName(std::string(emulator_.selector_caption) + " logo");
+  logo->SetPicture(Picture::FromResource(emulator_.Logo().c_str()));
   logo->SetPlace({120, 120, 1260, 324});
   logo->SetPressable(true);
   logo->setFocusPolicy(Qt::TabFocus);  // to carry the panel by it leaves the focus in the list
-  logo->SetPressIsDouble(!RulesOf(profile_.emulator).docks_on_click);
+  logo->SetPressIsDouble(!emulator_.panel.docks_on_click);
 
   cmdExit = MakeButton(this, ButtonKind::kClose, {2115, 120, 210, 225}, "X");
-  cmdExit->SetName(ControlName(profile_, "cmdExit"));
+  cmdExit->SetName(ControlName(emulator_, "cmdExit"));
   cmdExit->SetToolTipText(" Close window ");
   cmdExit->SetAccessibleName("Close window");
 
   lblRomSettings = MakeHeading(this, {2400, 465, 3855, 210}, "");
-  lblRomSettings->SetName(ControlName(profile_, "lblRomSettings"));
+  lblRomSettings->SetName(ControlName(emulator_, "lblRomSettings"));
   lblRomSettings->SetForeColor(kYellow);
 }
 
@@ -120,7 +118,7 @@ void EmulatorPanel::BuildPageButtons() {
         {row.left - 30, kButtonTop - 30, kButtonSize.width + 60, kButtonSize.height + 60});
     auto* const button = new ImageBox(this);
     *row.button = button;
-    button->SetName(BareMameName(profile_, row.name));
+    button->SetName(BareName(emulator_, row.name));
     button->SetAccessibleName(row.accessible);
     button->SetToolTipText(row.accessible);
     button->SetPicture(Picture::FromResource(row.picture));
@@ -143,11 +141,11 @@ void EmulatorPanel::WirePageButton(ImageBox* button, int left, std::function<voi
 }
 
 void EmulatorPanel::BuildPages() {
-  picSnap = new SnapshotPage(this, profile_);
-  picSettings = new SettingsPage(this, profile_);
-  picInfo = new InfoPage(this, profile_);
-  picHelp = new HelpPage(this, profile_);
-  picConf = new ConfPage(this, profile_);
+  picSnap = new SnapshotPage(this, emulator_);
+  picSettings = new SettingsPage(this, emulator_);
+  picInfo = new InfoPage(this, emulator_);
+  picHelp = new HelpPage(this, emulator_);
+  picConf = new ConfPage(this, emulator_);
   for (PictureBox* const page :
        {static_cast<PictureBox*>(picSnap), static_cast<PictureBox*>(picSettings),
         static_cast<PictureBox*>(picInfo), static_cast<PictureBox*>(picHelp),
@@ -202,7 +200,7 @@ void EmulatorPanel::Wire() {
     if (mouse.button == MouseButton::kLeft) MoveWithMouse();
   });
   logo->KeyDown.Connect([this](const KeyArgs& key) { MoveByKey(key); });
-  Event<>& dock = RulesOf(profile_.emulator).docks_on_click ? logo->Click : logo->DblClick;
+  Event<>& dock = emulator_.panel.docks_on_click ? logo->Click : logo->DblClick;
   dock.Connect([this] { Dock(); });
   WireHover(*this);
 }
@@ -215,8 +213,8 @@ void EmulatorPanel::WireLists() {
       if (key.code == key::kEnter && (starts_empty || !list->Text().empty())) StartSelected(list);
     });
   };
-  serve(favourites->lstPref, !profile_.has_favourites);
-  menu_->Serve(favourites->lstPref, profile_.has_favourites);
+  serve(favourites->lstPref, !emulator_.has_favourites);
+  menu_->Serve(favourites->lstPref, emulator_.has_favourites);
   if (games->lstRom == nullptr) return;
   serve(games->lstRom, true);
   menu_->Serve(games->lstRom, false);
@@ -234,15 +232,18 @@ void EmulatorPanel::WireSettings() {
   picSettings->cmdSelDir->Click.Connect([this] { BrowseGameRom(); });
   picSettings->cmdDirRomDefault->Click.Connect([this] { TakeDefaultRomFolder(); });
   picSettings->cmdApplytoAll->Click.Connect([this] { ApplyToAll(); });
-  if (profile_.emulator == Emulator::kMame) {
-    WireSkipBox(picSettings->Option("txtSkipC").text, tools_, tools_.app.Title());
-    WireSkipBox(picSettings->Option("txtSkipR").text, tools_, "Warning!");
+  for (std::size_t i = 0; i < emulator_.options.size(); ++i) {
+    const OptionSpec& option = emulator_.options[i];
+    if (!option.is_number) continue;
+    WireNumberBox(
+        picSettings->Option(i).text, tools_,
+        option.wrong_key_title.empty() ? tools_.app.Title() : std::string(option.wrong_key_title));
   }
-  if (profile_.has_recording) {
-    recording =
-        std::make_unique<RecordingRules>(*picSettings, tools_, [this] { return lblOptHide; });
+  for (const Enabling& enabling : emulator_.enablings) WireEnabling(*picSettings, enabling);
+  if (emulator_.recording) {
+    recording = std::make_unique<RecordingRules>(emulator_, *picSettings, tools_,
+                                                 [this] { return lblOptHide; });
   }
-  if (profile_.emulator == Emulator::kM72) WireVerticalDisplay(*picSettings);
 }
 
 void EmulatorPanel::Load() {
@@ -255,9 +256,9 @@ void EmulatorPanel::Load() {
   games->Load();
   if (games->lstRom != nullptr) games->ShowCount();
   favourites->ShowCount();
-  std::string rom_path = tools_.app.RomPathOf(profile_.emulator);
-  if (rom_path.empty() && RulesOf(profile_.emulator).fixed_rom_folder_at_load) {
-    rom_path = profile_.default_rom_folder;
+  std::string rom_path = tools_.app.RomPathOf(emulator_);
+  if (rom_path.empty() && emulator_.panel.fixed_rom_folder_at_load) {
+    rom_path = emulator_.default_rom_folder;
   }
   picSettings->txtRomPath->SetText(rom_path);
 }

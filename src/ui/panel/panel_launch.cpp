@@ -2,7 +2,6 @@
 #include "core/catalogue/scan.h"
 #include "core/platform/dos_path.h"
 #include "ui/panel/emulator_panel.h"
-#include "ui/panel/panel_rules.h"
 #include "ui/pickers/file_picker.h"
 #include "ui/pickers/folder_picker.h"
 
@@ -18,10 +17,10 @@ void EmulatorPanel::StartSelected(const ListBox* list) {
   if (LoadGame(game) == LoadOutcome::kNothing && borrows) ApplyDefaults();
   const LaunchTools tools{
       .files = tools_.files, .boxes = tools_.boxes, .app = tools_.app, .run = tools_.run};
-  Launch(profile_, game, *this, tools);
+  Launch(emulator_, game, *this, tools);
   TakeBack();
   told_.reset();
-  if (list == favourites->lstPref && profile_.has_favourites) favourites->ShowCount();
+  if (list == favourites->lstPref && emulator_.has_favourites) favourites->ShowCount();
 }
 
 void EmulatorPanel::TakeBack() {
@@ -40,17 +39,17 @@ CommandInput EmulatorPanel::Command() const {
 }
 
 void EmulatorPanel::ShowEmulatorPicker() {
-  const bool snap_page = picSnap->Visible() && !RulesOf(profile_.emulator).no_emulator_hides_snap;
+  const bool snap_page = picSnap->Visible() && !emulator_.panel.no_emulator_hides_snap;
   ShowPage(Page::kConfiguration);
   picSnap->Control::SetVisible(snap_page);
   FilePicker picker(tools_.files, tools_.panels, tools_.boxes, tools_.app.Title());
-  picker.lblSelExeHide = profile_.section_word;
+  picker.lblSelExeHide = emulator_.SectionWord();
   picker.ShowModal();
 }
 
 void EmulatorPanel::ShowRomPicker() {
   TakeBack();
-  const bool snap_page = picSnap->Visible() && !RulesOf(profile_.emulator).no_rom_hides_snap;
+  const bool snap_page = picSnap->Visible() && !emulator_.panel.no_rom_hides_snap;
   ShowPage(Page::kSettings);
   picSnap->Control::SetVisible(snap_page);
   keeps_rom_folder_ = true;
@@ -64,9 +63,9 @@ void EmulatorPanel::KeepGameRomFolder() {
   const std::string game = lblRomSettings->Caption();
   const std::string folder = picSettings->txtRomPath->Text();
   OptionValues values = picSettings->Values();
-  LoadSettings(settings_, tools_.app, profile_, game, values);
+  LoadSettings(settings_, tools_.app, emulator_, game, values);
   values.rom_folder = folder;
-  Report(tools_, zarvo::SaveSettings(settings_, profile_, game, values));
+  Report(tools_, zarvo::SaveSettings(settings_, emulator_, game, values));
 }
 
 void EmulatorPanel::BrowseGameRom() { PickGameRom(); }
@@ -76,9 +75,9 @@ void EmulatorPanel::PickGameRom() {
   FindRom(game);
   if (ParentFile == "-" || ParentFile == "neogeo") ParentFile.clear();
   std::string pattern = RomFile + ".zip";
-  if (profile_.knows_parents && !ParentFile.empty()) pattern += ";" + ParentFile + ".zip";
+  if (emulator_.knows_parents && !ParentFile.empty()) pattern += ";" + ParentFile + ".zip";
   FolderPicker picker(tools_.files, tools_.panels);
-  picker.lblSelDirHide = profile_.settings_word;
+  picker.lblSelDirHide = emulator_.SettingsWord();
   picker.SetCaption("Search Rom for " + game + " (" + pattern + ")");
   picker.SetPattern(pattern);
   picker.OpenAt(0, picSettings->txtRomPath->Text());
@@ -88,7 +87,7 @@ void EmulatorPanel::PickGameRom() {
 void EmulatorPanel::BrowseExecutable() {
   const std::string path = EmulatorPath();
   FilePicker picker(tools_.files, tools_.panels, tools_.boxes, tools_.app.Title());
-  picker.lblSelExeHide = profile_.section_word;
+  picker.lblSelExeHide = emulator_.SectionWord();
   picker.OpenAt(path.empty() ? '\0' : path.front(), ParentFolder(path));
   picker.ShowModal();
 }
@@ -96,27 +95,26 @@ void EmulatorPanel::BrowseExecutable() {
 void EmulatorPanel::BrowseRomFolder() {
   const std::string rom_path = picConf->txtOptRomPath->Text();
   const std::string drive_path =
-      RulesOf(profile_.emulator).rom_drive_from_rom_path ? rom_path : EmulatorPath();
+      emulator_.panel.rom_drive_from_rom_path ? rom_path : EmulatorPath();
   FolderPicker picker(tools_.files, tools_.panels);
-  picker.lblSelDirHide = profile_.rom_word;
+  picker.lblSelDirHide = emulator_.RomWord();
   const char drive = drive_path.empty() ? '\0' : drive_path.front();
-  if (!picker.OpenAt(drive, rom_path) && RulesOf(profile_.emulator).second_rom_folder) {
-    picker.OpenAt(0, lblOptHide + std::string(profile_.rom_sub_folder));
+  if (!picker.OpenAt(drive, rom_path) && emulator_.panel.second_rom_folder) {
+    picker.OpenAt(0, lblOptHide + std::string(emulator_.rom_sub_folder));
   }
   picker.ShowModal();
 }
 
 void EmulatorPanel::BrowseSnapFolder() {
   const std::string snap_path = picConf->txtOptSnap->Text();
-  const std::string drive_path =
-      RulesOf(profile_.emulator).snap_drive_from_emulator ? lblOptHide : snap_path;
+  const std::string drive_path = emulator_.panel.snap_drive_from_emulator ? lblOptHide : snap_path;
   const std::string format = picConf->SnapFormat();
   FolderPicker picker(tools_.files, tools_.panels);
   picker.SetPattern(format == "GIF"   ? "*.gif"
                     : format == "JPG" ? "*.jpg"
                     : format == "BMP" ? "*.bmp"
                                       : "");
-  picker.lblSelDirHide = profile_.snap_word;
+  picker.lblSelDirHide = emulator_.SnapWord();
   picker.OpenAt(drive_path.empty() ? '\0' : drive_path.front(), snap_path);
   picker.ShowModal();
 }
@@ -129,7 +127,7 @@ void EmulatorPanel::TakeDefaultRomFolder() {
 void EmulatorPanel::Scan() {
   const std::string folder = picConf->txtOptRomPath->Text();
   const bool merged = picConf->optMerged != nullptr && picConf->optMerged->Value();
-  const Result<ScanOutcome> scan = ScanRoms(tools_.files, tools_.app, profile_, folder,
+  const Result<ScanOutcome> scan = ScanRoms(tools_.files, tools_.app, emulator_, folder,
                                             merged ? SetType::kMerged : SetType::kSplit);
   if (!scan.ok()) {
     tools_.boxes.Warn(tools_.app.Title(), scan.error().message);

@@ -2,7 +2,6 @@
 
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
-#include "ui/panel/panel_rules.h"
 
 namespace zarvo {
 namespace {
@@ -20,25 +19,25 @@ struct PanelSizes::DownPlaces {
   int genre_left;
 };
 
-PanelSizes::PanelSizes(Window& panel, const EmulatorProfile& profile, GameFilters& games,
+PanelSizes::PanelSizes(Window& panel, const Emulator& emulator, GameFilters& games,
                        Favourites& favourites)
-    : panel_(panel), profile_(profile), games_(games), favourites_(favourites) {
+    : panel_(panel), emulator_(emulator), games_(games), favourites_(favourites) {
   Build();
-  if (RulesOf(profile.emulator).has_arrangements) BuildArrow();
+  if (emulator.panel.has_arrangements) BuildArrow();
 }
 
 void PanelSizes::Build() {
   const auto button = [this](int left, std::string_view caption, std::string_view name,
                              std::string_view accessible) {
     Label* const label = MakeButton(&panel_, ButtonKind::kSize, {left, 120, 210, 225}, caption);
-    label->SetName(BareMameName(profile_, name));
+    label->SetName(BareName(emulator_, name));
     label->SetAccessibleName(accessible);
     return label;
   };
   cmdLarge = button(1440, "L", "cmdLarge", "Large size");
   cmdMiddle = button(1665, "M", "cmdMiddle", "Middle size");
   cmdShort = button(1890, "S", "cmdShort", "Short size");
-  if (RulesOf(profile_.emulator).has_large_size) {
+  if (emulator_.panel.has_large_size) {
     cmdLarge->Click.Connect([this] { Large(); });
   } else {
     cmdLarge->SetEnabled(false);
@@ -49,7 +48,7 @@ void PanelSizes::Build() {
 
 void PanelSizes::BuildArrow() {
   cmdRidimen = new ImageBox(&panel_);
-  cmdRidimen->SetName(ControlName(profile_, "cmdRidimen"));
+  cmdRidimen->SetName(ControlName(emulator_, "cmdRidimen"));
   cmdRidimen->SetAccessibleName("Change the arrangement of the lists");
   cmdRidimen->SetPressable(true);
   cmdRidimen->SetPlace({2025, 510, 300, 210});
@@ -100,7 +99,7 @@ void PanelSizes::ArrangeAtLoad() {
 void PanelSizes::ArrangeDown(const DownPlaces& places) {
   ShowArrow();
   favourites_.lstPref->SetHeight(6415);
-  if (profile_.has_filters) {
+  if (emulator_.has_filters) {
     games_.cboFilterMisc->SetLeft(places.list_left);
     games_.cboFilterGenre->SetLeft(places.genre_left);
     games_.cboFilterManufactor->SetVisible(false);
@@ -115,9 +114,9 @@ void PanelSizes::ArrangeUp() {
   lblRidimen = "up";
   ShowArrow();
   favourites_.lstPref->SetHeight(3820);
-  if (profile_.has_filters) {
+  if (emulator_.has_filters) {
     games_.cboFilterMisc->SetLeft(90);
-    games_.cboFilterGenre->SetLeft(RulesOf(profile_.emulator).genre_left_up);
+    games_.cboFilterGenre->SetLeft(emulator_.panel.genre_left_up);
     games_.cboFilterManufactor->SetVisible(true);
     games_.cboFilterYear->SetVisible(true);
   }

@@ -13,8 +13,7 @@ namespace zarvo {
 
 class PanelSizes {
  public:
-  PanelSizes(Window& panel, const EmulatorProfile& profile, GameFilters& games,
-             Favourites& favourites);
+  PanelSizes(Window& panel, const Emulator& emulator, GameFilters& games, Favourites& favourites);
 
   // The arrangement that the configuration file names, at the panel's load.
   void ArrangeAtLoad();
@@ -42,7 +41,7 @@ class PanelSizes {
   void ShowArrow() const;
 
   Window& panel_;
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   GameFilters& games_;
   Favourites& favourites_;
 };

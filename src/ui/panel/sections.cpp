@@ -9,7 +9,7 @@
 namespace zarvo {
 namespace {
 
-constexpr std::size_t Index(Emulator emulator) { return static_cast<std::size_t>(emulator); }
+std::size_t Index(const Emulator& emulator) { return IndexOf(emulator); }
 
 }  // namespace
 
@@ -25,35 +25,37 @@ Sections::Sections(DosFiles& files, AppState& app, MessageBoxes& boxes, MainPlac
 
 Sections::~Sections() = default;
 
-EmulatorPanel* Sections::Find(Emulator emulator) const { return panels_[Index(emulator)].get(); }
+EmulatorPanel* Sections::Find(const Emulator& emulator) const {
+  return panels_[Index(emulator)].get();
+}
 
-EmulatorPanel& Sections::Panel(Emulator emulator) {
+EmulatorPanel& Sections::Panel(const Emulator& emulator) {
   std::unique_ptr<EmulatorPanel>& panel = panels_[Index(emulator)];
   if (!panel) {
-    panel = std::make_unique<EmulatorPanel>(ProfileOf(emulator), tools_);
-    panel->Closed.Connect([this, emulator] { Drop(emulator); });
+    panel = std::make_unique<EmulatorPanel>(emulator, tools_);
+    panel->Closed.Connect([this, &emulator] { Drop(emulator); });
   }
   return *panel;
 }
 
 // The panel may be in the middle of its own event, so it goes when the event has ended.
-void Sections::Drop(Emulator emulator) {
+void Sections::Drop(const Emulator& emulator) {
   if (EmulatorPanel* const panel = panels_[Index(emulator)].release()) panel->deleteLater();
 }
 
-void Sections::OpenSection(const EmulatorProfile& profile) {
-  if (!tools_.files.FileExists(JoinPath(tools_.app.DataFolder(), profile.data_file))) {
+void Sections::OpenSection(const Emulator& emulator) {
+  if (!tools_.files.FileExists(JoinPath(tools_.app.DataFolder(), emulator.DataFile()))) {
     tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgNoDataFile);
     return;
   }
-  tools_.app.lblHideEmuSelect = profile.section_word;
-  Panel(profile.emulator).Enter();
+  tools_.app.lblHideEmuSelect = emulator.SectionWord();
+  Panel(emulator).Enter();
 }
 
 bool Sections::EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const {
-  return std::ranges::all_of(Profiles(), [&](const EmulatorProfile& profile) {
-    EmulatorPanel* const panel = Find(profile.emulator);
-    return panel == nullptr || !tools_.app.IsOpen(profile.emulator) || visit(*panel);
+  return std::ranges::all_of(Emulators(), [&](const Emulator& emulator) {
+    EmulatorPanel* const panel = Find(emulator);
+    return panel == nullptr || !tools_.app.IsOpen(emulator) || visit(*panel);
   });
 }
 
@@ -76,13 +78,13 @@ bool Sections::CloseOpenPanels() {
   });
 }
 
-std::optional<TwipRect> Sections::PanelPlace(Emulator emulator) const {
+std::optional<TwipRect> Sections::PanelPlace(const Emulator& emulator) const {
   const EmulatorPanel* const panel = Find(emulator);
   if (panel == nullptr || !tools_.app.IsOpen(emulator)) return std::nullopt;
   return TwipRect{panel->Left(), panel->Top(), panel->Window::Width(), panel->Window::Height()};
 }
 
-void Sections::SetPanelPlace(Emulator emulator, const TwipRect& place) {
+void Sections::SetPanelPlace(const Emulator& emulator, const TwipRect& place) {
   EmulatorPanel* const panel = Find(emulator);
   if (panel == nullptr) return;
   panel->SetTop(place.top);
@@ -92,31 +94,34 @@ void Sections::SetPanelPlace(Emulator emulator, const TwipRect& place) {
 }
 
 void Sections::ResetClearLabels() {
-  for (const Emulator emulator : {Emulator::kMame, Emulator::kCallus}) {
-    if (EmulatorPanel* const panel = Find(emulator)) ResetClearLabel(*panel);
+  for (const auto& panel : panels_) {
+    if (panel && panel->ItsEmulator().panel.clear_rests_with_main) ResetClearLabel(*panel);
   }
 }
 
-void Sections::SetRomFolder(Emulator emulator, std::string_view folder) {
+void Sections::SetRomFolder(const Emulator& emulator, std::string_view folder) {
   Panel(emulator).TakeRomFolder(folder);
 }
 
-void Sections::SetSnapFolder(Emulator emulator, std::string_view folder) {
+void Sections::SetSnapFolder(const Emulator& emulator, std::string_view folder) {
   Panel(emulator).TakeSnapFolder(folder);
 }
 
-void Sections::SetGameRomFolder(Emulator emulator, std::string_view folder) {
+void Sections::SetGameRomFolder(const Emulator& emulator, std::string_view folder) {
   Panel(emulator).TakeGameRomFolder(folder);
 }
 
-void Sections::SetEmulator(Emulator emulator, std::string_view exe_path, std::string_view folder) {
+void Sections::SetEmulator(const Emulator& emulator, std::string_view exe_path,
+                           std::string_view folder) {
   Panel(emulator).TakeEmulator(exe_path, folder);
 }
 
-void Sections::SetRecording(std::string_view file) { Panel(Emulator::kMame).TakeRecording(file); }
+void Sections::SetRecording(const Emulator& emulator, std::string_view file) {
+  Panel(emulator).TakeRecording(file);
+}
 
-void Sections::ClearPlayback() { Panel(Emulator::kMame).ClearPlayback(); }
+void Sections::ClearPlayback(const Emulator& emulator) { Panel(emulator).ClearPlayback(); }
 
-void Sections::SaveCfg(Emulator emulator) { Panel(emulator).SaveCfg(); }
+void Sections::SaveCfg(const Emulator& emulator) { Panel(emulator).SaveCfg(); }
 
 }  // namespace zarvo

@@ -20,34 +20,36 @@ class Sections : public SectionHost, public PickerPanels {
   ~Sections() override;
 
   // The panel of an emulator, created and loaded at the first touch.
-  EmulatorPanel& Panel(Emulator emulator);
+  EmulatorPanel& Panel(const Emulator& emulator);
   // nullptr while there is none.
-  [[nodiscard]] EmulatorPanel* Find(Emulator emulator) const;
+  [[nodiscard]] EmulatorPanel* Find(const Emulator& emulator) const;
 
-  void OpenSection(const EmulatorProfile& profile) override;
+  void OpenSection(const Emulator& emulator) override;
   bool SaveOpenPanels() override;
   bool CloseOpenPanels() override;
   // As SaveOpenPanels; what can't be saved is lost.
   void SaveWithoutQuestions();
-  [[nodiscard]] std::optional<TwipRect> PanelPlace(Emulator emulator) const override;
-  void SetPanelPlace(Emulator emulator, const TwipRect& place) override;
+  [[nodiscard]] std::optional<TwipRect> PanelPlace(const Emulator& emulator) const override;
+  void SetPanelPlace(const Emulator& emulator, const TwipRect& place) override;
   void ResetClearLabels() override;
 
-  void SetRomFolder(Emulator emulator, std::string_view folder) override;
-  void SetSnapFolder(Emulator emulator, std::string_view folder) override;
-  void SetGameRomFolder(Emulator emulator, std::string_view folder) override;
-  void SetEmulator(Emulator emulator, std::string_view exe_path, std::string_view folder) override;
-  void SetRecording(std::string_view file) override;
-  void ClearPlayback() override;
-  void SaveCfg(Emulator emulator) override;
+  void SetRomFolder(const Emulator& emulator, std::string_view folder) override;
+  void SetSnapFolder(const Emulator& emulator, std::string_view folder) override;
+  void SetGameRomFolder(const Emulator& emulator, std::string_view folder) override;
+  void SetEmulator(const Emulator& emulator, std::string_view exe_path,
+                   std::string_view folder) override;
+  void SetRecording(const Emulator& emulator, std::string_view file) override;
+  void ClearPlayback(const Emulator& emulator) override;
+  void SaveCfg(const Emulator& emulator) override;
 
  private:
-  void Drop(Emulator emulator);
-  // In profile order, until a visit gives false; whether none did.
+  void Drop(const Emulator& emulator);
+  // In emulator order, until a visit gives false; whether none did.
   bool EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const;
 
   PanelTools tools_;
-  std::array<std::unique_ptr<EmulatorPanel>, kEmulatorCount> panels_;
+  // In the order of the emulators; nullptr for one whose panel isn't there.
+  std::vector<std::unique_ptr<EmulatorPanel>> panels_{Emulators().size()};
 };
 
 }  // namespace zarvo

@@ -5,6 +5,11 @@
 
 namespace zarvo {
 
+Control* OptionControl::Part() const {
+  if (combo != nullptr) return combo;
+  return check != nullptr ? static_cast<Control*>(check) : text;
+}
+
 OptionValue OptionControl::Value() const {
   OptionValue value;
   if (combo != nullptr) {
@@ -27,27 +32,27 @@ void OptionControl::Set(const OptionValue& value) const {
   }
 }
 
-SettingsPage::SettingsPage(QWidget* parent, const EmulatorProfile& profile)
-    : PictureBox(parent), profile_(profile) {
-  SetName(ControlName(profile, "picSettings"));
+SettingsPage::SettingsPage(QWidget* parent, const Emulator& emulator)
+    : PictureBox(parent), emulator_(emulator) {
+  SetName(ControlName(emulator, "picSettings"));
   SetAccessibleName("Settings page");
   SetBackColor(kCard);
   BuildFolderRow();
-  const std::span<const OptionSpec> table = OptionsOf(profile.emulator);
+  const std::span<const OptionSpec> table = emulator.options;
   options_.reserve(table.size());
   for (const OptionSpec& declared : table) BuildOption(declared);
 }
 
 void SettingsPage::BuildFolderRow() {
   txtRomPath = new TextBox(this);
-  txtRomPath->SetName(ControlName(profile_, "txtRomPath"));
+  txtRomPath->SetName(ControlName(emulator_, "txtRomPath"));
   txtRomPath->SetAccessibleName("Rom folder of this game");
   txtRomPath->SetReadOnly(true);
   txtRomPath->SetMaxLength(90);
   txtRomPath->SetPlace({60, 60, 2250, 255});
 
   cmdSelDir = MakeButton(this, ButtonKind::kPath, {2340, 60, 465, 255}, "Brow");
-  cmdSelDir->SetName(ControlName(profile_, "cmdSelDir"));
+  cmdSelDir->SetName(ControlName(emulator_, "cmdSelDir"));
   cmdSelDir->SetToolTipText(" Choose Univoque Rom Directory ");
   cmdSelDir->SetAccessibleName("Browse for this game's rom folder");
   cmdDirRomDefault = MakeButton(this, ButtonKind::kPath, {2835, 60, 435, 255}, "Def.");
@@ -79,7 +84,7 @@ void SettingsPage::BuildOption(const OptionSpec& declared) {
       break;
   }
   if (declared.kind != OptionKind::kCheck) BuildCaption(control);
-  part->SetName(ControlName(profile_, declared.name));
+  part->SetName(ControlName(emulator_, declared.name));
   part->SetAccessibleName(declared.caption);
   part->SetToolTipText(declared.tool_tip);
   part->SetPlace(declared.place);
@@ -121,8 +126,6 @@ void SettingsPage::ApplyPresets() {
   }
 }
 
-const OptionControl& SettingsPage::Option(std::string_view name) const {
-  return options_[OptionIndex(profile_.emulator, name)];
-}
+const OptionControl& SettingsPage::Option(std::size_t index) const { return options_[index]; }
 
 }  // namespace zarvo

@@ -4,8 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/emulators/emulator_profile.h"
-#include "core/launch/option_table.h"
+#include "core/emulators/emulator.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/combo_box.h"
 #include "ui/toolkit/frame.h"
@@ -22,6 +21,7 @@ struct OptionControl {
   TextBox* text = nullptr;
   Label* caption = nullptr;  // of a combo or text box
 
+  [[nodiscard]] Control* Part() const;
   [[nodiscard]] OptionValue Value() const;
   // Raises the control's click, or change, if the value is new.
   void Set(const OptionValue& value) const;
@@ -29,7 +29,7 @@ struct OptionControl {
 
 class SettingsPage : public PictureBox {
  public:
-  SettingsPage(QWidget* parent, const EmulatorProfile& profile);
+  SettingsPage(QWidget* parent, const Emulator& emulator);
 
   // What the controls hold, in the order of the option table.
   [[nodiscard]] OptionValues Values() const;
@@ -39,8 +39,8 @@ class SettingsPage : public PictureBox {
   // The values that are set when the page is entered, ahead of the game's record.
   void ApplyPresets();
 
-  // The control of an option, which must be one of the emulator's.
-  [[nodiscard]] const OptionControl& Option(std::string_view name) const;
+  // The control of an option, by its place in the option table.
+  [[nodiscard]] const OptionControl& Option(std::size_t index) const;
 
   TextBox* txtRomPath;
   Label* cmdSelDir;
@@ -52,7 +52,7 @@ class SettingsPage : public PictureBox {
   void BuildOption(const OptionSpec& declared);
   void BuildCaption(OptionControl& control);
 
-  const EmulatorProfile& profile_;
+  const Emulator& emulator_;
   std::vector<OptionControl> options_;
 };
 

@@ -2,7 +2,6 @@
 
 #include "core/platform/dos_path.h"
 #include "ui/panel/control_names.h"
-#include "ui/panel/panel_texts.h"
 
 namespace zarvo {
 namespace {
@@ -12,24 +11,24 @@ constexpr int kLongestSide = 1024;
 
 }  // namespace
 
-SnapshotPage::SnapshotPage(QWidget* parent, const EmulatorProfile& profile) : PictureBox(parent) {
-  SetName(ControlName(profile, "picSnap"));
+SnapshotPage::SnapshotPage(QWidget* parent, const Emulator& emulator) : PictureBox(parent) {
+  SetName(ControlName(emulator, "picSnap"));
   SetAccessibleName("Snapshot page");
   SetBackColor(kDeepNight);
-  Build(profile);
+  Build(emulator);
 }
 
-void SnapshotPage::Build(const EmulatorProfile& profile) {
+void SnapshotPage::Build(const Emulator& emulator) {
   auto* const screen = new ImageBox(this);
   screen->SetPlace({0, 0, 3855, 3885});
   screen->SetPicture(Picture::FromResource("no_snapshot"));
 
   imgSnap = new ImageBox(this);
-  imgSnap->SetName(ControlName(profile, "imgSnap"));
+  imgSnap->SetName(ControlName(emulator, "imgSnap"));
   imgSnap->SetAccessibleName("Snapshot of the game");
   imgSnap->SetPlace({0, 0, 3825, 3855});
 
-  lblNoAvail = Line(1140, ControlName(profile, "lblNoAvail"), "No ScreenShot Available");
+  lblNoAvail = Line(1140, ControlName(emulator, "lblNoAvail"), "No ScreenShot Available");
   lblNoAvail->SetBold(true);
   lblNoAvail->SetForeColor(kLavender);
   lblSnapNo = Line(1515, "lblSnapNo", "No snapshot found in:");
@@ -38,7 +37,7 @@ void SnapshotPage::Build(const EmulatorProfile& profile) {
   lblLookFor = Line(2010, "lblLookFor", "Zarvo searched for:");
   lblLookedFor = Line(2220, "lblLookedFor", "");
   lblLookedFor->SetForeColor(kYellow);
-  lblSnapTip = Line(2625, "lblSnapTip", TextsOf(profile.emulator).snap_tip);
+  lblSnapTip = Line(2625, "lblSnapTip", emulator.texts.snap_tip);
   ShowLabels(false);
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 #include "core/platform/dos_files.h"
 #include "ui/toolkit/frame.h"
 #include "ui/toolkit/image_box.h"
@@ -14,7 +14,7 @@ namespace zarvo {
 
 class SnapshotPage : public PictureBox {
  public:
-  SnapshotPage(QWidget* parent, const EmulatorProfile& profile);
+  SnapshotPage(QWidget* parent, const Emulator& emulator);
 
   // Hides the six labels that stand in for a picture.
   void HideLabels();
@@ -32,7 +32,7 @@ class SnapshotPage : public PictureBox {
   Label* lblSnapTip;
 
  private:
-  void Build(const EmulatorProfile& profile);
+  void Build(const Emulator& emulator);
   Label* Line(int top, std::string_view name, std::string_view caption);
   void ShowLabels(bool visible);
 };

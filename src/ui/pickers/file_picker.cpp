@@ -40,7 +40,6 @@ void FilePicker::SetPattern(std::string_view pattern) {
 
 bool FilePicker::ChooseRecording(std::string_view folder) {
   if (!dirSelExe->SetPath(folder).ok()) return false;
-  lblSelExeHide = ProfileOf(Emulator::kMame).section_word;
   SetPattern(kRecordings);
   SetCaption("Choose the INP file");
   drvSelExe->SetEnabled(false);
@@ -75,8 +74,15 @@ void FilePicker::Wire() {
   SetCancelAction([this] { UnloadWindow(); });
   // However the player gives up: playback without a recording makes no sense.
   Unload.Connect([this](bool& /*refuse*/) {
-    if (!accepted_ && filSelExe->Pattern() == kRecordings) panels_.ClearPlayback();
+    const Emulator* const emulator = FindEmulator(lblSelExeHide);
+    if (!accepted_ && emulator != nullptr && IsForRecording(*emulator)) {
+      panels_.ClearPlayback(*emulator);
+    }
   });
+}
+
+bool FilePicker::IsForRecording(const Emulator& emulator) const {
+  return emulator.recording && filSelExe->Pattern() == kRecordings;
 }
 
 void FilePicker::Accept() {
@@ -85,20 +91,20 @@ void FilePicker::Accept() {
     boxes_.Inform(box_title_, "You must select a file!");
     return;
   }
-  const EmulatorProfile* profile = FindProfile(lblSelExeHide);
-  if (profile != nullptr) WriteFile(*profile, file);
+  const Emulator* emulator = FindEmulator(lblSelExeHide);
+  if (emulator != nullptr) WriteFile(*emulator, file);
   accepted_ = true;
   UnloadWindow();
 }
 
-void FilePicker::WriteFile(const EmulatorProfile& profile, const std::string& file) {
-  if (profile.has_recording && filSelExe->Pattern() == kRecordings) {
-    panels_.SetRecording(file);
+void FilePicker::WriteFile(const Emulator& emulator, const std::string& file) {
+  if (IsForRecording(emulator)) {
+    panels_.SetRecording(emulator, file);
     return;
   }
   const std::string folder = filSelExe->Path();
-  panels_.SetEmulator(profile.emulator, JoinPath(folder, file), folder);
-  panels_.SaveCfg(profile.emulator);
+  panels_.SetEmulator(emulator, JoinPath(folder, file), folder);
+  panels_.SaveCfg(emulator);
 }
 
 }  // namespace zarvo

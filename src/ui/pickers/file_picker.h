@@ -44,7 +44,8 @@ class FilePicker : public Window {
   void Build(DosFiles& files);
   void Wire();
   void Accept();
-  void WriteFile(const EmulatorProfile& profile, const std::string& file);
+  [[nodiscard]] bool IsForRecording(const Emulator& emulator) const;
+  void WriteFile(const Emulator& emulator, const std::string& file);
 
   PickerPanels& panels_;
   MessageBoxes& boxes_;

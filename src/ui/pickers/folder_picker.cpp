@@ -14,22 +14,22 @@ constexpr std::string_view kZipFiles = "*.zip";
 
 // Which control of a panel a state word means.
 struct Destination {
-  std::string_view EmulatorProfile::*word;
-  void (PickerPanels::*set_folder)(Emulator emulator, std::string_view folder);
+  std::string (Emulator::*word)() const;
+  void (PickerPanels::*set_folder)(const Emulator& emulator, std::string_view folder);
 };
 
 constexpr std::array<Destination, 3> kDestinations = {{
-    {&EmulatorProfile::rom_word, &PickerPanels::SetRomFolder},
-    {&EmulatorProfile::snap_word, &PickerPanels::SetSnapFolder},
-    {&EmulatorProfile::settings_word, &PickerPanels::SetGameRomFolder},
+    {&Emulator::RomWord, &PickerPanels::SetRomFolder},
+    {&Emulator::SnapWord, &PickerPanels::SetSnapFolder},
+    {&Emulator::SettingsWord, &PickerPanels::SetGameRomFolder},
 }};
 
 void WriteFolder(PickerPanels& panels, std::string_view word, std::string_view folder) {
-  for (const EmulatorProfile& profile : Profiles()) {
+  for (const Emulator& emulator : Emulators()) {
     for (const Destination& destination : kDestinations) {
-      if (profile.*destination.word != word) continue;
-      (panels.*destination.set_folder)(profile.emulator, folder);
-      panels.SaveCfg(profile.emulator);
+      if ((emulator.*destination.word)() != word) continue;
+      (panels.*destination.set_folder)(emulator, folder);
+      panels.SaveCfg(emulator);
     }
   }
 }

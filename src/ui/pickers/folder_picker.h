@@ -22,7 +22,7 @@ class FolderPicker : public Window {
  public:
   FolderPicker(DosFiles& files, PickerPanels& panels);
 
-  // State word: the rom, snapshot or settings word of a profile.
+  // State word: the rom, snapshot or settings word of a emulator.
   std::string lblSelDirHide;
 
   // Opens `folder` on `drive` (0: leave the drive); if either can't be had, the current folder.

@@ -71,10 +71,9 @@ void MainWindow::ResetCommand(Label* command) {
   command->SetForeColor(kWhite);
 }
 
-void MainWindow::ResetSelector(Emulator emulator) {
-  Label* const label = selector[static_cast<std::size_t>(emulator)];
-  label->SetBackStyle(BackStyle::kTransparent);
-  label->SetForeColor(kPeriwinkle);
+void MainWindow::ResetSelector(Label* name) {
+  name->SetBackStyle(BackStyle::kTransparent);
+  name->SetForeColor(kPeriwinkle);
 }
 
 void MainWindow::MoveByMouse(const MouseArgs& mouse) {
@@ -84,18 +83,18 @@ void MainWindow::MoveByMouse(const MouseArgs& mouse) {
 void MainWindow::HoverGround(const MouseArgs& mouse) {
   MoveByMouse(mouse);
   for (Label* const command : {lblExit, lblLays, lblAbout}) ResetCommand(command);
-  for (const EmulatorProfile& profile : Profiles()) ResetSelector(profile.emulator);
+  for (Label* const name : selector) ResetSelector(name);
   if (app_.lblHideEmuSelect != "HIDE") actions_.sections().ResetClearLabels();
 }
 
-void MainWindow::Hover(const EmulatorProfile& profile) {
-  for (const EmulatorProfile& other : Profiles()) {
-    if (other.emulator != profile.emulator) ResetSelector(other.emulator);
+void MainWindow::Hover(const Emulator& emulator) {
+  Label* const label = selector[IndexOf(emulator)];
+  for (Label* const other : selector) {
+    if (other != label) ResetSelector(other);
   }
-  Label* const label = selector[static_cast<std::size_t>(profile.emulator)];
   label->SetBackStyle(BackStyle::kOpaque);
   label->SetForeColor(kWhite);
-  const std::vector<std::string> header = read_header_(profile);
+  const std::vector<std::string> header = read_header_(emulator);
   for (std::size_t i = 0; i < std::min(facts.size(), header.size()); ++i) {
     facts[i]->SetCaption(header[i]);
   }

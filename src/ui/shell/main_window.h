@@ -31,7 +31,7 @@ struct MainActions {
 
 // Reads the header lines of an emulator's data file, each without its first character, as far as
 // the file gives them.
-using HeaderReader = std::function<std::vector<std::string>(const EmulatorProfile&)>;
+using HeaderReader = std::function<std::vector<std::string>(const Emulator&)>;
 
 class MainWindow : public Window, public MainPlace {
  public:
@@ -56,7 +56,7 @@ class MainWindow : public Window, public MainPlace {
   Label* lblExit;
   Label* lblLays;
   Label* lblAbout;
-  std::array<Label*, kEmulatorCount> selector;  // lblMame and its sisters
+  std::vector<Label*> selector;  // lblMame and its sisters, in the order of the emulators
   Label* lblNeoRageX;
   std::array<Label*, 17> facts;  // lblName to lblContrib, in the order of the header
 
@@ -75,11 +75,11 @@ class MainWindow : public Window, public MainPlace {
   Label* Command(const TwipRect& place, std::string_view caption, std::string_view name);
   void Wire();
   static void WireCommand(Label* command, Label* neighbour, std::function<void()> action);
-  void WireSelector(const EmulatorProfile& profile);
+  void WireSelector(const Emulator& emulator);
 
   static void ResetCommand(Label* command);
-  void ResetSelector(Emulator emulator);
-  void Hover(const EmulatorProfile& profile);
+  static void ResetSelector(Label* name);
+  void Hover(const Emulator& emulator);
   void HoverGround(const MouseArgs& mouse);
   void MoveByMouse(const MouseArgs& mouse);
   void Turn();

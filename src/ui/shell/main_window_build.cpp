@@ -128,14 +128,14 @@ void MainWindow::BuildHead() {
 
 void MainWindow::BuildSelector() {
   int top = kFirstRow;
-  for (const EmulatorProfile& profile : Profiles()) {
+  for (const Emulator& emulator : Emulators()) {
     Label* const label = Text({kEmulatorColumn, top, kEmulatorWidth, kNameHeight},
-                              profile.selector_caption, kPeriwinkle);
-    label->SetName("lbl" + std::string(profile.word));
+                              emulator.selector_caption, kPeriwinkle);
+    label->SetName("lbl" + std::string(emulator.word));
     label->SetTextSize(kNameSize);
     label->SetBackColor(kSlate);
     label->SetPressable(true);
-    selector[static_cast<std::size_t>(profile.emulator)] = label;
+    selector.push_back(label);
     top += kRowStep;
   }
   for (const InertName& inert : kArcade) {
@@ -181,17 +181,15 @@ void MainWindow::Wire() {
   });
   imgZarvo->KeyDown.Connect([this](const KeyArgs& key) { MoveByKey(key); });
   Image4->MouseMove.Connect([this](const MouseArgs&) {
-    ResetSelector(Emulator::kMame);
-    ResetSelector(Emulator::kCallus);
+    for (Label* const name : {selector[0], selector[1]}) ResetSelector(name);
   });
   lblNeoRageX->MouseMove.Connect([this](const MouseArgs&) {
-    ResetSelector(Emulator::kSystem16);
-    ResetSelector(Emulator::kM72);
+    for (Label* const name : {selector.end()[-2], selector.end()[-1]}) ResetSelector(name);
   });
   WireCommand(lblExit, nullptr, [this] { UnloadWindow(); });
   WireCommand(lblLays, lblAbout, [this] { actions_.show_layouts(); });
   WireCommand(lblAbout, lblLays, [this] { actions_.show_about(); });
-  for (const EmulatorProfile& profile : Profiles()) WireSelector(profile);
+  for (const Emulator& emulator : Emulators()) WireSelector(emulator);
   Timer1.Tick.Connect([this] { Turn(); });
   Unload.Connect([this](bool& refuse) { ConfirmEnd(refuse); });
 }
@@ -206,13 +204,13 @@ void MainWindow::WireCommand(Label* command, Label* neighbour, std::function<voi
   command->Click.Connect(std::move(action));
 }
 
-void MainWindow::WireSelector(const EmulatorProfile& profile) {
-  Label* const label = selector[static_cast<std::size_t>(profile.emulator)];
-  label->MouseMove.Connect([this, &profile](const MouseArgs&) { Hover(profile); });
-  label->TabbedTo.Connect([this, &profile] { Hover(profile); });
+void MainWindow::WireSelector(const Emulator& emulator) {
+  Label* const label = selector[IndexOf(emulator)];
+  label->MouseMove.Connect([this, &emulator](const MouseArgs&) { Hover(emulator); });
+  label->TabbedTo.Connect([this, &emulator] { Hover(emulator); });
   label->MouseDown.Connect([label](const MouseArgs&) { label->SetForeColor(kYellow); });
-  label->MouseUp.Connect([this, &profile](const MouseArgs&) { ResetSelector(profile.emulator); });
-  label->Click.Connect([this, &profile] { actions_.sections().OpenSection(profile); });
+  label->MouseUp.Connect([label](const MouseArgs&) { ResetSelector(label); });
+  label->Click.Connect([this, &emulator] { actions_.sections().OpenSection(emulator); });
 }
 
 }  // namespace zarvo

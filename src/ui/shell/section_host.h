@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "core/emulators/emulator_profile.h"
+#include "core/emulators/emulator.h"
 #include "core/platform/twips.h"
 
 namespace zarvo {
@@ -14,16 +14,16 @@ class SectionHost {
   virtual ~SectionHost() = default;
 
   // The entry to an emulator's section, with its messages. Without a data file nothing opens.
-  virtual void OpenSection(const EmulatorProfile& profile) = 0;
-  // Saves what every open panel holds, in profile order: the configuration, then the settings of
+  virtual void OpenSection(const Emulator& emulator) = 0;
+  // Saves what every open panel holds, in emulator order: the configuration, then the settings of
   // its current game. What can't be saved is asked about; false if the player stays.
   virtual bool SaveOpenPanels() = 0;
   // The same, and each panel then counts as closed and is unloaded.
   virtual bool CloseOpenPanels() = 0;
   // The place and size of a panel that is open, else nothing.
-  [[nodiscard]] virtual std::optional<TwipRect> PanelPlace(Emulator emulator) const = 0;
+  [[nodiscard]] virtual std::optional<TwipRect> PanelPlace(const Emulator& emulator) const = 0;
   // Top, Left, Width, Height in that order; nothing happens for a panel that isn't there.
-  virtual void SetPanelPlace(Emulator emulator, const TwipRect& place) = 0;
+  virtual void SetPanelPlace(const Emulator& emulator, const TwipRect& place) = 0;
   // The clear labels of the open MAME and Callus panels return to rest.
   virtual void ResetClearLabels() = 0;
 };

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/catalogue/data_file.h"
+#include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 namespace zarvo {
@@ -39,7 +40,7 @@ class CatalogueTest : public testing::Test {
 
   MemoryFiles files_;
   AppState app_;
-  const EmulatorProfile& mame_ = ProfileOf(Emulator::kMame);
+  const Emulator& mame_ = kMame;
 };
 
 }  // namespace zarvo

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "core/catalogue/game_list.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -10,23 +11,24 @@ namespace {
 using testing::ElementsAre;
 
 TEST(StateItems, NeoGeoStatesBelongToMameAlone) {
-  EXPECT_THAT(StateItems(Emulator::kMame),
+  EXPECT_THAT(kMame.filters.states,
               ElementsAre("All Supported", "Originals Only", "Clones Only", "Available Roms",
                           "Missing Roms", "No Neo-Geo Games", "Neo-Geo Games"));
-  for (const Emulator emulator : {Emulator::kCallus, Emulator::kRaine}) {
-    EXPECT_THAT(StateItems(emulator), ElementsAre("All Supported", "Originals Only", "Clones Only",
-                                                  "Available Roms", "Missing Roms"));
+  for (const Emulator& emulator : Those{kCallus, kRaine}) {
+    EXPECT_THAT(emulator.filters.states,
+                ElementsAre("All Supported", "Originals Only", "Clones Only", "Available Roms",
+                            "Missing Roms"));
   }
-  EXPECT_TRUE(StateItems(Emulator::kSystem16).empty());
-  EXPECT_TRUE(StateItems(Emulator::kM72).empty());
+  EXPECT_TRUE(kSystem16.filters.states.empty());
+  EXPECT_TRUE(kM72.filters.states.empty());
 }
 
 TEST(FilterItems, EveryComboHasItsItemsInItsOrder) {
   // The number of items, then the first two and the last.
   std::string text;
-  for (const EmulatorProfile& profile : Profiles()) {
+  for (const Emulator& emulator : Those{kMame, kCallus, kRaine}) {
     for (const auto filter : {ValueFilter::kGenre, ValueFilter::kManufactor, ValueFilter::kYear}) {
-      const auto items = FilterItems(profile.emulator, filter);
+      const auto items = ItemsOf(emulator, filter);
       if (items.empty()) continue;
       EXPECT_EQ(std::set(items.begin(), items.end()).size(), items.size()) << "one stands twice";
       text += std::to_string(items.size());
@@ -41,7 +43,7 @@ TEST(FilterItems, EveryComboHasItsItemsInItsOrder) {
 }
 
 TEST(FilterItems, OddManufacturersStandToTheByteInTheirPlace) {
-  const auto items = FilterItems(Emulator::kMame, ValueFilter::kManufactor);
+  const auto items = ItemsOf(kMame, ValueFilter::kManufactor);
   const std::pair<std::size_t, std::string_view> odd[] = {
       {9, "[Namco] (Rock-ola license)"},
       {17, "<unknown>"},

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/catalogue/catalogue_fixture.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -41,15 +42,15 @@ TEST(DetailText, SaysWhatTheLabelsShow) {
 class GameListText : public CatalogueTest {
  protected:
   // The items that the emulator shows, in one line; "/" in the file is a line end.
-  std::string Text(Emulator emulator, std::string_view file, std::string_view name) {
+  std::string Text(const Emulator& emulator, std::string_view file, std::string_view name) {
     std::string bytes;
     for (const char c : file) bytes += c == '/' ? "\r\n" : std::string(1, c);
     files_.Put(R"(C:\Emu\GAMELIST.TXT)", bytes);
     return Read(emulator, name);
   }
-  std::string Read(Emulator emulator, std::string_view name) {
+  std::string Read(const Emulator& emulator, std::string_view name) {
     std::string text;
-    for (const auto& item : zarvo::GameListText(files_, ProfileOf(emulator), R"(C:\Emu)", name)) {
+    for (const auto& item : zarvo::GameListText(files_, emulator, R"(C:\Emu)", name)) {
       text += "[" + item + "]";
     }
     return text;
@@ -57,8 +58,8 @@ class GameListText : public CatalogueTest {
 };
 
 TEST_F(GameListText, ShowsTheBlockOfTheGame) {
-  EXPECT_EQ(Read(Emulator::kMame, "A"), "[gamelist.txt not found in Mame directory!]");
-  EXPECT_EQ(Read(Emulator::kCallus, "A"), "[Gamelist.txt not found][in Callus directory!]");
+  EXPECT_EQ(Read(kMame, "A"), "[gamelist.txt not found in Mame directory!]");
+  EXPECT_EQ(Read(kCallus, "A"), "[Gamelist.txt not found][in Callus directory!]");
   const std::string f(52, 'f');
   const std::string l(52, 'l');
   const std::string blocks = "About R-Type///R-Type II/2nd///R-Type/" + f;
@@ -66,26 +67,26 @@ TEST_F(GameListText, ShowsTheBlockOfTheGame) {
   const std::string callus = "/1. Strider (US)/first//hidden/" + f + "x///next block/";
   const std::string none = "[Game info not found in gamelist.txt!]";
   const struct {
-    Emulator emulator;
+    const Emulator& emulator;
     std::string file, name, items;
   } kCases[] = {
-      {Emulator::kMame, blocks, "R-Type II", "[R-Type II][2nd][][]"},
-      {Emulator::kMame, blocks, "R-Type (JP)", "[R-Type II][2nd][][]"},  // the first that begins so
-      {Emulator::kMame, "R-Type/" + f + "/" + f + "x//" + l + l + "l///next block/", "R-Type",
+      {kMame, blocks, "R-Type II", "[R-Type II][2nd][][]"},
+      {kMame, blocks, "R-Type (JP)", "[R-Type II][2nd][][]"},  // the first that begins so
+      {kMame, "R-Type/" + f + "/" + f + "x//" + l + l + "l///next block/", "R-Type",
        "[R-Type][" + f + "][" + f + "][x][][" + l + "][" + l + "l][][]"},
-      {Emulator::kMame, titles, "Foo (JP)", "[Foo][two][][]"},
-      {Emulator::kMame, titles, "Foo(JP)", "[Fo][one][][]"},  // one character goes, whatever it is
-      {Emulator::kMame, titles, "(Bar)", "[(Bar)][three][][]"},
-      {Emulator::kMame, titles, "Baz (Set 1) (JP)", "[Baz (Set 1) (JP)]"},
-      {Emulator::kMame, titles, "foo", none},
-      {Emulator::kMame, "Game " + f + f, "Game", "[Game " + f + f + "]"},  // a title stays whole
-      {Emulator::kMame, "Strider/first/", "Strider", "[Strider][first]"},
-      {Emulator::kMame, "Strider/first//", "Strider", "[Strider][first][]"},
-      {Emulator::kCallus, callus, "Strider (US)", "[first][][][" + f + "x][][]"},
-      {Emulator::kCallus, callus, "Strider (JP)", none},
-      {Emulator::kCallus, "Strider/first/", "Strider", "[first]"},
-      {Emulator::kCallus, "Strider/first//", "Strider", "[first][][]"},
-      {Emulator::kRaine, "A/", "A", ""},
+      {kMame, titles, "Foo (JP)", "[Foo][two][][]"},
+      {kMame, titles, "Foo(JP)", "[Fo][one][][]"},  // one character goes, whatever it is
+      {kMame, titles, "(Bar)", "[(Bar)][three][][]"},
+      {kMame, titles, "Baz (Set 1) (JP)", "[Baz (Set 1) (JP)]"},
+      {kMame, titles, "foo", none},
+      {kMame, "Game " + f + f, "Game", "[Game " + f + f + "]"},  // a title stays whole
+      {kMame, "Strider/first/", "Strider", "[Strider][first]"},
+      {kMame, "Strider/first//", "Strider", "[Strider][first][]"},
+      {kCallus, callus, "Strider (US)", "[first][][][" + f + "x][][]"},
+      {kCallus, callus, "Strider (JP)", none},
+      {kCallus, "Strider/first/", "Strider", "[first]"},
+      {kCallus, "Strider/first//", "Strider", "[first][][]"},
+      {kRaine, "A/", "A", ""},
   };
   for (const auto& [emulator, file, name, items] : kCases) {
     EXPECT_EQ(Text(emulator, file, name), items) << name;
@@ -93,26 +94,31 @@ TEST_F(GameListText, ShowsTheBlockOfTheGame) {
 }
 
 TEST(HelpKeys, StandUnderTheirHeadings) {
-  constexpr std::array<std::string_view, kEmulatorCount> kPages = {
-      "11 Hot-keys:", "19", "34 General in game keys: Keys in Pause mode: Default Player keys:",
-      "18 Other keys:", "19 Other keys:"};
-  for (const EmulatorProfile& profile : Profiles()) {
-    const auto rows = HelpKeys(profile.emulator);
+  const struct {
+    const Emulator& emulator;
+    std::string_view page;
+  } pages[] = {{kMame, "11 Hot-keys:"},
+               {kCallus, "19"},
+               {kRaine, "34 General in game keys: Keys in Pause mode: Default Player keys:"},
+               {kSystem16, "18 Other keys:"},
+               {kM72, "19 Other keys:"}};
+  for (const auto& [emulator, expected] : pages) {
+    const auto rows = emulator.help.keys;
     std::string page = std::to_string(rows.size());
     for (const KeyRow& row : rows) {
       if (row.key.empty()) page.append(" ").append(row.text);
     }
-    EXPECT_EQ(page, kPages[static_cast<std::size_t>(profile.emulator)]);
+    EXPECT_EQ(page, expected);
   }
 }
 
 TEST(System16Help, HoldsABlockForEachOf19Games) {
   std::string text;
-  for (const std::string& item : System16Help()) text += item + "|";
+  for (const std::string& item : kSystem16.help.fixed_list()) text += item + "|";
   EXPECT_THAT(text, testing::StartsWith("Shinobi|-------|CTRL - Attack|ALT - Jump|SPACE - Magic||"
                                         "Altered Beast|"));
   EXPECT_THAT(text, testing::EndsWith("|Aurail|------|CTRL - SHIELD|ALT - SHOT|SPACE - TURN||"));
-  const StringList items = System16Help();
+  const StringList items = kSystem16.help.fixed_list();
   EXPECT_EQ(std::count(items.begin(), items.end(), ""), 19);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/catalogue/catalogue_fixture.h"
 #include "core/platform/in_brief.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -63,8 +64,7 @@ TEST_F(GameList, WithoutTheFileOfItsStateTheListStaysAsItWas) {
   EXPECT_EQ(Filled(GameState::kNeoGeo, FillResult::kNoDataFile), "Old,");
   EXPECT_EQ(Filled(GameState::kAvailable, FillResult::kNoScanFile), "Old,");
   files_.Put(R"(C:\Zarvo\cfg\M72.scn)", "\"A;N\"\r\n");
-  EXPECT_EQ(FillList(files_, app_, ProfileOf(Emulator::kM72), GameState::kMissing, list_),
-            FillResult::kNoScanFile);
+  EXPECT_EQ(FillList(files_, app_, kM72, GameState::kMissing, list_), FillResult::kNoScanFile);
   EXPECT_EQ(Names(list_), "Old,");
   EXPECT_EQ(Filled(GameState::kAllSupported, FillResult::kNoDataFile), "");
   PutData(Header());

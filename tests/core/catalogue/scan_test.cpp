@@ -2,6 +2,7 @@
 
 #include "core/catalogue/catalogue_fixture.h"
 #include "core/platform/in_brief.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -10,12 +11,11 @@ class Scan : public CatalogueTest {
  protected:
   // The number found, or -1 if the scan failed, and the scan file.
   std::string Run(SetType sets, std::string_view folder = R"(C:\Roms)",
-                  Emulator emulator = Emulator::kMame) {
-    const EmulatorProfile& profile = ProfileOf(emulator);
-    const auto outcome = ScanRoms(files_, app_, profile, folder, sets);
+                  const Emulator& emulator = kMame) {
+    const auto outcome = ScanRoms(files_, app_, emulator, folder, sets);
     written_ = outcome && outcome->written;
     return std::to_string(outcome ? outcome->found : -1) + " " +
-           files_.BytesOf(R"(C:\Zarvo\cfg\)" + std::string(profile.scan_file));
+           files_.BytesOf(R"(C:\Zarvo\cfg\)" + std::string(emulator.ScanFile()));
   }
   void PutRoms(const std::vector<std::string>& names) {
     for (const std::string& name : names) files_.Put(R"(C:\Roms\)" + name, "zip");
@@ -48,7 +48,7 @@ TEST_F(Scan, MergedSetsLookForTheParent) {
       "9 'Clone A;N'|'Clone B;N'|'Lonely;Y'|'Neo;Y'|'Neo X;Y'|'Neos;Y'|'Parent;Y'|'Unknown;Y'|"
       "'Words;Y'|'Name only;N'|'Rom;Y'|'Open;Y'|");
   EXPECT_EQ(Run(SetType::kSplit), split);
-  EXPECT_EQ(Run(SetType::kMerged, R"(C:\Roms)", Emulator::kRaine), split) << "only MAME merges";
+  EXPECT_EQ(Run(SetType::kMerged, R"(C:\Roms)", kRaine), split) << "only MAME merges";
 }
 
 TEST_F(Scan, OnlyAPlainFileInAnyCaseIsARom) {

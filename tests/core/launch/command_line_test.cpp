@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/platform/text.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -27,8 +28,8 @@ struct Expected {
   std::vector<Saying> sayings;
 };
 
-Expected ReadExpected(const EmulatorProfile& profile) {
-  std::ifstream file(ZARVO_EXPECTED_COMMANDS + FoldCase(profile.word) + ".txt");
+Expected ReadExpected(const Emulator& emulator) {
+  std::ifstream file(ZARVO_EXPECTED_COMMANDS + FoldCase(emulator.word) + ".txt");
   Expected expected;
   std::string option;
   for (std::string line; std::getline(file, line);) {
@@ -50,17 +51,16 @@ Expected ReadExpected(const EmulatorProfile& profile) {
 }
 
 // Each at each of its values, all others at their defaults.
-void ExpectPieces(const EmulatorProfile& profile) {
-  const Emulator emulator = profile.emulator;
-  const std::string word(profile.word);
+void ExpectPieces(const Emulator& emulator) {
+  const std::string word(emulator.word);
   const CommandInput defaults{
       .emulator_path = "C:\\Emu\\" + word + "\\" + word + ".exe",
       .rom_name = "agsofdk",
-      .options = DefaultValues(profile, "C:\\Roms"),
+      .options = DefaultValues(emulator, "C:\\Roms"),
       .recording = "first.inp",
       .now = {.year = 2004, .month = 12, .day = 1, .hour = 23, .minute = 7, .second = 30}};
-  const auto [head, sayings] = ReadExpected(profile);
-  const auto options = OptionsOf(emulator);
+  const auto [head, sayings] = ReadExpected(emulator);
+  const auto options = emulator.options;
   std::map<std::string, std::vector<std::string>> items;
   for (const Saying& saying : sayings) {
     const std::size_t index = OptionIndex(emulator, saying.option);
@@ -84,7 +84,7 @@ void ExpectPieces(const EmulatorProfile& profile) {
                             : one.value == std::to_string(at.number);
       if (says && at.enabled) line += one.piece;
     }
-    EXPECT_EQ(CommandLine(profile, input), line) << saying.option << " at " << saying.value;
+    EXPECT_EQ(CommandLine(emulator, input), line) << saying.option << " at " << saying.value;
   }
   EXPECT_EQ(items.size(), options.size());
   for (const OptionSpec& option : options) {
@@ -95,35 +95,35 @@ void ExpectPieces(const EmulatorProfile& profile) {
 }
 
 TEST(CommandLine, EveryValueOfEveryOptionSaysItsPieceInItsPlace) {
-  for (const EmulatorProfile& profile : Profiles()) ExpectPieces(profile);
+  for (const Emulator& emulator : Emulators()) ExpectPieces(emulator);
 }
 
 // Whole lines, from options that act on one another.
 struct WholeLine {
-  Emulator emulator;
+  const Emulator& emulator;
   std::map<std::string, int> numbers;
   std::string line;
 };
 
 TEST(CommandLine, WholeLines) {
   const std::vector<WholeLine> rows = {
-      {Emulator::kMame, {{"cboSoundCard", 0}, {"cboSampleRate", 0}}, " -ignorecfg -soundcard 0"},
-      {Emulator::kMame, {{"chkPlayback", 1}}, " -ignorecfg -soundcard 1"},
-      {Emulator::kCallus,
+      {kMame, {{"cboSoundCard", 0}, {"cboSampleRate", 0}}, " -ignorecfg -soundcard 0"},
+      {kMame, {{"chkPlayback", 1}}, " -ignorecfg -soundcard 1"},
+      {kCallus,
        {{"chkNoSound", 1}, {"cboVR", 2}, {"cboHR", 13}, {"cboDevice2", -1}, {"chkStereo", 1}},
        " -resv 384 224 -res 800 600 -frameskip AUTO -nosound -setinput 1 KEY1"
        " -setinput 3 KEY1 -setinput 4 KEY1 -stereo ON"},
-      {Emulator::kM72, {{"cboVR", 1}}, " -r 22050"}};
+      {kM72, {{"cboVR", 1}}, " -r 22050"}};
   for (const WholeLine& row : rows) {
     CommandInput input{.emulator_path = "emu.exe",
                        .rom_name = "sf2",
-                       .options = DefaultValues(ProfileOf(row.emulator), ""),
+                       .options = DefaultValues(row.emulator, ""),
                        .recording = "",
                        .now = {}};
     for (const auto& [name, number] : row.numbers) {
       input.options.values[OptionIndex(row.emulator, name)].number = number;
     }
-    EXPECT_EQ(CommandLine(ProfileOf(row.emulator), input), "emu.exe sf2" + row.line);
+    EXPECT_EQ(CommandLine(row.emulator, input), "emu.exe sf2" + row.line);
   }
 }
 

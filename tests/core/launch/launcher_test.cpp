@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "core/platform/dos_path.h"
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/recorded_boxes.h"
 #include "fakes/temp_drive.h"
@@ -59,14 +60,14 @@ class LauncherTest : public testing::Test {
   }
 
   // Archives are named between blanks.
-  void Use(const EmulatorProfile& profile, const std::string& mine, const std::string& own = "") {
-    profile_ = &profile;
+  void Use(const Emulator& emulator, const std::string& mine, const std::string& own = "") {
+    emulator_ = &emulator;
     panel_ = ScriptedPanel();
-    folder_ = "C:\\Emu\\" + std::string(profile.word);
-    own_ = folder_ + std::string(profile.rom_sub_folder);
+    folder_ = "C:\\Emu\\" + std::string(emulator.word);
+    own_ = folder_ + std::string(emulator.rom_sub_folder);
     panel_.emulator_folder = folder_;
     panel_.emulator_path = folder_ + "\\Emu.exe";
-    panel_.options = DefaultValues(profile, "C:\\Mine");
+    panel_.options = DefaultValues(emulator, "C:\\Mine");
     std::filesystem::remove_all(drive_.Host("C:\\Mine"));
     std::filesystem::remove_all(drive_.Host(folder_));
     drive_.Write(panel_.emulator_path, "program");
@@ -77,9 +78,7 @@ class LauncherTest : public testing::Test {
       for (std::string name; words >> name;) drive_.Write(JoinPath(folder, name + ".ZIP"), bytes);
     }
   }
-  void UseMame(const std::string& mine, const std::string& own = "") {
-    Use(ProfileOf(Emulator::kMame), mine, own);
-  }
+  void UseMame(const std::string& mine, const std::string& own = "") { Use(kMame, mine, own); }
   void UseOwnFolder() { panel_.options.rom_folder = own_; }
 
   std::string Start() { return Start(drive_.files()); }
@@ -97,7 +96,7 @@ class LauncherTest : public testing::Test {
       found = " with" + Archives();
       return run_result_;
     };
-    const LaunchEnd end = Launch(*profile_, "Street Fighter II", panel_,
+    const LaunchEnd end = Launch(*emulator_, "Street Fighter II", panel_,
                                  {.files = files, .boxes = boxes_, .app = app_, .run = run});
     EXPECT_EQ(Archives(), before);
     EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
@@ -130,7 +129,7 @@ class LauncherTest : public testing::Test {
   mutable TempDrive drive_;
   AppState app_;
   RecordedBoxes boxes_;
-  const EmulatorProfile* profile_ = nullptr;
+  const Emulator* emulator_ = nullptr;
   ScriptedPanel panel_;
   std::string folder_;
   std::string own_;
@@ -149,13 +148,12 @@ TEST_F(LauncherTest, TheBatchFileHoldsTheCommandLineAndIsGoneAfterTheRun) {
 }
 
 TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    const bool mame = profile.emulator == Emulator::kMame;
-    const std::string no_rom = profile.emulator == Emulator::kRaine
-                                   ? "Warning! - No Rom found!|no rom: no rom"
-                                   : "no rom: no rom";
-    Use(profile, "SF2");
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    const bool mame = emulator == kMame;
+    const std::string no_rom =
+        emulator == kRaine ? "Warning! - No Rom found!|no rom: no rom" : "no rom: no rom";
+    Use(emulator, "SF2");
     for (const char* folder : {"C:\\Nowhere", "", "Mine"}) {
       panel_.options.rom_folder = folder;
       EXPECT_EQ(Start(), no_rom) << folder;
@@ -169,27 +167,27 @@ TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
     panel_.options.rom_folder = "C:\\Mine";
     FailingFiles files(drive_.files());
     files.Fail(FileStep::kCopy, "zarvo.$$$");
-    Use(profile, "SF2");
+    Use(emulator, "SF2");
     EXPECT_EQ(Start(files),
               mame ? R"(C:\Emu\Mame\roms\sf2.zip: No space left on device: failed)" : no_rom);
 
-    Use(profile, "sf2", "sf2");
+    Use(emulator, "sf2", "sf2");
     boxes_.answers = {BoxAnswer::kNo};
     EXPECT_EQ(Start(), "sf2: overwrite?: refused");
     boxes_.answers = {BoxAnswer::kYes};
     EXPECT_EQ(Start(), "sf2: overwrite?: ran with sf2.ZIP=own");
 
-    Use(profile, "", "sf2");
+    Use(emulator, "", "sf2");
     EXPECT_EQ(Start(), no_rom) << "no question for what the rom folder lacks";
     UseOwnFolder();
     panel_.knows_game = false;
     EXPECT_EQ(Start(), "unknown");
-    Use(profile, "");
+    Use(emulator, "");
     UseOwnFolder();
-    EXPECT_EQ(Start(), mame || profile.emulator == Emulator::kM72 ? no_rom : "ran with")
+    EXPECT_EQ(Start(), mame || emulator == kM72 ? no_rom : "ran with")
         << "only MAME and M72 look into their own folder";
 
-    Use(profile, "");
+    Use(emulator, "");
     drive_.Write("C:\\Emu\\secret.zip", "secret");
     for (const char* rom : {"..\\secret", "C:\\Emu\\secret", "", "sf2 & del", "*", "a|b", "-x"}) {
       panel_.rom = rom;
@@ -212,13 +210,11 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
 }
 
 TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    const bool looks_up_first =
-        std::set{Emulator::kCallus, Emulator::kRaine, Emulator::kM72}.count(profile.emulator) == 1;
-    const std::string title =
-        profile.emulator == Emulator::kRaine ? "Warning! - No EXE found!|" : "";
+  for (const Emulator& emulator : Emulators()) {
+    const bool looks_up_first = emulator == kCallus || emulator == kRaine || emulator == kM72;
+    const std::string title = emulator == kRaine ? "Warning! - No EXE found!|" : "";
     for (const char* path : {"C:\\Emu\\None.exe", ""}) {
-      Use(profile, "sf2");
+      Use(emulator, "sf2");
       panel_.emulator_path = path;
       EXPECT_EQ(Start(), title + app_.messages.MsgNoEmulator + ": no emulator");
       EXPECT_EQ(panel_.calls, looks_up_first ? "save; find Street Fighter II; emulator picker; "
@@ -292,7 +288,7 @@ TEST_F(LauncherTest, WhatCannotBeRemovedAfterTheRunIsTold) {
     files.Fail(FileStep::kDelete, name);
     const auto run = [](std::string_view /*line*/) { return Success(); };
     boxes_.shown.clear();
-    EXPECT_EQ(Launch(*profile_, "Street Fighter II", panel_,
+    EXPECT_EQ(Launch(*emulator_, "Street Fighter II", panel_,
                      {.files = files, .boxes = boxes_, .app = app_, .run = run}),
               LaunchEnd::kRan);
     const std::string path = (name == "sf2.zip" ? own_ : folder_) + "\\" + name;
@@ -344,7 +340,7 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
   EXPECT_EQ(before, " sf2.zip=mine");
   boxes_.shown.clear();
   Launch(
-      *profile_, "Street Fighter II", panel_,
+      *emulator_, "Street Fighter II", panel_,
       {.files = drive_.files(), .boxes = boxes_, .app = app_, .run = [](std::string_view /*line*/) {
          return Success();
        }});

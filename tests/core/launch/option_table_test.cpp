@@ -1,10 +1,10 @@
-#include "core/launch/option_table.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "core/emulators/emulator.h"
 #include "core/platform/twips.h"
+#include "fakes/emulators.h"
 
 namespace zarvo {
 namespace {
@@ -21,10 +21,10 @@ bool Overlap(const TwipRect& a, const TwipRect& b) {
 }
 
 TEST(OptionTable, EveryControlSaysWhatItIsInARoomOfItsOwnOnWholePixels) {
-  for (const EmulatorProfile& profile : Profiles()) {
+  for (const Emulator& emulator : Emulators()) {
     std::vector<TwipRect> taken;
-    for (const OptionSpec& option : OptionsOf(profile.emulator)) {
-      SCOPED_TRACE(testing::Message() << profile.word << " " << option.name);
+    for (const OptionSpec& option : emulator.options) {
+      SCOPED_TRACE(testing::Message() << emulator.word << " " << option.name);
       EXPECT_FALSE(option.caption.empty());
       EXPECT_TRUE(option.tool_tip.starts_with(' '));
       std::vector<TwipRect> places = {option.place};
@@ -44,19 +44,18 @@ TEST(OptionTable, EveryControlSaysWhatItIsInARoomOfItsOwnOnWholePixels) {
 
 TEST(OptionTable, PresetsOfTheSettingsPageAndTheFixedRomFolder) {
   const std::pair<Emulator, std::string> rows[] = {
-      {Emulator::kMame,
+      {kMame,
        " cboScreenRes=0 cboMonitor=0 cboFrames=0 cboSoundCard=1 cboSampleRate=1 cboControls=0"
        " cboBeam=0 cboFlicker=0"},
-      {Emulator::kCallus,
+      {kCallus,
        " cboHR=0 cboVR=0 cboFrameSkip=0 cboSampleRate=1 cboDevice1=0 cboDevice2=0 cboDevice3=0"
        " cboDevice4=0"},
-      {Emulator::kRaine, " cboScreenMode=0 cboScreenRes=0 cboJoystick=0"},
-      {Emulator::kSystem16,
-       " cboHR=2 cboVR=2 cboFrameSkip=0 cboSoundcard=0 cboSampleRate=1 cboControls=0"},
-      {Emulator::kM72, " cboVR=0 (waits) cboFrameSkip=0 cboSampleRate=1 cboQuickFire=0"}};
+      {kRaine, " cboScreenMode=0 cboScreenRes=0 cboJoystick=0"},
+      {kSystem16, " cboHR=2 cboVR=2 cboFrameSkip=0 cboSoundcard=0 cboSampleRate=1 cboControls=0"},
+      {kM72, " cboVR=0 (waits) cboFrameSkip=0 cboSampleRate=1 cboQuickFire=0"}};
   for (const auto& [emulator, presets] : rows) {
     std::string found;
-    for (const OptionSpec& option : OptionsOf(emulator)) {
+    for (const OptionSpec& option : emulator.options) {
       if (option.preset) {
         found += " " + std::string(option.name) + "=" + std::to_string(*option.preset);
       }
@@ -64,7 +63,7 @@ TEST(OptionTable, PresetsOfTheSettingsPageAndTheFixedRomFolder) {
     }
     EXPECT_EQ(found, presets);
   }
-  EXPECT_EQ(DefaultValues(ProfileOf(Emulator::kCallus), "").rom_folder, "C:\\emu\\callus");
+  EXPECT_EQ(DefaultValues(kCallus, "").rom_folder, "C:\\emu\\callus");
 }
 
 }  // namespace

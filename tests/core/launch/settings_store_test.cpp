@@ -4,6 +4,7 @@
 
 #include "core/platform/in_brief.h"
 #include "fakes/app_in.h"
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 
@@ -16,7 +17,7 @@ constexpr std::string_view kTemporary = R"(C:\Zarvo\cfg\Raineset.tmp)";
 // Raine's record is the shortest: rom folder, three lists, two check boxes.
 class SettingsStore : public testing::Test {
  protected:
-  SettingsStore() { app_.RomPathOf(Emulator::kRaine) = "C:\\Mine"; }
+  SettingsStore() { app_.RomPathOf(kRaine) = "C:\\Mine"; }
 
   static OptionValues Values(std::string folder, std::initializer_list<int> numbers) {
     OptionValues values{.rom_folder = std::move(folder), .values = {}};
@@ -46,29 +47,28 @@ class SettingsStore : public testing::Test {
 
   TempDrive drive_;
   AppState app_ = AppIn("C:\\Zarvo");
-  const EmulatorProfile& raine_ = ProfileOf(Emulator::kRaine);
+  const Emulator& raine_ = kRaine;
   Store store_ = SettingsStoreOf(drive_.files(), app_, raine_);
 };
 
 TEST_F(SettingsStore, WritesTheRecordsOfAllEmulatorsAsTold) {
   const std::pair<Emulator, std::string_view> rows[] = {
-      {Emulator::kMame,
-       ",0,0,0,0,1,1,0,0,0,0,'0','0',14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0"},
-      {Emulator::kCallus, ",10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0"},
-      {Emulator::kRaine, ",0,0,0,0,0"},
-      {Emulator::kSystem16, ",2,2,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,1,0"},
-      {Emulator::kM72, ",0,0,0,0,0,0,0,0,1,0"}};
+      {kMame, ",0,0,0,0,1,1,0,0,0,0,'0','0',14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0"},
+      {kCallus, ",10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0"},
+      {kRaine, ",0,0,0,0,0"},
+      {kSystem16, ",2,2,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,1,0"},
+      {kM72, ",0,0,0,0,0,0,0,0,1,0"}};
   for (const auto& [emulator, fields] : rows) {
-    const OptionValues defaults = DefaultValues(ProfileOf(emulator), R"(C:\Roms)");
-    EXPECT_EQ(RecordLine(ProfileOf(emulator), "Dark Combat", defaults),
+    const OptionValues defaults = DefaultValues(emulator, R"(C:\Roms)");
+    EXPECT_EQ(RecordLine(emulator, "Dark Combat", defaults),
               Bytes(R"('Dark Combat','C:\Roms')") + Bytes(fields));
   }
 }
 
 TEST_F(SettingsStore, EveryFieldOfEveryEmulatorComesBack) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    const auto options = OptionsOf(profile.emulator);
-    OptionValues values = DefaultValues(profile, "D:\\Other");
+  for (const Emulator& emulator : Emulators()) {
+    const auto options = emulator.options;
+    OptionValues values = DefaultValues(emulator, "D:\\Other");
     for (std::size_t i = 0; i < options.size(); ++i) {
       if (!options[i].stored) continue;
       values.values[i].text = options[i].kind == OptionKind::kText ? "-" + std::to_string(i) : "";
@@ -76,11 +76,11 @@ TEST_F(SettingsStore, EveryFieldOfEveryEmulatorComesBack) {
       const int last = static_cast<int>(options[i].items.size()) - 1;
       if (options[i].kind == OptionKind::kCombo) values.values[i].number = i % 2 == 0 ? last : -1;
     }
-    Store store = SettingsStoreOf(drive_.files(), app_, profile);
-    ASSERT_TRUE(SaveSettings(store, profile, "Game", values));
+    Store store = SettingsStoreOf(drive_.files(), app_, emulator);
+    ASSERT_TRUE(SaveSettings(store, emulator, "Game", values));
     OptionValues read;
-    ASSERT_EQ(LoadSettings(store, app_, profile, "Game", read), LoadOutcome::kRecord);
-    EXPECT_EQ(RecordLine(profile, "Game", read), RecordLine(profile, "Game", values));
+    ASSERT_EQ(LoadSettings(store, app_, emulator, "Game", read), LoadOutcome::kRecord);
+    EXPECT_EQ(RecordLine(emulator, "Game", read), RecordLine(emulator, "Game", values));
   }
 }
 
@@ -116,9 +116,9 @@ TEST_F(SettingsStore, LoadsTheRecordOfTheKeyOrTheDefaults) {
 }
 
 TEST_F(SettingsStore, PlaybackIsClearedWithoutARecordAndLeftAloneWithOne) {
-  const EmulatorProfile& mame = ProfileOf(Emulator::kMame);
+  const Emulator& mame = kMame;
   OptionValues values = DefaultValues(mame, "C:\\R");
-  const std::size_t playback = OptionIndex(Emulator::kMame, "chkPlayback");
+  const std::size_t playback = OptionIndex(kMame, "chkPlayback");
   Store store = SettingsStoreOf(drive_.files(), app_, mame);
   ASSERT_TRUE(SaveSettings(store, mame, "Known", values));
   drive_.Write("C:\\Zarvo\\cfg\\Mame.set", RecordLine(mame, "Known", values) + ",1\r\n");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/app_in.h"
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 

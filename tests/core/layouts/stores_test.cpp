@@ -15,6 +15,7 @@
 #include "core/panel/cfg_file.h"
 #include "core/platform/host_file.h"
 #include "fakes/app_in.h"
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 
@@ -77,7 +78,7 @@ struct Kind {
   std::function<Hands(DosFiles&, AppState&)> open;
 };
 
-const EmulatorProfile& Mame() { return ProfileOf(Emulator::kMame); }
+const Emulator& Mame() { return kMame; }
 
 Hands Cfg(DosFiles& files, AppState& app) {
   auto store = std::make_shared<Store>(CfgStoreOf(files, app, Mame()));

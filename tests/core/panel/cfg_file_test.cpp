@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/app_in.h"
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
 
@@ -19,9 +20,9 @@ constexpr std::string_view kSample =
 
 class CfgFile : public testing::Test {
  protected:
-  CfgFields Read(Emulator emulator = Emulator::kMame) {
-    Store store = CfgStoreOf(drive_.files(), app_, ProfileOf(emulator));
-    return ReadCfg(store, ProfileOf(emulator));
+  CfgFields Read(const Emulator& emulator = kMame) {
+    Store store = CfgStoreOf(drive_.files(), app_, emulator);
+    return ReadCfg(store, emulator);
   }
   CfgFields Read(std::string_view text) {
     drive_.Write(kFile, text);
@@ -39,9 +40,9 @@ class CfgFile : public testing::Test {
     return text;
   }
   [[nodiscard]] Status Write(DosFiles& files, std::vector<std::string> favourites,
-                             Emulator emulator = Emulator::kMame) {
-    Store store = CfgStoreOf(files, app_, ProfileOf(emulator));
-    return WriteCfg(store, ProfileOf(emulator),
+                             const Emulator& emulator = kMame) {
+    Store store = CfgStoreOf(files, app_, emulator);
+    return WriteCfg(store, emulator,
                     {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
                      .rom_path = R"(C:\Emu\Mame\Roms)",
                      .snap_path = R"(C:\Emu\Snapshot\Mame)",
@@ -64,8 +65,8 @@ TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
 TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
   drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)",
                "\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\nx");
-  EXPECT_EQ(Text(Read(Emulator::kM72)), "E|R|S|G|F|up|-");
-  ASSERT_TRUE(Write(drive_.files(), {"R-Type"}, Emulator::kM72));
+  EXPECT_EQ(Text(Read(kM72)), "E|R|S|G|F|up|-");
+  ASSERT_TRUE(Write(drive_.files(), {"R-Type"}, kM72));
   EXPECT_EQ(drive_.Read("C:\\Zarvo\\cfg\\M72.cfg"), kSample);
 }
 

@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/key_press.h"
 #include "fakes/modal.h"
@@ -27,28 +28,28 @@ class RecordingSections : public SectionHost, public MainPlace {
   explicit RecordingSections(AppState& app) : app_(app) {}
 
   // A panel that stands open.
-  void Stand(Emulator emulator, const TwipRect& place) {
+  void Stand(const Emulator& emulator, const TwipRect& place) {
     app_.ShowWord(emulator) = "SI";
-    places[emulator] = place;
+    places[&emulator] = place;
   }
 
-  void OpenSection(const EmulatorProfile& profile) override {
-    told.push_back("open " + std::string(profile.section_word));
-    if (!without_data_file.contains(profile.emulator)) Stand(profile.emulator, {});
+  void OpenSection(const Emulator& emulator) override {
+    told.push_back("open " + std::string(emulator.SectionWord()));
+    if (!without_data_file.contains(&emulator)) Stand(emulator, {});
   }
   bool SaveOpenPanels() override { return true; }
   bool CloseOpenPanels() override {
     told.emplace_back("close all");
-    for (const auto& [emulator, place] : places) app_.ShowWord(emulator) = "NO";
+    for (const auto& [emulator, place] : places) app_.ShowWord(*emulator) = "NO";
     places.clear();
     return true;
   }
-  [[nodiscard]] std::optional<TwipRect> PanelPlace(Emulator emulator) const override {
-    const auto found = places.find(emulator);
+  [[nodiscard]] std::optional<TwipRect> PanelPlace(const Emulator& emulator) const override {
+    const auto found = places.find(&emulator);
     return found == places.end() ? std::nullopt : std::optional(found->second);
   }
-  void SetPanelPlace(Emulator emulator, const TwipRect& place) override {
-    if (places.contains(emulator)) places[emulator] = place;
+  void SetPanelPlace(const Emulator& emulator, const TwipRect& place) override {
+    if (places.contains(&emulator)) places[&emulator] = place;
   }
   void ResetClearLabels() override {}
   [[nodiscard]] int MainLeft() const override { return main.left; }
@@ -59,8 +60,8 @@ class RecordingSections : public SectionHost, public MainPlace {
   }
   void ResetCommands() override {}
 
-  std::set<Emulator> without_data_file;
-  std::map<Emulator, TwipRect> places;
+  std::set<const Emulator*> without_data_file;
+  std::map<const Emulator*, TwipRect> places;
   TwipRect main{.left = 500, .top = 400};
   std::vector<std::string> told;
 
@@ -147,8 +148,8 @@ TEST_F(LayoutManagerTest, OpensWithWhatTheFilesHoldAndBreaksOffWhereTheyDo) {
 TEST_F(LayoutManagerTest, SaveTakesTheWindowsAsTheyStand) {
   LayoutManager& manager = Open(kTwoLayouts, Ini(0, 0, ""));
   sections_.main = {.left = 45000, .top = -401};  // too far out for the numbers of the file
-  sections_.Stand(Emulator::kM72, {.left = 8, .top = 7, .width = 6345, .height = 4620});
-  sections_.Stand(Emulator::kCallus, {.left = 2, .top = 1, .width = 2415, .height = 7260});
+  sections_.Stand(kM72, {.left = 8, .top = 7, .width = 6345, .height = 4620});
+  sections_.Stand(kCallus, {.left = 2, .top = 1, .width = 2415, .height = 7260});
   manager.cmdSaveLayout->click();
   EXPECT_EQ(Layouts(),
             "[Evening]\r\nMAIN,-401,32767\r\nCALLUS,1,2,2415,7260\r\nM72,7,8,6345,4620\r\n-\r\n"
@@ -160,14 +161,14 @@ TEST_F(LayoutManagerTest, LoadClosesAllPanelsAndOpensThoseOfTheLayout) {
   LayoutManager& manager =
       Open("[A]\r\nMAIN,7,8\r\nMAME,1,2,6345,7260\r\nGHOST,1,2,3,4\r\nM72,5,6,6345,4620\r\n-\r\n",
            Ini(0, 0, ""));
-  sections_.Stand(Emulator::kRaine, {});
-  sections_.without_data_file = {Emulator::kMame};
+  sections_.Stand(kRaine, {});
+  sections_.without_data_file = {&kMame};
   manager.cmdLoadLayout->click();
   EXPECT_THAT(sections_.told, ElementsAre("close all", "main", "open MAME", "open M72"));
   EXPECT_EQ(sections_.main, (TwipRect{.left = 8, .top = 7}));
-  EXPECT_THAT(sections_.places,
-              ElementsAre(std::pair(Emulator::kM72,
-                                    TwipRect{.left = 6, .top = 5, .width = 6345, .height = 4620})));
+  EXPECT_THAT(
+      sections_.places,
+      ElementsAre(std::pair(&kM72, TwipRect{.left = 6, .top = 5, .width = 6345, .height = 4620})));
   EXPECT_FALSE(manager.IsUnloaded());
 }
 

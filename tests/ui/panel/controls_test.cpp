@@ -66,11 +66,10 @@ class NamedPanelControlsTest : public PanelTest {
 
 TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
   MainWindow main(files_, app_, boxes_,
-                  [](const EmulatorProfile& /*profile*/) { return std::vector<std::string>(); },
-                  {});
+                  [](const Emulator& /*emulator*/) { return std::vector<std::string>(); }, {});
   std::map<std::string, QWidget*> all = {{"Main", &main}};
-  for (const EmulatorProfile& profile : Profiles()) {
-    all.emplace(profile.word, &sections_.Panel(profile.emulator));
+  for (const Emulator& emulator : Emulators()) {
+    all.emplace(emulator.word, &sections_.Panel(emulator));
   }
   std::ifstream list(ZARVO_CONTROLS);
   int checked = 0;
@@ -103,10 +102,10 @@ TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
 TEST_F(NamedPanelControlsTest, TheCaptionsOfTheOptionsFit) {
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
-  for (const EmulatorProfile& profile : Profiles()) {
-    for (const CheckBox* check : sections_.Panel(profile.emulator).findChildren<CheckBox*>()) {
+  for (const Emulator& emulator : Emulators()) {
+    for (const CheckBox* check : sections_.Panel(emulator).findChildren<CheckBox*>()) {
       const int wanted = QFontMetrics(font).horizontalAdvance(ToQt(check->Caption())) + 15;
-      EXPECT_LE(wanted, check->width()) << profile.word << " " << check->Caption();
+      EXPECT_LE(wanted, check->width()) << emulator.word << " " << check->Caption();
     }
   }
 }

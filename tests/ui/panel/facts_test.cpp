@@ -1,6 +1,7 @@
 // What a panel says about a game: the snapshot, the details and the help page.
 #include <QImage>
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 
 namespace zarvo {
@@ -41,7 +42,7 @@ TEST_F(FactsTest, APictureOrWhatWasLookedFor) {
   PutPicture(R"(C:\Snaps\ALIENS.BMP)", Qt::red);
   PutPicture(R"(C:\Snaps\zaxxon.jpg)", Qt::white);
   drive_.Write(R"(C:\Snaps\puckman.bmp)", "BM, but no picture");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   const auto missing = [](const std::string& file) {
     return "No ScreenShot Available|No snapshot found in:|C:\\Snaps|Zarvo searched for:|" + file +
            "|Press F12 during the game to grab your snap!|";
@@ -61,7 +62,7 @@ TEST_F(FactsTest, APictureOrWhatWasLookedFor) {
 
 TEST_F(FactsTest, ANewSnapshotFolderCountsFromTheButtonOn) {
   PutPicture(R"(C:\Other\aliens.bmp)", Qt::green);
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   panel.picConf->optSnapBMP->SetValue(true);
   panel.TakeSnapFolder(R"(C:\Other)");
   PressEntry(panel.games->lstRom, 0);
@@ -78,7 +79,7 @@ TEST_F(FactsTest, DetailsShowEveryFieldUnderItsName) {
                       "B;romb;X;-;G;M;????;P;C;Yes(1);H;T;d.c;;;;;;;;;\r\n"
                       "C;cut;C;-;G;\r\n"
                       "D;romd;C;neogeo;G;M;????;P;C;Yes(1);H;T;d.c;;;;;;;;;\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   const auto shown = [&] {
     std::string all;
     for (const char* name :
@@ -108,16 +109,16 @@ TEST_F(FactsTest, DetailsShowEveryFieldUnderItsName) {
 TEST_F(FactsTest, TheHelpListFollowsTheGameOnMameAndCallus) {
   drive_.Write(R"(C:\Emu\Mame\gamelist.txt)", "Puck Man\r\nA maze.\r\n\r\n\r\nZaxxon\r\n");
   drive_.Write(R"(C:\Emu\Callus\gamelist.txt)", "The 1941 title\r\nPlanes.\r\n\r\n\r\n");
-  EmulatorPanel& mame = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& mame = OpenConfigured(kMame);
   Press(mame.imgButHelp);
   EXPECT_EQ(Entries(mame.picHelp->lstHelp), "Game info not found in gamelist.txt!");
   PressEntry(mame.games->lstRom, 3);
   EXPECT_EQ(Entries(mame.picHelp->lstHelp), "Puck Man|A maze.||");
-  const EmulatorPanel& callus = OpenConfigured(Emulator::kCallus);
+  const EmulatorPanel& callus = OpenConfigured(kCallus);
   Press(callus.imgButHelp);
   EXPECT_THAT(Entries(callus.picHelp->lstHelp), StartsWith("Planes.|"));
 
-  EmulatorPanel& system16 = OpenConfigured(Emulator::kSystem16);
+  EmulatorPanel& system16 = OpenConfigured(kSystem16);
   const std::string keys = Entries(system16.picHelp->lstHelp);
   EXPECT_GT(system16.picHelp->lstHelp->ListCount(), 100);
   EXPECT_THAT(keys, testing::MatchesRegex(
@@ -126,7 +127,7 @@ TEST_F(FactsTest, TheHelpListFollowsTheGameOnMameAndCallus) {
   PressEntry(system16.games->lstRom, 1);
   EXPECT_EQ(Entries(system16.picHelp->lstHelp), keys) << "it doesn't follow the selection";
   EXPECT_EQ(Caption(system16), "Shinobi");
-  for (const Emulator emulator : {Emulator::kRaine, Emulator::kM72}) {
+  for (const Emulator& emulator : Those{kRaine, kM72}) {
     EXPECT_EQ(OpenConfigured(emulator).picHelp->lstHelp, nullptr);
   }
 }

@@ -1,6 +1,7 @@
 // The favourites list: drag and drop, keys, clearing, and names that the data file doesn't know.
 #include "ui/panel/favourites.h"
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 #include "ui/toolkit/drag.h"
 
@@ -35,23 +36,23 @@ class FavouritesTest : public PanelTest {
 };
 
 TEST_F(FavouritesTest, AGameIsDraggedInOnce) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame, {"Puck Man"});
+  EmulatorPanel& panel = OpenConfigured(kMame, {"Puck Man"});
   QWidget* const target = panel.favourites->lstPref->viewport();
   Drag(panel, 4, target);
   Drag(panel, 4, target);
   Drag(panel, 0, target, Qt::MiddleButton);
   Drag(panel, 2, panel.logo);  // dropped elsewhere; each press is a click as well
   EXPECT_EQ(Look(panel), "Metal Slug: Aliens|*Puck Man|Zaxxon (3)");
-  EXPECT_EQ(Split(drive_.Read(CfgPath(Emulator::kMame))).size(), 7U) << "nothing is written yet";
+  EXPECT_EQ(Split(drive_.Read(CfgPath(kMame))).size(), 7U) << "nothing is written yet";
   panel.SaveCfg();
-  EXPECT_THAT(drive_.Read(CfgPath(Emulator::kMame)),
+  EXPECT_THAT(drive_.Read(CfgPath(kMame)),
               testing::EndsWith(Lines({"Zaxxon", "Puck Man", "Aliens"})));
   PressKey(panel.games->lstRom, Qt::Key_Insert);
   EXPECT_EQ(Look(panel), "Metal Slug: Aliens|Metal Slug|*Puck Man|Zaxxon (4)");
 }
 
 TEST_F(FavouritesTest, TheIconOfTheDragTellsTheTarget) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  EmulatorPanel& panel = OpenConfigured(kRaine);
   ListBox* const list = panel.games->lstRom;
   QWidget* const from = list->viewport();
   const auto icon = [] {
@@ -84,7 +85,7 @@ TEST_F(FavouritesTest, DeleteSelectsTheNextEntryAndRunsItsCycle) {
       {three, 2, "Puck Man: Aliens|*Puck Man (2)"}, {{"Aliens"}, 0, "Aliens:  (0)"},
       {{"Aliens"}, -1, "Metal Slug: Aliens (1)"},   {{}, -1, "Metal Slug:  (0)"},
   };
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   for (const Case& at : cases) {
     panel.favourites->SetEntries(at.entries);
     PressEntry(panel.games->lstRom, 2);
@@ -95,9 +96,9 @@ TEST_F(FavouritesTest, DeleteSelectsTheNextEntryAndRunsItsCycle) {
 }
 
 TEST_F(FavouritesTest, ClearAsksFirst) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    if (!profile.has_favourites) continue;
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    if (!emulator.has_favourites) continue;
+    EmulatorPanel& panel = OpenConfigured(emulator);
     const std::string game = Caption(panel);
     panel.favourites->Add("Nobody's game");
     boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kYes};
@@ -108,14 +109,14 @@ TEST_F(FavouritesTest, ClearAsksFirst) {
       EXPECT_EQ(Look(panel), game + left);
     }
     Press(panel.cmdExit);
-    EXPECT_EQ(Split(drive_.Read(CfgPath(profile.emulator))).size(), 6U) << profile.word;
+    EXPECT_EQ(Split(drive_.Read(CfgPath(emulator))).size(), 6U) << emulator.word;
   }
 }
 
 // One message and one entry for each look-up; its neighbour is asked about when it is clicked.
 TEST_F(FavouritesTest, UnknownNamesGoWhenTheyAreSelected) {
   EmulatorPanel& panel =
-      OpenConfigured(Emulator::kMame, {"Aliens", "Gone 1", "Gone 2", "Gone 3", "Puck Man"});
+      OpenConfigured(kMame, {"Aliens", "Gone 1", "Gone 2", "Gone 3", "Puck Man"});
   ListBox* const list = panel.favourites->lstPref;
   PressEntry(list, 1);
   EXPECT_EQ(TakeBoxes().size(), 1U);
@@ -142,7 +143,7 @@ TEST_F(FavouritesTest, UnknownNamesGoWhenTheyAreSelected) {
 
 // Nothing is selected among the favourites: the failure selects their first entry.
 TEST_F(FavouritesTest, AnUnknownGameOfTheBigListSelectsTheFirstFavouriteAndKeepsTheCaption) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   panel.favourites->SetEntries({"Puck Man"});
   PutData("Mame", DataHead("1") + Game("Puck Man;puckman;O;-;Labyrinth;Namco;1980"));
   PressEntry(panel.games->lstRom, 4);
@@ -151,11 +152,10 @@ TEST_F(FavouritesTest, AnUnknownGameOfTheBigListSelectsTheFirstFavouriteAndKeeps
 }
 
 TEST_F(FavouritesTest, ThePercentageStandsInTheTipWhenItIsAskedFor) {
-  const std::pair<Emulator, const char*> cases[] = {
-      {Emulator::kMame, "||"},
-      {Emulator::kCallus, "| 2% of total | 2% of total "},
-      {Emulator::kRaine, "|| 3% of total "},
-      {Emulator::kSystem16, "|| 5% of total "}};
+  const std::pair<Emulator, const char*> cases[] = {{kMame, "||"},
+                                                    {kCallus, "| 2% of total | 2% of total "},
+                                                    {kRaine, "|| 3% of total "},
+                                                    {kSystem16, "|| 5% of total "}};
   for (const auto& [emulator, tips] : cases) {
     const EmulatorPanel& panel = OpenConfigured(emulator);
     panel.favourites->Add("one");
@@ -164,9 +164,9 @@ TEST_F(FavouritesTest, ThePercentageStandsInTheTipWhenItIsAskedFor) {
     MoveMouse(count);
     shown += count->ToolTipText() + "|";
     Press(count);
-    EXPECT_EQ(shown + count->ToolTipText(), tips) << ProfileOf(emulator).word;
+    EXPECT_EQ(shown + count->ToolTipText(), tips) << emulator.word;
   }
-  EmulatorPanel& panel = sections_.Panel(Emulator::kCallus);
+  EmulatorPanel& panel = sections_.Panel(kCallus);
   for (const char* total : {"0", "many", ""}) {
     panel.games->lblTotal->SetCaption(total);
     MoveMouse(panel.favourites->lblFavCount);
@@ -178,7 +178,7 @@ TEST_F(FavouritesTest, NamesAreComparedByteByByteAndOddOnesComeBack) {
   PutData("Mame", DataHead("9") + Game("alpha;a;O;-;x;y;1990") + Game("Alpha;b;O;-;x;y;1990") +
                       Game("One, two;c;O;-;x;y;1990") + Game("The \"best\";d;O;-;x;y;1990") +
                       Game("The \"best\", again;e;O;-;x;y;1990"));
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   for (int i = 0; i < 5; ++i) {
     panel.games->lstRom->SetListIndex(i);
     PressKey(panel.games->lstRom, Qt::Key_Insert);
@@ -188,12 +188,12 @@ TEST_F(FavouritesTest, NamesAreComparedByteByByteAndOddOnesComeBack) {
   EXPECT_EQ(Entries(panel.favourites->lstPref), "alpha|Alpha|One, two|The \"best\"");
   Press(panel.cmdExit);
   DropClosed();
-  EXPECT_THAT(Split(Entries(Open(Emulator::kMame).favourites->lstPref), "|"),
+  EXPECT_THAT(Split(Entries(Open(kMame).favourites->lstPref), "|"),
               testing::UnorderedElementsAre("alpha", "Alpha", "One, two", "The \"best\""));
 }
 
 TEST_F(FavouritesTest, TheGamesOfM72CantBeChanged) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kM72);
+  EmulatorPanel& panel = OpenConfigured(kM72);
   ListBox* const list = panel.favourites->lstPref;
   PressEntry(list, 1);
   PressKey(list, Qt::Key_Delete);

@@ -2,6 +2,7 @@
 #include <QAbstractItemView>
 #include <QMenu>
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 
 namespace zarvo {
@@ -45,7 +46,7 @@ TEST_F(FiltersTest, FiltersCombine) {
   };
   drive_.Write(R"(C:\Zarvo\cfg\Mame.scn)",
                Lines({"Aliens;Y", "Aliens (JP);N", "Puck Man;N", "Zaxxon;Y"}));
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   const GameFilters& games = *panel.games;
   const auto choose = [](ComboBox* combo, const std::string& item) {
     combo->SetListIndex(item.empty() ? 0 : combo->findText(QString::fromStdString(item)));
@@ -68,7 +69,7 @@ TEST_F(FiltersTest, FiltersCombine) {
 }
 
 TEST_F(FiltersTest, OnlyTheComboThatWasClickedIsColoured) {
-  const GameFilters& games = *OpenConfigured(Emulator::kCallus).games;
+  const GameFilters& games = *OpenConfigured(kCallus).games;
   const auto colours = [](const ComboBox* combo) {
     return std::pair(combo->BackColor().value, combo->ForeColor().value);
   };
@@ -89,8 +90,8 @@ TEST_F(FiltersTest, OnlyTheComboThatWasClickedIsColoured) {
 }
 
 TEST_F(FiltersTest, ShiftAloneResetsTheFiltersOfMameOnly) {
-  for (const Emulator emulator : {Emulator::kMame, Emulator::kRaine}) {
-    const bool resets = emulator == Emulator::kMame;
+  for (const Emulator& emulator : Those{kMame, kRaine}) {
+    const bool resets = emulator == kMame;
     const GameFilters& games = *OpenConfigured(emulator).games;
     ComboBox* const combos[] = {games.cboFilterMisc, games.cboFilterGenre,
                                 games.cboFilterManufactor, games.cboFilterYear};
@@ -110,8 +111,8 @@ TEST_F(FiltersTest, ShiftAloneResetsTheFiltersOfMameOnly) {
 }
 
 TEST_F(FiltersTest, WithoutAScanFileAllGamesComeBackOnTheConfigurationPage) {
-  for (const Emulator emulator : {Emulator::kMame, Emulator::kCallus, Emulator::kRaine}) {
-    SCOPED_TRACE(ProfileOf(emulator).word);
+  for (const Emulator& emulator : Those{kMame, kCallus, kRaine}) {
+    SCOPED_TRACE(emulator.word);
     EmulatorPanel& panel = OpenConfigured(emulator);
     const std::string all = Entries(panel.games->lstRom);
     const std::string count = panel.games->lblRomCount->Caption();
@@ -128,7 +129,7 @@ TEST_F(FiltersTest, WithoutAScanFileAllGamesComeBackOnTheConfigurationPage) {
 }
 
 TEST_F(FiltersTest, ADataFileThatVanishedKeepsTheListUnlessAllAreAskedFor) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   panel.games->cboFilterMisc->SetListIndex(1);
   std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\Mame.dat)"));
   panel.games->cboFilterYear->SetListIndex(3);
@@ -142,21 +143,19 @@ TEST_F(FiltersTest, ADataFileThatVanishedKeepsTheListUnlessAllAreAskedFor) {
 }
 
 TEST_F(FiltersTest, ATotalThatCantBeReadKeepsTheCaptionOfTheDesign) {
-  const std::pair<Emulator, const char*> cases[] = {{Emulator::kMame, "1107"},
-                                                    {Emulator::kCallus, ""},
-                                                    {Emulator::kRaine, "107"},
-                                                    {Emulator::kSystem16, "1107"}};
+  const std::pair<Emulator, const char*> cases[] = {
+      {kMame, "1107"}, {kCallus, ""}, {kRaine, "107"}, {kSystem16, "1107"}};
   for (const auto& [emulator, total] : cases) {
-    PutData(ProfileOf(emulator).word, "no header here\r\n");
+    PutData(emulator.word, "no header here\r\n");
     EXPECT_EQ(sections_.Panel(emulator).games->lblTotal->Caption(), total);
   }
 }
 
 TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
-  PutCfg(Emulator::kMame);
+  PutCfg(kMame);
   drive_.Write(R"(C:\Emu\Mame\Roms\ALIENS.ZIP)", "");
   drive_.Write(R"(C:\Emu\Mame\Roms\mslug.zip)", "");
-  EmulatorPanel& panel = Open(Emulator::kMame);
+  EmulatorPanel& panel = Open(kMame);
   ASSERT_TRUE(panel.picConf->optMerged->Value());
   for (const bool merged : {true, false}) {
     panel.picConf->optSplitted->SetValue(!merged);
@@ -193,7 +192,7 @@ std::string PopupOver(const ListBox* list, Qt::MouseButton button = Qt::RightBut
 }
 
 TEST_F(FiltersTest, ThePopupShowsFourFactsOfTheSelectedGame) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame, {"Aliens (JP)", "Gone"});
+  EmulatorPanel& panel = OpenConfigured(kMame, {"Aliens (JP)", "Gone"});
   ListBox* const big = panel.games->lstRom;
   ListBox* const small = panel.favourites->lstPref;
   EXPECT_EQ(PopupOver(small), "mnuMame:[Konami][1990][Shooter]-[Clone]");
@@ -205,7 +204,7 @@ TEST_F(FiltersTest, ThePopupShowsFourFactsOfTheSelectedGame) {
   panel.favourites->SetEntries({"Aliens"});
   EXPECT_EQ(PopupOver(small), "(none)");
 
-  ListBox* const m72 = OpenConfigured(Emulator::kM72).favourites->lstPref;
+  ListBox* const m72 = OpenConfigured(kM72).favourites->lstPref;
   for (const int index : {0, 2}) {  // the other is not in the data file: the menu stays as it was
     m72->SetListIndex(index);
     EXPECT_EQ(TakeBoxes().size(), index == 0 ? 0U : 1U);

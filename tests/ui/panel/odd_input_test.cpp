@@ -2,6 +2,7 @@
 #include <QImage>
 #include <random>
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 #include "ui/pickers/folder_picker.h"
 
@@ -45,10 +46,10 @@ TEST_F(OddInputTest, LongLinesAndJunk) {
       "",
   };
   for (const std::string& file : files) {
-    for (const EmulatorProfile& profile : Profiles()) PutData(profile.word, file);
-    for (const EmulatorProfile& profile : Profiles()) {
-      EmulatorPanel& panel = OpenConfigured(profile.emulator);
-      if (profile.has_filters) Wander(panel);
+    for (const Emulator& emulator : Emulators()) PutData(emulator.word, file);
+    for (const Emulator& emulator : Emulators()) {
+      EmulatorPanel& panel = OpenConfigured(emulator);
+      if (emulator.has_filters) Wander(panel);
       TakeBoxes();
     }
     sections_.CloseOpenPanels();
@@ -64,10 +65,10 @@ TEST_F(OddInputTest, JunkInTheFilesOfThePlayer) {
     for (int i = 0; i < 3000; ++i) {
       junk += (random() & 3) == 0 ? "\",\r\n"[random() & 3] : static_cast<char>(random() & 0xFF);
     }
-    drive_.Write(CfgPath(Emulator::kMame), junk);
-    PutSettings(Emulator::kMame, "\"Aliens\"," + junk);
+    drive_.Write(CfgPath(kMame), junk);
+    PutSettings(kMame, "\"Aliens\"," + junk);
     drive_.Write(R"(C:\Zarvo\cfg\Mame.scn)", junk);
-    EmulatorPanel& panel = Open(Emulator::kMame);
+    EmulatorPanel& panel = Open(kMame);
     Wander(panel);
     panel.games->cboFilterMisc->SetListIndex(3);
     sections_.CloseOpenPanels();
@@ -88,7 +89,7 @@ TEST_F(OddInputTest, ARomNameThatLeadsElsewhereIsNoRom) {
   for (const std::string& name : Split(names, ";")) {
     SCOPED_TRACE(name);
     PutData("Mame", DataHead("1") + Game("Trap;" + name + ";C;" + name + ";Shooter;Konami;1990"));
-    EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+    EmulatorPanel& panel = OpenConfigured(kMame);
     panel.picConf->optSnapBMP->SetValue(true);
     Press(panel.imgButSnap);
     EXPECT_TRUE(panel.picSnap->imgSnap->CurrentPicture().IsEmpty());

@@ -1,6 +1,7 @@
 // The options with rules of their own: record and playback, the skip boxes, the vertical display.
 #include "ui/panel/option_rules.h"
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 #include "ui/pickers/file_picker.h"
 
@@ -32,7 +33,7 @@ class OptionRulesTest : public PanelTest {
 };
 
 TEST_F(OptionRulesTest, RecordIsRedAndBoldAndExcludesPlayback) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   CheckBox* const record = Check(panel, "chkRecord");
   CheckBox* const playback = Check(panel, "chkPlayback");
   const auto look = [&] {
@@ -59,7 +60,7 @@ TEST_F(OptionRulesTest, RecordIsRedAndBoldAndExcludesPlayback) {
 
 TEST_F(OptionRulesTest, AMissingFolderOfRecordingsIsToldAndPlaybackStaysOff) {
   std::filesystem::remove_all(drive_.Host(R"(C:\Emu\Mame\INP)"));
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   Press(Check(panel, "chkPlayback"));
   EXPECT_THAT(TakeBoxes(),
               ElementsAre("! There is no folder with recordings:|C:\\Emu\\Mame\\INP|Record a game "
@@ -69,7 +70,7 @@ TEST_F(OptionRulesTest, AMissingFolderOfRecordingsIsToldAndPlaybackStaysOff) {
 
 // It is no field of the record: a record leaves it, a game without one clears it.
 TEST_F(OptionRulesTest, PlaybackStaysFromGameToGameWithARecord) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   Press(panel.imgButSet);
   PressEntry(panel.games->lstRom, 3);
   PressEntry(panel.games->lstRom, 0);  // both have a record now
@@ -86,7 +87,7 @@ TEST_F(OptionRulesTest, PlaybackStaysFromGameToGameWithARecord) {
 }
 
 TEST_F(OptionRulesTest, AGameThatRecordsByTheDefaultsEndsThePlayback) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   Press(panel.imgButSet);
   Check(panel, "chkRecord")->SetValue(1);
   panel.SaveSettings("[DEFAULT]");
@@ -113,9 +114,10 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
       {Qt::Key_Shift, "", Qt::ShiftModifier, "0"},  {Qt::Key_Period, ".", Qt::NoModifier, "0"},
       {Qt::Key_Return, "\r", Qt::NoModifier, "0"},  {Qt::Key_F1, "", Qt::NoModifier, "0"},
   };
-  const EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  const EmulatorPanel& panel = OpenConfigured(kMame);
   for (const bool is_row : {false, true}) {
-    TextBox* const box = panel.picSettings->Option(is_row ? "txtSkipR" : "txtSkipC").text;
+    TextBox* const box =
+        panel.picSettings->Option(OptionIndex(kMame, is_row ? "txtSkipR" : "txtSkipC")).text;
     const std::string refusal =
         std::string(is_row ? "! [Warning!] " : "! ") +
         "Format not valid!  |You must enter only 0-9 or|optionally '-' for negative values";
@@ -146,8 +148,8 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
 }
 
 TEST_F(OptionRulesTest, TheVerticalDisplayOpensItsList) {
-  PutSettings(Emulator::kM72, "\"Dragon Breed\",\"C:\\r\",1,0,1,0,0,0,0,0,1,0\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kM72);
+  PutSettings(kM72, "\"Dragon Breed\",\"C:\\r\",1,0,1,0,0,0,0,0,1,0\r\n");
+  EmulatorPanel& panel = OpenConfigured(kM72);
   ComboBox* const modes = Combo(panel, "cboVR");
   EXPECT_FALSE(modes->Enabled());
   modes->SetListIndex(1);

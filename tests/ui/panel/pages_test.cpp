@@ -1,4 +1,5 @@
 // The pages of a panel, the selection cycle, and what is saved and loaded at each step.
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 
 namespace zarvo {
@@ -25,20 +26,20 @@ TEST_F(PagesTest, EveryButtonButSettingsSavesTheCurrentGameBeforeItTurnsThePage)
       {&EmulatorPanel::imgButSet, "settings", false},
       {&EmulatorPanel::imgButSet, "settings", false},
   };
-  for (const EmulatorProfile& profile : Profiles()) {
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    EmulatorPanel& panel = OpenConfigured(emulator);
     for (const Case& at : cases) {
-      SCOPED_TRACE(std::string(profile.word) + " " + at.pages);
-      std::filesystem::remove(drive_.Host(SetPath(profile.emulator)));
+      SCOPED_TRACE(std::string(emulator.word) + " " + at.pages);
+      std::filesystem::remove(drive_.Host(SetPath(emulator)));
       Press(panel.*at.button);
       EXPECT_EQ(Pages(panel), at.pages);
-      EXPECT_EQ(Keys(profile.emulator), at.saves ? Caption(panel) + "|" : "(none)");
+      EXPECT_EQ(Keys(emulator), at.saves ? Caption(panel) + "|" : "(none)");
     }
   }
 }
 
 TEST_F(PagesTest, AButtonSinksUnderTheMouse) {
-  const EmulatorPanel& panel = OpenConfigured(Emulator::kM72);
+  const EmulatorPanel& panel = OpenConfigured(kM72);
   int left = 2430;
   for (ImageBox* const button :
        {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
@@ -54,8 +55,8 @@ TEST_F(PagesTest, AButtonSinksUnderTheMouse) {
 // A selection moves the caption on every page, and with it the controls of the settings page.
 TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
   const std::string store = "\"Bubble Bobble\",\"C:\\Own\",4,0,0,1,0\r\n";
-  PutSettings(Emulator::kRaine, store);
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  PutSettings(kRaine, store);
+  EmulatorPanel& panel = OpenConfigured(kRaine);
   ListBox* const list = panel.games->lstRom;
   for (ImageBox* const button :
        {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
@@ -65,14 +66,14 @@ TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
     EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Rainbow Islands 0 C:\Emu\Raine\Roms)");
     PressEntry(list, 0);
     EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Bubble Bobble 4 C:\Own)");
-    PutSettings(Emulator::kRaine, store);
+    PutSettings(kRaine, store);
   }
 }
 
 // Behind an empty line no record is found; the next game must not inherit this one's options.
 TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
-  PutSettings(Emulator::kCallus, "\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kCallus);
+  PutSettings(kCallus, "\r\n");
+  EmulatorPanel& panel = OpenConfigured(kCallus);
   Press(panel.imgButSet);
   Combo(panel, "cboHR")->SetListIndex(4);
   Press(panel.imgButInfo);
@@ -81,20 +82,20 @@ TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
 }
 
 TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  EmulatorPanel& panel = OpenConfigured(kRaine);
   ListBox* const list = panel.games->lstRom;
   for (ImageBox* const button :
        {panel.imgButSnap, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
     Press(button);
-    std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
+    std::filesystem::remove(drive_.Host(SetPath(kRaine)));
     PressEntry(list, 1);
     PressEntry(list, 0);
-    EXPECT_EQ(Keys(Emulator::kRaine), "(none)") << Pages(panel);
+    EXPECT_EQ(Keys(kRaine), "(none)") << Pages(panel);
   }
   Press(panel.imgButSet);
   Combo(panel, "cboScreenMode")->SetListIndex(2);
   PressEntry(list, 1);
-  EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)),
+  EXPECT_EQ(drive_.Read(SetPath(kRaine)),
             "\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",2,0,0,0,0\r\n");
   EXPECT_EQ(Mode(panel), 0) << "no record: the defaults";
   Combo(panel, "cboScreenMode")->SetListIndex(5);
@@ -103,7 +104,7 @@ TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
   EXPECT_EQ(Mode(panel), 5);
   PressEntry(list, 0);
   EXPECT_EQ(Mode(panel), 2);
-  EXPECT_EQ(Keys(Emulator::kRaine), "Bubble Bobble|Rainbow Islands|");
+  EXPECT_EQ(Keys(kRaine), "Bubble Bobble|Rainbow Islands|");
 }
 
 TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
@@ -124,10 +125,10 @@ TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
   for (const bool empty_caption : {false, true}) {
     for (const Case& at : cases) {
       SCOPED_TRACE(at.store + (empty_caption ? ", empty caption" : ""));
-      EmulatorPanel& panel = OpenConfigured(Emulator::kCallus, at.favourites);
-      std::filesystem::remove(drive_.Host(SetPath(Emulator::kCallus)));
+      EmulatorPanel& panel = OpenConfigured(kCallus, at.favourites);
+      std::filesystem::remove(drive_.Host(SetPath(kCallus)));
       if (!at.store.empty()) {
-        PutSettings(Emulator::kCallus, at.store + ",0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0\r\n");
+        PutSettings(kCallus, at.store + ",0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0\r\n");
       }
       if (empty_caption) {
         panel.favourites->lstPref->SetItems(panel.favourites->lstPref->Items());
@@ -144,21 +145,20 @@ TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
 // What a panel shows before any record was read.
 TEST_F(PagesTest, StartValues) {
   struct Case {
-    Emulator emulator;
+    const Emulator& emulator;
     std::string record;
     std::string empty_folder;  // the rom folder while none is configured
   };
   const Case cases[] = {
-      {Emulator::kMame,
-       R"(0,0,0,0,1,1,0,0,0,0,"0","0",14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0)",
+      {kMame, R"(0,0,0,0,1,1,0,0,0,0,"0","0",14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0)",
        R"(C:\emu\mame\roms)"},
-      {Emulator::kCallus, "10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0", ""},
-      {Emulator::kRaine, "0,0,0,0,0", ""},
-      {Emulator::kSystem16, "2,2,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,1,0", ""},
-      {Emulator::kM72, "0,0,0,0,0,0,0,0,1,0", ""},
+      {kCallus, "10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0", ""},
+      {kRaine, "0,0,0,0,0", ""},
+      {kSystem16, "2,2,0,0,0,1,0,0,0,0,0,0,0,1,0,0,0,1,0", ""},
+      {kM72, "0,0,0,0,0,0,0,0,1,0", ""},
   };
   for (const Case& at : cases) {
-    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    SCOPED_TRACE(at.emulator.word);
     EmulatorPanel& panel = Open(at.emulator);
     TakeBoxes();
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.empty_folder);
@@ -169,35 +169,35 @@ TEST_F(PagesTest, StartValues) {
 }
 
 TEST_F(PagesTest, ApplyToAllAsksThenLeavesTheDefaultRecordAlone) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    EmulatorPanel& panel = OpenConfigured(emulator);
     Press(panel.imgButInfo);
     Press(panel.imgButSet);
-    const std::string before = drive_.Read(SetPath(profile.emulator));
+    const std::string before = drive_.Read(SetPath(emulator));
     const std::string question =
         "? This will:|1) Erase all the previously saved configurations|2) Apply the current "
         "settings to all the games||Are you sure?";
     boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kYes};
     Press(panel.picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question));
-    EXPECT_EQ(drive_.Read(SetPath(profile.emulator)), before);
+    EXPECT_EQ(drive_.Read(SetPath(emulator)), before);
     Press(panel.picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question, "i Default configurations saved!"));
-    EXPECT_EQ(Keys(profile.emulator), "[DEFAULT]|");
+    EXPECT_EQ(Keys(emulator), "[DEFAULT]|");
     Press(panel.imgButInfo);
-    EXPECT_EQ(Keys(profile.emulator), "[DEFAULT]|" + Caption(panel) + "|");
+    EXPECT_EQ(Keys(emulator), "[DEFAULT]|" + Caption(panel) + "|");
   }
 }
 
 TEST_F(PagesTest, WithoutAGameTheEmptyCaptionIsSavedAndNothingBreaks) {
   PutData("Raine", DataHead("0"));
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  EmulatorPanel& panel = OpenConfigured(kRaine);
   EXPECT_EQ(Caption(panel), "");
   for (ImageBox* const button : {panel.imgButInfo, panel.imgButSet, panel.imgButHelp}) {
     Press(button);
   }
-  EXPECT_EQ(Keys(Emulator::kRaine), "|");
+  EXPECT_EQ(Keys(kRaine), "|");
   Press(panel.imgButSnap);
   EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
 }

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/key_press.h"
 #include "fakes/modal.h"
@@ -82,23 +83,23 @@ class PanelTest : public testing::Test {
     drive_.Write(R"(C:\Zarvo\Data\)" + std::string(word) + ".dat", bytes);
   }
   // A configuration file in which the emulator stands in C:\Emu\<word>, with these favourites.
-  void PutCfg(Emulator emulator, const std::vector<std::string>& favourites = {},
+  void PutCfg(const Emulator& emulator, const std::vector<std::string>& favourites = {},
               std::string_view layout_word = "up") {
-    const std::string word(ProfileOf(emulator).word);
+    const std::string word(emulator.word);
     const std::string folder = R"(C:\Emu\)" + word;
     drive_.Write(CfgPath(emulator),
                  Lines({folder + "\\" + word + ".exe", folder + R"(\Roms)", R"(C:\Snaps)", "GIF",
                         folder, std::string(layout_word)}) +
                      Lines(favourites));
   }
-  void PutSettings(Emulator emulator, std::string_view bytes) {
+  void PutSettings(const Emulator& emulator, std::string_view bytes) {
     drive_.Write(SetPath(emulator), bytes);
   }
-  static std::string CfgPath(Emulator emulator) {
-    return R"(C:\Zarvo\cfg\)" + std::string(ProfileOf(emulator).word) + ".cfg";
+  static std::string CfgPath(const Emulator& emulator) {
+    return R"(C:\Zarvo\cfg\)" + std::string(emulator.word) + ".cfg";
   }
-  static std::string SetPath(Emulator emulator) {
-    return R"(C:\Zarvo\cfg\)" + std::string(ProfileOf(emulator).word) + ".set";
+  static std::string SetPath(const Emulator& emulator) {
+    return R"(C:\Zarvo\cfg\)" + std::string(emulator.word) + ".set";
   }
   static std::string Lines(const std::vector<std::string>& values) {
     std::string text;
@@ -106,7 +107,7 @@ class PanelTest : public testing::Test {
     return text;
   }
   // The keys of a settings store, in its order and with "|" behind each; "(none)" without a store.
-  [[nodiscard]] std::string Keys(Emulator emulator) const {
+  [[nodiscard]] std::string Keys(const Emulator& emulator) const {
     if (!drive_.Exists(SetPath(emulator))) return "(none)";
     std::string keys;
     for (const std::string& line : Split(drive_.Read(SetPath(emulator)))) {
@@ -123,12 +124,12 @@ class PanelTest : public testing::Test {
     return parts;
   }
 
-  EmulatorPanel& Open(Emulator emulator) {
-    sections_.OpenSection(ProfileOf(emulator));
+  EmulatorPanel& Open(const Emulator& emulator) {
+    sections_.OpenSection(emulator);
     return sections_.Panel(emulator);
   }
   // With a configuration file, so that no message comes.
-  EmulatorPanel& OpenConfigured(Emulator emulator,
+  EmulatorPanel& OpenConfigured(const Emulator& emulator,
                                 const std::vector<std::string>& favourites = {}) {
     PutCfg(emulator, favourites);
     return Open(emulator);
@@ -154,7 +155,7 @@ class PanelTest : public testing::Test {
     ClickMouse(list->viewport(), list->EntryRect(index).center());
   }
   static ComboBox* Combo(const EmulatorPanel& panel, std::string_view name) {
-    return panel.picSettings->Option(name).combo;
+    return panel.picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).combo;
   }
   // The game in the caption, what a combo of its settings shows, and its rom folder.
   static std::string Current(const EmulatorPanel& panel, std::string_view combo) {
@@ -162,7 +163,7 @@ class PanelTest : public testing::Test {
            panel.picSettings->txtRomPath->Text();
   }
   static CheckBox* Check(const EmulatorPanel& panel, std::string_view name) {
-    return panel.picSettings->Option(name).check;
+    return panel.picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).check;
   }
 
   TempDrive drive_;

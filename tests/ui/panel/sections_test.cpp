@@ -1,6 +1,7 @@
 // Opening and closing the five sections.
 #include "ui/panel/sections.h"
 
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 #include "ui/pickers/file_picker.h"
 
@@ -18,19 +19,19 @@ class SectionsTest : public PanelTest {
 
 TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
   struct Case {
-    Emulator emulator;
+    const Emulator& emulator;
     std::vector<std::string> favourites;
     std::string shown;  // the game; the counts of the favourites, the games, the total, where shown
   };
   const Case cases[] = {
-      {Emulator::kMame, {}, "Aliens 0 5 200"},
-      {Emulator::kCallus, {"Strider", "Final Fight"}, "Final Fight 2 3 50"},
-      {Emulator::kRaine, {}, "Bubble Bobble 0 2 30"},
-      {Emulator::kSystem16, {"Shinobi"}, "Shinobi 1 20"},
-      {Emulator::kM72, {}, "Battle Chopper 12"},
+      {kMame, {}, "Aliens 0 5 200"},
+      {kCallus, {"Strider", "Final Fight"}, "Final Fight 2 3 50"},
+      {kRaine, {}, "Bubble Bobble 0 2 30"},
+      {kSystem16, {"Shinobi"}, "Shinobi 1 20"},
+      {kM72, {}, "Battle Chopper 12"},
   };
   for (const Case& at : cases) {
-    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    SCOPED_TRACE(at.emulator.word);
     const EmulatorPanel& panel = OpenConfigured(at.emulator, at.favourites);
     std::string shown = Caption(panel);
     for (const Label* const count :
@@ -40,42 +41,41 @@ TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
     EXPECT_EQ(shown, at.shown);
     EXPECT_EQ(Pages(panel), "img snap");
     EXPECT_TRUE(panel.isVisible());
-    EXPECT_EQ(app_.lblHideEmuSelect, ProfileOf(at.emulator).section_word);
+    EXPECT_EQ(app_.lblHideEmuSelect, at.emulator.SectionWord());
     EXPECT_EQ(app_.ShowWord(at.emulator), "SI");
     EXPECT_EQ(Keys(at.emulator), "(none)") << "opening saves nothing";
   }
 }
 
 TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + std::string(profile.data_file)));
-    sections_.OpenSection(profile);
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + std::string(emulator.DataFile())));
+    sections_.OpenSection(emulator);
     EXPECT_THAT(TakeBoxes(),
                 ElementsAre("! Warning! It could not be found the data-file in the directory "
                             "</data>|Without this file you have no access to this section!|The "
                             "last release of this data-file can be downloaded from "
                             "http://zarvo.example/"));
     EXPECT_EQ(app_.lblHideEmuSelect, "HIDE");
-    EXPECT_EQ(app_.ShowWord(profile.emulator), "NO");
-    EXPECT_EQ(sections_.Find(profile.emulator), nullptr);
+    EXPECT_EQ(app_.ShowWord(emulator), "NO");
+    EXPECT_EQ(sections_.Find(emulator), nullptr);
   }
 }
 
 // The box comes up after the first game was selected; Callus, Raine and System16 stand on the
 // screen by then if they have no favourites.
 TEST_F(SectionsTest, WithoutAConfigurationFileItSaysSoOnTheConfigurationPage) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    const bool is_mame_or_m72 =
-        profile.emulator == Emulator::kMame || profile.emulator == Emulator::kM72;
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    const bool is_mame_or_m72 = emulator == kMame || emulator == kM72;
     boxes_.on_show = [&] {
-      const EmulatorPanel& panel = sections_.Panel(profile.emulator);
+      const EmulatorPanel& panel = sections_.Panel(emulator);
       EXPECT_EQ(panel.isVisible(), !is_mame_or_m72);
       EXPECT_NE(Caption(panel), "");
-      EXPECT_EQ(app_.ShowWord(profile.emulator), "NO");
+      EXPECT_EQ(app_.ShowWord(emulator), "NO");
     };
-    EmulatorPanel& panel = Open(profile.emulator);
+    EmulatorPanel& panel = Open(emulator);
     EXPECT_EQ(TakeBoxes(), std::vector{std::string(kNoCfg)});
     EXPECT_EQ(Pages(panel), "img conf");
     EXPECT_TRUE(panel.isVisible());
@@ -90,12 +90,12 @@ TEST_F(SectionsTest, WithoutAConfigurationFileItSaysSoOnTheConfigurationPage) {
 }
 
 TEST_F(SectionsTest, EnteringAnOpenSectionBringsTheWholeListBackAndKeepsPageAndSize) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   panel.games->cboFilterGenre->SetListIndex(7);  // Labyrinth
   ASSERT_EQ(Entries(panel.games->lstRom), "Puck Man");
   panel.sizes->Short();
   Press(panel.imgButInfo);
-  Open(Emulator::kMame);
+  Open(kMame);
   EXPECT_EQ(panel.games->lstRom->ListCount(), 5);
   EXPECT_EQ(panel.games->lblRomCount->Caption(), "5");
   EXPECT_EQ(panel.games->cboFilterGenre->Text(), "Labyrinth");
@@ -103,8 +103,8 @@ TEST_F(SectionsTest, EnteringAnOpenSectionBringsTheWholeListBackAndKeepsPageAndS
   EXPECT_EQ(Pages(panel), "info");
   EXPECT_EQ(panel.Window::Width(), 2415);
   // No configuration file any more: its page comes up over the one on show.
-  std::filesystem::remove(drive_.Host(CfgPath(Emulator::kMame)));
-  Open(Emulator::kMame);
+  std::filesystem::remove(drive_.Host(CfgPath(kMame)));
+  Open(kMame);
   EXPECT_EQ(TakeBoxes(), std::vector{std::string(kNoCfg)});
   EXPECT_EQ(Pages(panel), "conf");
 }
@@ -112,50 +112,50 @@ TEST_F(SectionsTest, EnteringAnOpenSectionBringsTheWholeListBackAndKeepsPageAndS
 TEST_F(SectionsTest, ClosingSavesPathsAndTheCurrentGameAndReopeningStartsOver) {
   for (const bool by_desktop : {false, true}) {
     SCOPED_TRACE(by_desktop);
-    EmulatorPanel& panel = OpenConfigured(Emulator::kCallus, {"Strider"});
-    std::filesystem::remove(drive_.Host(CfgPath(Emulator::kCallus)));
+    EmulatorPanel& panel = OpenConfigured(kCallus, {"Strider"});
+    std::filesystem::remove(drive_.Host(CfgPath(kCallus)));
     Press(panel.imgButSet);
     Combo(panel, "cboHR")->SetListIndex(3);
     by_desktop ? static_cast<void>(panel.close()) : Press(panel.cmdExit);
-    EXPECT_EQ(app_.ShowWord(Emulator::kCallus), "NO");
-    EXPECT_EQ(sections_.Find(Emulator::kCallus), nullptr);
-    EXPECT_EQ(drive_.Read(CfgPath(Emulator::kCallus)),
+    EXPECT_EQ(app_.ShowWord(kCallus), "NO");
+    EXPECT_EQ(sections_.Find(kCallus), nullptr);
+    EXPECT_EQ(drive_.Read(CfgPath(kCallus)),
               "\"C:\\Emu\\Callus\\Callus.exe\"\r\n\"C:\\Emu\\Callus\\Roms\"\r\n\"C:\\Snaps\"\r\n"
               "\"GIF\"\r\n\"C:\\Emu\\Callus\"\r\n\"up\"\r\n\"Strider\"\r\n");
-    EXPECT_EQ(Keys(Emulator::kCallus), "Strider|");
-    EXPECT_THAT(drive_.Read(SetPath(Emulator::kCallus)),
+    EXPECT_EQ(Keys(kCallus), "Strider|");
+    EXPECT_THAT(drive_.Read(SetPath(kCallus)),
                 testing::StartsWith(R"("Strider","C:\Emu\Callus\Roms",3,0,)"));
     DropClosed();
-    EXPECT_EQ(Pages(Open(Emulator::kCallus)), "img snap");
+    EXPECT_EQ(Pages(Open(kCallus)), "img snap");
   }
 }
 
 TEST_F(SectionsTest, TheEndOfTheProgramSavesOpenPanelsInOrderAndALayoutClosesThem) {
-  OpenConfigured(Emulator::kM72);
-  OpenConfigured(Emulator::kMame);
-  OpenConfigured(Emulator::kRaine);
-  Press(sections_.Panel(Emulator::kRaine).cmdExit);
-  drive_.Write(SetPath(Emulator::kRaine), "");
+  OpenConfigured(kM72);
+  OpenConfigured(kMame);
+  OpenConfigured(kRaine);
+  Press(sections_.Panel(kRaine).cmdExit);
+  drive_.Write(SetPath(kRaine), "");
   sections_.SaveOpenPanels();
-  EXPECT_EQ(Keys(Emulator::kMame), "Aliens|");
-  EXPECT_EQ(Keys(Emulator::kM72), "Battle Chopper|");
-  EXPECT_EQ(Keys(Emulator::kRaine), "") << "a closed panel is left alone";
-  EXPECT_EQ(app_.ShowWord(Emulator::kMame), "SI");
+  EXPECT_EQ(Keys(kMame), "Aliens|");
+  EXPECT_EQ(Keys(kM72), "Battle Chopper|");
+  EXPECT_EQ(Keys(kRaine), "") << "a closed panel is left alone";
+  EXPECT_EQ(app_.ShowWord(kMame), "SI");
 
-  EXPECT_EQ(sections_.PanelPlace(Emulator::kMame), (TwipRect{3950, 400, 6345, 7260}));
-  sections_.SetPanelPlace(Emulator::kMame, {100, 200, 2415, 4620});
-  EXPECT_EQ(sections_.PanelPlace(Emulator::kMame), (TwipRect{100, 200, 2415, 4620}));
-  EXPECT_EQ(sections_.PanelPlace(Emulator::kRaine), std::nullopt);
+  EXPECT_EQ(sections_.PanelPlace(kMame), (TwipRect{3950, 400, 6345, 7260}));
+  sections_.SetPanelPlace(kMame, {100, 200, 2415, 4620});
+  EXPECT_EQ(sections_.PanelPlace(kMame), (TwipRect{100, 200, 2415, 4620}));
+  EXPECT_EQ(sections_.PanelPlace(kRaine), std::nullopt);
   sections_.CloseOpenPanels();
-  EXPECT_EQ(app_.ShowWord(Emulator::kMame), "NO");
-  EXPECT_EQ(sections_.Find(Emulator::kM72), nullptr);
+  EXPECT_EQ(app_.ShowWord(kMame), "NO");
+  EXPECT_EQ(sections_.Find(kM72), nullptr);
 }
 
 // One box for each file, whose old content stays.
 TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
-  PutSettings(Emulator::kRaine, "\"old\",\"C:\\\",0,0,0,0,0\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
-  const std::string old_cfg = drive_.Read(CfgPath(Emulator::kRaine));
+  PutSettings(kRaine, "\"old\",\"C:\\\",0,0,0,0,0\r\n");
+  EmulatorPanel& panel = OpenConfigured(kRaine);
+  const std::string old_cfg = drive_.Read(CfgPath(kRaine));
   files_.Fail(FileStep::kReplace, "");
   const std::vector<std::string> both = {"! Raine.cfg: No space left on device",
                                          "! Raine.set: No space left on device"};
@@ -170,7 +170,7 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   Press(panel.cmdExit);
   EXPECT_FALSE(sections_.CloseOpenPanels());
   EXPECT_THAT(TakeBoxes(), ElementsAre(lost, lost));
-  EXPECT_EQ(app_.ShowWord(Emulator::kRaine), "SI");
+  EXPECT_EQ(app_.ShowWord(kRaine), "SI");
   boxes_.answers = {BoxAnswer::kLeave};
   EXPECT_TRUE(sections_.SaveOpenPanels());
   sections_.SaveWithoutQuestions();
@@ -181,31 +181,31 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   const ModalPlay<FilePicker> play([](FilePicker& picker) { picker.UnloadWindow(); });
   PressKey(panel.games->lstRom, Qt::Key_Return);
   EXPECT_THAT(TakeBoxes(), ElementsAre(both[0], testing::StartsWith("! [Warning! - No EXE")));
-  EXPECT_EQ(drive_.Read(CfgPath(Emulator::kRaine)), old_cfg);
-  EXPECT_EQ(Keys(Emulator::kRaine), "old|");
+  EXPECT_EQ(drive_.Read(CfgPath(kRaine)), old_cfg);
+  EXPECT_EQ(Keys(kRaine), "old|");
   boxes_.answers = {BoxAnswer::kRetry};
   boxes_.on_show = [this] { files_.Heal(); };  // there is room again
   Press(panel.cmdExit);
   boxes_.on_show = {};
   EXPECT_THAT(TakeBoxes(), ElementsAre(lost));
-  EXPECT_EQ(app_.ShowWord(Emulator::kRaine), "NO");
-  EXPECT_NE(Keys(Emulator::kRaine), "old|");
+  EXPECT_EQ(app_.ShowWord(kRaine), "NO");
+  EXPECT_NE(Keys(kRaine), "old|");
 }
 
 // Told once, and what is there is read by the next panel.
 TEST_F(SectionsTest, AFileThatCantBeReadKeepsWhatItHolds) {
   constexpr std::string_view kStays =
       " stays as it is, and what you change isn't saved in it until it can be read.";
-  PutCfg(Emulator::kMame, {"Zaxxon", "Aliens"});
-  PutSettings(Emulator::kMame, "\"Puck Man\",\"C:\\Mine\"\r\n");
-  const std::string cfg = drive_.Read(CfgPath(Emulator::kMame));
-  const std::string set = drive_.Read(SetPath(Emulator::kMame));
+  PutCfg(kMame, {"Zaxxon", "Aliens"});
+  PutSettings(kMame, "\"Puck Man\",\"C:\\Mine\"\r\n");
+  const std::string cfg = drive_.Read(CfgPath(kMame));
+  const std::string set = drive_.Read(SetPath(kMame));
   const auto box = [&](const std::string& file) {
     return "! " + file + ": Input/output error|" + file + std::string(kStays);
   };
   files_.Fail(FileStep::kOpen, "Mame.cfg", "Input/output error");
   files_.Fail(FileStep::kOpen, "Mame.set", "Input/output error");
-  EmulatorPanel& panel = Open(Emulator::kMame);
+  EmulatorPanel& panel = Open(kMame);
   EXPECT_THAT(TakeBoxes(), ElementsAre(box("Mame.cfg"), box("Mame.set")));
   panel.games->lstRom->SetListIndex(3);
   Press(panel.imgButInfo);
@@ -214,19 +214,19 @@ TEST_F(SectionsTest, AFileThatCantBeReadKeepsWhatItHolds) {
   Press(panel.picSettings->cmdDirRomDefault);  // reads the file's first lines, not its favourites
   Press(panel.imgButHelp);
   Press(panel.cmdExit);
-  EXPECT_EQ(drive_.Read(CfgPath(Emulator::kMame)), cfg);
-  EXPECT_EQ(drive_.Read(SetPath(Emulator::kMame)), set);
+  EXPECT_EQ(drive_.Read(CfgPath(kMame)), cfg);
+  EXPECT_EQ(drive_.Read(SetPath(kMame)), set);
 
-  EmulatorPanel& again = Open(Emulator::kMame);
+  EmulatorPanel& again = Open(kMame);
   EXPECT_EQ(again.favourites->lstPref->ListCount(), 2);
   again.favourites->Add("Metal Slug");
   Press(again.cmdExit);
-  EXPECT_NE(drive_.Read(CfgPath(Emulator::kMame)), cfg);
+  EXPECT_NE(drive_.Read(CfgPath(kMame)), cfg);
 }
 
 TEST_F(SectionsTest, AStartThatCantReadTheOtherGamesRecordKeepsThisOnesSaves) {
-  PutSettings(Emulator::kRaine, "\"x\",\"C:\\\"\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine, {"Bubble Bobble"});
+  PutSettings(kRaine, "\"x\",\"C:\\\"\r\n");
+  EmulatorPanel& panel = OpenConfigured(kRaine, {"Bubble Bobble"});
   files_.Fail(FileStep::kOpen, "Raine.set", "Input/output error", 0);
   const ModalPlay<FilePicker> play([](FilePicker& picker) { picker.UnloadWindow(); });
   panel.lblRomSettings->SetCaption("Rainbow Islands");
@@ -235,7 +235,7 @@ TEST_F(SectionsTest, AStartThatCantReadTheOtherGamesRecordKeepsThisOnesSaves) {
                                        testing::StartsWith("! [Warning! - No EXE")));
   files_.Heal();
   Press(panel.imgButInfo);
-  EXPECT_EQ(Keys(Emulator::kRaine), "x|Rainbow Islands|");
+  EXPECT_EQ(Keys(kRaine), "x|Rainbow Islands|");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Sizes and arrangements of the panels, and the colours of their buttons. All numbers are twips.
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 
 namespace zarvo {
@@ -32,17 +33,17 @@ class SizesTest : public PanelTest {
 
 TEST_F(SizesTest, TheArrowFlipsTheListsInTheLargeSize) {
   struct Case {
-    Emulator emulator;
+    const Emulator& emulator;
     std::string columns;
     std::string combos;
     std::string combos_up;
   };
-  const Case cases[] = {{Emulator::kMame, "2", " combos 120 1710 all", " combos 90 1690 all"},
-                        {Emulator::kCallus, "2", " combos 120 1680 all", " combos 90 1660 all"},
-                        {Emulator::kRaine, "3", " combos 120 1680 all", " combos 90 1660 all"},
-                        {Emulator::kSystem16, "2", "", ""}};
+  const Case cases[] = {{kMame, "2", " combos 120 1710 all", " combos 90 1690 all"},
+                        {kCallus, "2", " combos 120 1680 all", " combos 90 1660 all"},
+                        {kRaine, "3", " combos 120 1680 all", " combos 90 1660 all"},
+                        {kSystem16, "2", "", ""}};
   for (const Case& at : cases) {
-    SCOPED_TRACE(ProfileOf(at.emulator).word);
+    SCOPED_TRACE(at.emulator.word);
     EmulatorPanel& panel = OpenConfigured(at.emulator);
     const std::string up = "up (down) 3820 90 6165 2" + at.combos_up;
     const bool combos = !at.combos.empty();
@@ -76,8 +77,8 @@ TEST_F(SizesTest, TheArrowFlipsTheListsInTheLargeSize) {
 }
 
 TEST_F(SizesTest, M72IsMiddleOrShortAndKeepsItsWord) {
-  PutCfg(Emulator::kM72, {}, "down");
-  EmulatorPanel& panel = Open(Emulator::kM72);
+  PutCfg(kM72, {}, "down");
+  EmulatorPanel& panel = Open(kM72);
   EXPECT_EQ(Size(panel), middle_);
   Press(panel.sizes->cmdShort);
   Press(panel.sizes->cmdLarge);
@@ -86,20 +87,20 @@ TEST_F(SizesTest, M72IsMiddleOrShortAndKeepsItsWord) {
   EXPECT_EQ(Size(panel), middle_);
   EXPECT_EQ(panel.favourites->lstPref->Height(), 3825);
   panel.SaveCfg();
-  EXPECT_EQ(Split(drive_.Read(CfgPath(Emulator::kM72)))[5], "\"down\"");
+  EXPECT_EQ(Split(drive_.Read(CfgPath(kM72)))[5], "\"down\"");
 }
 
 TEST_F(SizesTest, TheLogoDocksThePanelBesideTheMainWindow) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    EmulatorPanel& panel = OpenConfigured(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    SCOPED_TRACE(emulator.word);
+    EmulatorPanel& panel = OpenConfigured(emulator);
     const auto place = [&] { return std::pair(panel.Left(), panel.Top()); };
     EXPECT_EQ(place(), std::pair(3950, 400));
     main_.SetMainPlace(900, 1200);
     panel.sizes->Short();
     const std::pair docked(4650, 900);
     ClickMouse(panel.logo);
-    EXPECT_EQ(place(), profile.emulator == Emulator::kRaine ? docked : std::pair(3950, 400));
+    EXPECT_EQ(place(), emulator == kRaine ? docked : std::pair(3950, 400));
     DoubleClickMouse(panel.logo);
     EXPECT_EQ(place(), docked);
     EXPECT_EQ(Size(panel), short_);
@@ -114,7 +115,7 @@ TEST_F(SizesTest, TheLogoDocksThePanelBesideTheMainWindow) {
 
 // The mouse lights a button up, and each of its neighbours puts it back to rest.
 TEST_F(SizesTest, ButtonsLightUpUnderTheMouseAndTheirNeighboursResetThem) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   const ConfPage& conf = *panel.picConf;
   const SettingsPage& settings = *panel.picSettings;
   const PanelSizes& sizes = *panel.sizes;

@@ -1,4 +1,5 @@
 // The start of a game from a panel, and the pickers that a panel opens.
+#include "fakes/emulators.h"
 #include "ui/panel/panel_fixture.h"
 #include "ui/pickers/file_picker.h"
 #include "ui/pickers/folder_picker.h"
@@ -14,10 +15,10 @@ class StartTest : public PanelTest {
  protected:
   // The emulator's program and own rom folder, and an archive in the configured rom folder,
   // C:\Emu\<Emu>\Roms.
-  void PutEmulator(Emulator emulator, std::string_view rom) {
-    const std::string word(ProfileOf(emulator).word);
+  void PutEmulator(const Emulator& emulator, std::string_view rom) {
+    const std::string word(emulator.word);
     drive_.Write(R"(C:\Emu\)" + word + R"(\)" + word + ".exe", "");
-    drive_.MakeFolder(R"(C:\Emu\)" + word + std::string(ProfileOf(emulator).rom_sub_folder));
+    drive_.MakeFolder(R"(C:\Emu\)" + word + std::string(emulator.rom_sub_folder));
     drive_.Write(R"(C:\Emu\)" + word + R"(\Roms\)" + std::string(rom) + ".zip", "archive");
   }
   static void Enter(ListBox* list) { PressKey(list, Qt::Key_Return); }
@@ -28,23 +29,23 @@ class StartTest : public PanelTest {
 
 TEST_F(StartTest, EnterAndDoubleClickRunTheBatchFile) {
   struct Case {
-    Emulator emulator;
+    const Emulator& emulator;
     const char* rom;
     std::string arguments;
   };
   const Case cases[] = {
-      {Emulator::kMame, "aliens", " aliens -ignorecfg -soundcard 1"},
-      {Emulator::kCallus, "1941",
+      {kMame, "aliens", " aliens -ignorecfg -soundcard 1"},
+      {kCallus, "1941",
        " 1941 -resv 640 480 -res 640 480 -frameskip AUTO -sndrate 22050 -setinput 1 KEY1"
        " -setinput 2 KEY1 -setinput 3 KEY1 -setinput 4 KEY1"},
-      {Emulator::kRaine, "bublbobl",
+      {kRaine, "bublbobl",
        " -game bublbobl -nogui -screenmode 0 -screenx 320 -screeny 200 -joystick -1"},
-      {Emulator::kSystem16, "aurail",
+      {kSystem16, "aurail",
        " aurail -RX 320 -RY 240 -SCANLINES -NOTITLE -SOUNDCARD 0 -R 22050 -JOYTYPE 3"},
-      {Emulator::kM72, "bchopper", " bchopper -r 22050"},
+      {kM72, "bchopper", " bchopper -r 22050"},
   };
   for (const Case& at : cases) {
-    const std::string word(ProfileOf(at.emulator).word);
+    const std::string word(at.emulator.word);
     SCOPED_TRACE(word);
     PutEmulator(at.emulator, at.rom);
     EmulatorPanel& panel = OpenConfigured(at.emulator);
@@ -69,17 +70,17 @@ TEST_F(StartTest, EnterAndDoubleClickRunTheBatchFile) {
 // Enter takes the stored record over unsaved changes; the first press of a double click on the
 // settings page has saved them.
 TEST_F(StartTest, TheStoredRecordRuns) {
-  PutEmulator(Emulator::kRaine, "bublbobl");
-  PutSettings(Emulator::kRaine, "\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",4,0,0,0,0\r\n");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine);
+  PutEmulator(kRaine, "bublbobl");
+  PutSettings(kRaine, "\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",4,0,0,0,0\r\n");
+  EmulatorPanel& panel = OpenConfigured(kRaine);
   Press(panel.imgButSet);
   ComboBox* const mode = Combo(panel, "cboScreenMode");
   mode->SetListIndex(1);
-  std::filesystem::remove(drive_.Host(CfgPath(Emulator::kRaine)));
+  std::filesystem::remove(drive_.Host(CfgPath(kRaine)));
   Enter(panel.games->lstRom);
   EXPECT_THAT(runs_, ElementsAre(testing::HasSubstr("-screenmode VB2B")));
   EXPECT_EQ(mode->ListIndex(), 4);
-  EXPECT_TRUE(drive_.Exists(CfgPath(Emulator::kRaine)));
+  EXPECT_TRUE(drive_.Exists(CfgPath(kRaine)));
   mode->SetListIndex(1);
   DoubleClick(panel.games->lstRom);
   EXPECT_THAT(runs_.back(), testing::HasSubstr("-screenmode VGA"));
@@ -99,14 +100,14 @@ TEST_F(StartTest, AnotherGameBorrowsTheControls) {
       {R"("Rainbow Islands","C:\Emu\Raine\Roms",6,0,0,0,0)", "-screenmode VB3"},
       {R"("[DEFAULT]","C:\Emu\Raine\Roms",7,0,0,0,0)", "-screenmode VBAF"},
   };
-  PutEmulator(Emulator::kRaine, "rainbow");
-  EmulatorPanel& panel = OpenConfigured(Emulator::kRaine, {"Rainbow Islands"});
+  PutEmulator(kRaine, "rainbow");
+  EmulatorPanel& panel = OpenConfigured(kRaine, {"Rainbow Islands"});
   Press(panel.imgButSet);
   PressEntry(panel.games->lstRom, 0);
   for (const Case& at : cases) {
     SCOPED_TRACE(at.store);
-    std::filesystem::remove(drive_.Host(SetPath(Emulator::kRaine)));
-    if (!at.store.empty()) PutSettings(Emulator::kRaine, at.store + "\r\n");
+    std::filesystem::remove(drive_.Host(SetPath(kRaine)));
+    if (!at.store.empty()) PutSettings(kRaine, at.store + "\r\n");
     Combo(panel, "cboScreenMode")->SetListIndex(2);
     panel.picSettings->txtRomPath->SetText(R"(C:\Mine)");
     runs_.clear();
@@ -114,36 +115,42 @@ TEST_F(StartTest, AnotherGameBorrowsTheControls) {
     EXPECT_THAT(runs_, ElementsAre(testing::HasSubstr(at.runs_with)));
     EXPECT_EQ(Current(panel, "cboScreenMode"), R"(Bubble Bobble 2 C:\Mine)");
     if (!at.store.empty()) {
-      EXPECT_EQ(drive_.Read(SetPath(Emulator::kRaine)), at.store + "\r\n");
+      EXPECT_EQ(drive_.Read(SetPath(kRaine)), at.store + "\r\n");
     }
   }
 }
 
 TEST_F(StartTest, EnterWithoutAGame) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
-  std::filesystem::remove(drive_.Host(CfgPath(Emulator::kMame)));
+  EmulatorPanel& panel = OpenConfigured(kMame);
+  std::filesystem::remove(drive_.Host(CfgPath(kMame)));
   Enter(panel.favourites->lstPref);
-  EXPECT_FALSE(drive_.Exists(CfgPath(Emulator::kMame))) << "it ends at once";
-  PutEmulator(Emulator::kMame, "aliens");
+  EXPECT_FALSE(drive_.Exists(CfgPath(kMame))) << "it ends at once";
+  PutEmulator(kMame, "aliens");
   panel.games->Fill(GameState::kAllSupported);
   panel.TakeEmulator(R"(C:\Emu\Mame\Mame.exe)", R"(C:\Emu\Mame)");
   Enter(panel.games->lstRom);
   EXPECT_THAT(TakeBoxes(), ElementsAre(StartsWith("! This rom was not found")));
-  EXPECT_TRUE(drive_.Exists(CfgPath(Emulator::kMame)));
+  EXPECT_TRUE(drive_.Exists(CfgPath(kMame)));
   EXPECT_THAT(runs_, IsEmpty());
 }
 
 TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
-  const char* const searches[] = {"Aliens (aliens.zip)", "1941 (1941.zip)",
-                                  "Bubble Bobble (bublbobl.zip)", "Aurail (aurail.zip)",
-                                  "Battle Chopper (bchopper.zip)"};
+  const struct {
+    const Emulator& emulator;
+    const char* search;
+  } all[] = {{kMame, "Aliens (aliens.zip)"},
+             {kCallus, "1941 (1941.zip)"},
+             {kRaine, "Bubble Bobble (bublbobl.zip)"},
+             {kSystem16, "Aurail (aurail.zip)"},
+             {kM72, "Battle Chopper (bchopper.zip)"}};
   drive_.MakeFolder(R"(C:\Found)");
-  for (const EmulatorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.word);
-    const std::string word(profile.section_word);
-    const bool is_raine = profile.emulator == Emulator::kRaine;
+  for (const auto& [which, search] : all) {
+    const Emulator& emulator = which;
+    SCOPED_TRACE(emulator.word);
+    const std::string word(emulator.SectionWord());
+    const bool is_raine = emulator == kRaine;
     const auto enter = [&]() -> EmulatorPanel& {
-      EmulatorPanel& panel = OpenConfigured(profile.emulator);
+      EmulatorPanel& panel = OpenConfigured(emulator);
       Enter(panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref);
       return panel;
     };
@@ -153,7 +160,7 @@ TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
         shown = picker.lblSelExeHide + " " + picker.txtShowFiltri->Text() + " " + picker.Caption();
         picker.cmdCancel->click();
       });
-      EXPECT_EQ(Pages(enter()), profile.emulator == Emulator::kSystem16 ? "snap conf" : "conf");
+      EXPECT_EQ(Pages(enter()), emulator == kSystem16 ? "snap conf" : "conf");
     }
     EXPECT_THAT(TakeBoxes(),
                 ElementsAre(std::string(is_raine ? "! [Warning! - No EXE found!] " : "! ") +
@@ -162,7 +169,7 @@ TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
     EXPECT_EQ(shown, word + " *.exe Emulator's Full Path");
 
     sections_.CloseOpenPanels();
-    PutEmulator(profile.emulator, "other");
+    PutEmulator(emulator, "other");
     const ModalPlay<FolderPicker> play([&](FolderPicker& picker) {
       shown = picker.lblSelDirHide + " " + picker.Caption() + " at " + picker.dirSelDir->Path();
       EXPECT_THAT(picker.Caption(), testing::HasSubstr("(" + picker.txtPattern->Text() + ")"));
@@ -170,22 +177,21 @@ TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
       picker.cmdSeleziona->click();
     });
     const EmulatorPanel& panel = enter();
-    EXPECT_EQ(Pages(panel), profile.emulator == Emulator::kMame ? "settings" : "snap settings");
+    EXPECT_EQ(Pages(panel), emulator == kMame ? "settings" : "snap settings");
     EXPECT_THAT(TakeBoxes(),
                 ElementsAre(std::string(is_raine ? "! [Warning! - No Rom found!] " : "! ") +
                             "Rom not found in the specified directory!||1) Check if the path is "
                             "correct!|2) Check if you have the rom!|3) Check if it has the right "
                             "name!"));
-    EXPECT_EQ(shown, word + "SETTINGS Search Rom for " +
-                         searches[static_cast<int>(profile.emulator)] + R"( at C:\Emu\)" +
-                         std::string(profile.word) + R"(\Roms)");
+    EXPECT_EQ(shown, word + "SETTINGS Search Rom for " + search +
+                         R"( at C:\Emu\)" + std::string(emulator.word) + R"(\Roms)");
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Found)");
     EXPECT_THAT(runs_, IsEmpty());
   }
 }
 
 TEST_F(StartTest, TheRomPickerOfTheSettingsPageKnowsTheParentsOfMame) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kMame);
+  EmulatorPanel& panel = OpenConfigured(kMame);
   const char* const captions[] = {"Search Rom for Aliens (aliens.zip)",
                                   "Search Rom for Aliens (JP) (aliensj.zip;aliens.zip)",
                                   "Search Rom for Metal Slug (mslug.zip)"};
@@ -206,7 +212,7 @@ TEST_F(StartTest, TheRomPickerOfTheSettingsPageKnowsTheParentsOfMame) {
 // Where the pickers of the configuration page open. Q is no drive.
 TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
   struct Case {
-    Emulator emulator;
+    const Emulator& emulator;
     Label* ConfPage::*button;
     const char* cfg;  // the lines of the configuration file
     std::string shown;
@@ -215,19 +221,19 @@ TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
   const auto roms = &ConfPage::cmdSelDir;
   const auto snaps = &ConfPage::cmdDirSnap;
   const Case cases[] = {
-      {Emulator::kMame, exe, "C:\\Emu\\a.exe", "MAME *.exe C:\\Emu"},
-      {Emulator::kMame, exe, "C:\\No\\a.exe", "MAME *.exe here"},
-      {Emulator::kM72, exe, "|", "M72 *.exe here"},
+      {kMame, exe, "C:\\Emu\\a.exe", "MAME *.exe C:\\Emu"},
+      {kMame, exe, "C:\\No\\a.exe", "MAME *.exe here"},
+      {kM72, exe, "|", "M72 *.exe here"},
       // The drive is that of the rom folder, or that of the executable.
-      {Emulator::kMame, roms, "Q:\\a.exe|C:\\Emu", "MAMEROM *.zip C:\\Emu"},
-      {Emulator::kRaine, roms, "Q:\\a.exe|C:\\Emu", "RAINEROM *.zip here"},
+      {kMame, roms, "Q:\\a.exe|C:\\Emu", "MAMEROM *.zip C:\\Emu"},
+      {kRaine, roms, "Q:\\a.exe|C:\\Emu", "RAINEROM *.zip here"},
       // Some have a second folder to look at.
-      {Emulator::kCallus, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "CALLUSROM *.zip here"},
-      {Emulator::kM72, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "M72ROM *.zip C:\\Emu\\Ziproms"},
+      {kCallus, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "CALLUSROM *.zip here"},
+      {kM72, roms, "C:\\a.exe|C:\\No||GIF|C:\\Emu", "M72ROM *.zip C:\\Emu\\Ziproms"},
       // The drive is that of the emulator, or that of the snaps.
-      {Emulator::kMame, snaps, "||C:\\Emu|GIF|Q:\\m", "MAMESNAP *.gif here"},
-      {Emulator::kSystem16, snaps, "||C:\\Emu|JPG|Q:\\m", "SYSTEM16SNAP *.jpg C:\\Emu"},
-      {Emulator::kCallus, snaps, "||C:\\No|BMP||", "CALLUSSNAP *.bmp here"},
+      {kMame, snaps, "||C:\\Emu|GIF|Q:\\m", "MAMESNAP *.gif here"},
+      {kSystem16, snaps, "||C:\\Emu|JPG|Q:\\m", "SYSTEM16SNAP *.jpg C:\\Emu"},
+      {kCallus, snaps, "||C:\\No|BMP||", "CALLUSSNAP *.bmp here"},
   };
   drive_.MakeFolder(R"(C:\Emu\Ziproms)");
   for (const Case& at : cases) {
@@ -260,19 +266,19 @@ TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
 
 // What a picker writes reaches the controls, and the configuration file where it can be kept there.
 TEST_F(StartTest, WhatThePickersWrite) {
-  EmulatorPanel& panel = OpenConfigured(Emulator::kCallus);
-  sections_.SetRomFolder(Emulator::kCallus, R"(C:\R)");
-  sections_.SetSnapFolder(Emulator::kCallus, R"(C:\S)");
-  sections_.SetEmulator(Emulator::kCallus, R"(C:\E\c.exe)", R"(C:\E)");
-  sections_.SetGameRomFolder(Emulator::kCallus, R"(C:\G)");
-  sections_.SaveCfg(Emulator::kCallus);
-  EXPECT_EQ(drive_.Read(CfgPath(Emulator::kCallus)),
+  EmulatorPanel& panel = OpenConfigured(kCallus);
+  sections_.SetRomFolder(kCallus, R"(C:\R)");
+  sections_.SetSnapFolder(kCallus, R"(C:\S)");
+  sections_.SetEmulator(kCallus, R"(C:\E\c.exe)", R"(C:\E)");
+  sections_.SetGameRomFolder(kCallus, R"(C:\G)");
+  sections_.SaveCfg(kCallus);
+  EXPECT_EQ(drive_.Read(CfgPath(kCallus)),
             Lines({R"(C:\E\c.exe)", R"(C:\R)", R"(C:\S)", "GIF", R"(C:\E)", "up"}));
   EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
   const std::string odd[] = {R"(C:\a,b)", R"(C:\a~b)", R"(C:\)" + std::string(88, 'x')};
   for (const std::string& folder : odd) {
-    sections_.SetRomFolder(Emulator::kCallus, folder);
-    sections_.SetGameRomFolder(Emulator::kCallus, folder);
+    sections_.SetRomFolder(kCallus, folder);
+    sections_.SetGameRomFolder(kCallus, folder);
     EXPECT_EQ(TakeBoxes(), std::vector(2, "! " + folder +
                                               "|This folder can't be kept in the settings of a "
                                               "game. Please choose one without comma, tilde and "
@@ -281,7 +287,7 @@ TEST_F(StartTest, WhatThePickersWrite) {
     EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
   }
   const std::string longest = R"(C:\)" + std::string(87, 'x');
-  sections_.SetGameRomFolder(Emulator::kCallus, longest);
+  sections_.SetGameRomFolder(kCallus, longest);
   EXPECT_EQ(panel.picSettings->txtRomPath->Text(), longest);
 }
 

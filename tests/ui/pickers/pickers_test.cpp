@@ -15,27 +15,30 @@ namespace {
 // Panels that write down what a picker tells them.
 class RecordingPanels : public PickerPanels {
  public:
-  void SetRomFolder(Emulator emulator, std::string_view folder) override {
+  void SetRomFolder(const Emulator& emulator, std::string_view folder) override {
     Note("rom", emulator, folder);
   }
-  void SetSnapFolder(Emulator emulator, std::string_view folder) override {
+  void SetSnapFolder(const Emulator& emulator, std::string_view folder) override {
     Note("snap", emulator, folder);
   }
-  void SetGameRomFolder(Emulator emulator, std::string_view folder) override {
+  void SetGameRomFolder(const Emulator& emulator, std::string_view folder) override {
     Note("game", emulator, folder);
   }
-  void SetEmulator(Emulator emulator, std::string_view exe_path, std::string_view folder) override {
+  void SetEmulator(const Emulator& emulator, std::string_view exe_path,
+                   std::string_view folder) override {
     Note("exe", emulator, std::string(exe_path) + " in " + std::string(folder));
   }
-  void SetRecording(std::string_view file) override { told += "recording " + std::string(file); }
-  void ClearPlayback() override { told += "playback off"; }
-  void SaveCfg(Emulator emulator) override { Note("save", emulator, "."); }
+  void SetRecording(const Emulator& emulator, std::string_view file) override {
+    Note("recording", emulator, file);
+  }
+  void ClearPlayback(const Emulator& emulator) override { Note("playback", emulator, "off"); }
+  void SaveCfg(const Emulator& emulator) override { Note("save", emulator, "."); }
 
   std::string told;
 
  private:
-  void Note(const std::string& what, Emulator emulator, std::string_view value) {
-    told += what + " " + std::string(ProfileOf(emulator).word) + " " + std::string(value) + " ";
+  void Note(const std::string& what, const Emulator& emulator, std::string_view value) {
+    told += what + " " + std::string(emulator.word) + " " + std::string(value) + " ";
   }
 };
 
@@ -110,21 +113,20 @@ TEST_F(FilePickerTest, ADoubleClickOrEnterOnAFileChoosesIt) {
 }
 
 TEST_F(FilePickerTest, ARecordingIsChosenInItsFolderAlone) {
-  const auto picker = MakeFilePicker("");
+  const auto picker = MakeFilePicker("MAME");
   EXPECT_FALSE(picker->ChooseRecording(R"(C:\Emu\Raine\INP)"));
   EXPECT_EQ(picker->dirSelExe->Path(), R"(C:\Zarvo)") << "nothing changes";
   EXPECT_EQ(picker->Caption(), "Emulator's Full Path");
   EXPECT_EQ(picker->filSelExe->Pattern(), "*.exe");
   EXPECT_TRUE(picker->dirSelExe->Enabled());
   ASSERT_TRUE(picker->ChooseRecording(R"(C:\Emu\Mame\INP)"));
-  EXPECT_EQ(picker->lblSelExeHide, "MAME");
   EXPECT_EQ(picker->Caption(), "Choose the INP file");
   EXPECT_EQ(picker->txtShowFiltri->Text(), "*.inp");
   EXPECT_FALSE(picker->drvSelExe->Enabled() || picker->dirSelExe->Enabled());
   ASSERT_EQ(picker->filSelExe->ListCount(), 1);
   picker->filSelExe->SetListIndex(0);
   picker->cmdOk->click();
-  EXPECT_EQ(Told(), "recording puckman.inp") << "nothing is saved";
+  EXPECT_EQ(Told(), "recording Mame puckman.inp ") << "nothing is saved";
   EXPECT_TRUE(picker->IsUnloaded());
 }
 
@@ -141,7 +143,7 @@ TEST_F(FilePickerTest, GivingUpTurnsPlaybackOffOnlyForRecordings) {
       picker->ShowModeless();
       give_up(*picker);
       EXPECT_TRUE(picker->IsUnloaded());
-      EXPECT_EQ(Told(), recording ? "playback off" : "");
+      EXPECT_EQ(Told(), recording ? "playback Mame off " : "");
     }
   }
 }

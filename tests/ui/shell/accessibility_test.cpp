@@ -60,9 +60,8 @@ class AccessibilityTest : public PanelTest {
 };
 
 TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
-  for (const EmulatorProfile& profile : Profiles()) Visit(sections_.Panel(profile.emulator), 30);
-  MainWindow main(files_, app_, boxes_,
-                  [](const EmulatorProfile&) { return std::vector<std::string>(); },
+  for (const Emulator& emulator : Emulators()) Visit(sections_.Panel(emulator), 30);
+  MainWindow main(files_, app_, boxes_, [](const Emulator&) { return std::vector<std::string>(); },
                   {.sections = [this]() -> SectionHost& { return sections_; },
                    .show_layouts = [] {},
                    .show_about = [] {},

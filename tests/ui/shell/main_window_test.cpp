@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "core/catalogue/data_file.h"
+#include "fakes/emulators.h"
 #include "ui/layouts/layout_manager.h"
 #include "ui/panel/panel_fixture.h"
 
@@ -18,7 +19,7 @@ using testing::StartsWith;
 
 class MainWindowTest : public PanelTest {
  protected:
-  MainWindowTest() { drive_.Write(CfgPath(Emulator::kMame), "\"C:\\a.exe\"\r\n"); }
+  MainWindowTest() { drive_.Write(CfgPath(kMame), "\"C:\\a.exe\"\r\n"); }
 
   [[nodiscard]] std::string Facts() const {
     std::string all;
@@ -30,9 +31,7 @@ class MainWindowTest : public PanelTest {
            std::to_string(label->BackColor().value) + " " +
            std::to_string(label->ForeColor().value);
   }
-  Label* Selector(Emulator emulator) {
-    return window_.selector[static_cast<std::size_t>(emulator)];
-  }
+  Label* Selector(const Emulator& emulator) { return window_.selector[IndexOf(emulator)]; }
 
   std::vector<std::string> told_;
   std::function<void()> on_autoload_ = [] {};
@@ -41,7 +40,7 @@ class MainWindowTest : public PanelTest {
       files_,
       app_,
       boxes_,
-      [this](const EmulatorProfile& profile) { return ReadHeader(files_, app_, profile); },
+      [this](const Emulator& emulator) { return ReadHeader(files_, app_, emulator); },
       {.sections = [this]() -> SectionHost& { return sections_; },
        .show_layouts = [this] { told_.emplace_back("layouts"); },
        .show_about = [this] { told_.emplace_back("about"); },
@@ -120,9 +119,9 @@ TEST_F(MainWindowTest, TheTickerTurnsInARing) {
 
 TEST_F(MainWindowTest, TheEndAsksAndSavesWhatIsOpen) {
   window_.ShowModeless();
-  ClickMouse(Selector(Emulator::kMame));
+  ClickMouse(Selector(kMame));
   EXPECT_EQ(app_.lblHideEmuSelect, "MAME");
-  EXPECT_TRUE(sections_.Panel(Emulator::kMame).isVisible());
+  EXPECT_TRUE(sections_.Panel(kMame).isVisible());
   boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kNo, BoxAnswer::kYes};
   for (const bool by_desktop : {false, true, true}) {
     EXPECT_TRUE(window_.isVisible());
@@ -155,32 +154,32 @@ TEST_F(MainWindowTest, PlacesComeBackToTheTwipRoundAfterRound) {
 TEST_F(MainWindowTest, TheHoverReadsTheFactsAnewEachTime) {
   const std::string at_first = Facts();
   std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\Raine.dat)"));
-  MoveMouse(Selector(Emulator::kRaine));  // no data file: only its colours
+  MoveMouse(Selector(kRaine));  // no data file: only its colours
   EXPECT_EQ(Facts(), at_first);
-  EXPECT_EQ(Look(Selector(Emulator::kRaine)), "opaque 9398111 16777215");
+  EXPECT_EQ(Look(Selector(kRaine)), "opaque 9398111 16777215");
   const std::string head = "fact 1|fact 2|fact 3|fact 4|fact 5|fact 6|fact 7|";
   const std::string tail =
       "|fact 9|fact 10|fact 11|fact 12|fact 13|fact 14|fact 15|fact 16|fact 17";
   for (const char* const total : {"one", "two"}) {
     PutData("Mame", DataHead(total) + Game("Aliens;aliens;O;-;x;y;1990"));
-    MoveMouse(Selector(Emulator::kMame));
+    MoveMouse(Selector(kMame));
     EXPECT_EQ(Facts(), head + total + tail);
   }
-  EXPECT_THAT(Look(Selector(Emulator::kRaine)), AllOf(StartsWith("clear"), EndsWith(" 13538452")));
+  EXPECT_THAT(Look(Selector(kRaine)), AllOf(StartsWith("clear"), EndsWith(" 13538452")));
   MoveMouse(&window_);
   EXPECT_EQ(Facts(), head + "two" + tail) << "they stay when the mouse leaves";
 
   PutData("Mame", "Game;first;\r\n*header\r\n");
-  MoveMouse(Selector(Emulator::kMame));
+  MoveMouse(Selector(kMame));
   EXPECT_EQ(Facts(), head + "two" + tail);
   PutData("Mame", "\r\n*new 1\r\n#new 2\r\n\r\n");
-  MoveMouse(Selector(Emulator::kMame));
+  MoveMouse(Selector(kMame));
   EXPECT_THAT(Facts(), StartsWith("new 1|new 2||fact 4|")) << "a cut header";
 }
 
 TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
-  for (const EmulatorProfile& profile : Profiles()) {
-    Label* const label = Selector(profile.emulator);
+  for (const Emulator& emulator : Emulators()) {
+    Label* const label = Selector(emulator);
     PressMouse(label, {3, 3});
     EXPECT_EQ(label->ForeColor().value, 65535U);
     ReleaseMouse(label, {-50, -50});  // elsewhere: no click
@@ -213,10 +212,10 @@ TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
 
   const auto opaque_after = [&](QWidget* over) {
     std::string still;
-    for (const EmulatorProfile& profile : Profiles()) {
-      MoveMouse(Selector(profile.emulator));
+    for (const Emulator& emulator : Emulators()) {
+      MoveMouse(Selector(emulator));
       MoveMouse(over);
-      if (Look(Selector(profile.emulator)).starts_with("opaque")) still += profile.word;
+      if (Look(Selector(emulator)).starts_with("opaque")) still += emulator.word;
     }
     return still;
   };
@@ -226,8 +225,8 @@ TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
 }
 
 TEST_F(MainWindowTest, TheBackgroundResetsTheClearLabelsOfOpenPanels) {
-  ClickMouse(Selector(Emulator::kMame));
-  Label* const clear = sections_.Panel(Emulator::kMame).favourites->lblClearFav;
+  ClickMouse(Selector(kMame));
+  Label* const clear = sections_.Panel(kMame).favourites->lblClearFav;
   MoveMouse(clear);
   ASSERT_EQ(Look(clear), "opaque 16576 65535");
   MoveMouse(&window_);

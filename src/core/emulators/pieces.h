@@ -1,35 +1,9 @@
-// What a command line is made of: one piece of text for every option, in the order of the line.
+// The words in which an emulator's file says the pieces of its command line.
 #pragma once
 
-#include <cstddef>
-#include <span>
-#include <string>
-#include <string_view>
-
-#include "core/launch/command_line.h"
-#include "core/launch/option_table.h"
+#include "core/emulators/command.h"
 
 namespace zarvo {
-
-enum class PieceRule {
-  kOn,     // a check box: the word while it is on
-  kOff,    // a check box: the word while it is off
-  kIndex,  // a list: the word, then the one of `words` at its index; an empty one says nothing
-  kText,   // a text box: the word, then the text, unless that is "0"
-  kMade,   // a check box: what `make` gives while it is on
-};
-
-// Says nothing unless its rule does. Every word begins with its blank.
-struct Piece {
-  PieceRule rule = PieceRule::kOn;
-  std::size_t option = 0;  // index in the option table
-  std::string_view word = {};
-  std::span<const std::string_view> words = {};
-  int silent = -1;                       // the index of a list that says nothing
-  std::string_view without_choice = {};  // the whole piece of a list without a selection
-  bool (*applies)(const OptionValues&) = nullptr;
-  std::string (*make)(const CommandInput&) = nullptr;
-};
 
 constexpr Piece On(std::size_t option, std::string_view word) {
   return {.rule = PieceRule::kOn, .option = option, .word = word};
@@ -69,18 +43,6 @@ constexpr Piece When(bool (*applies)(const OptionValues&), Piece piece) {
   piece.applies = applies;
   return piece;
 }
-
-struct CommandTable {
-  std::string_view before_rom = " ";  // between the emulator's path and the rom name
-  std::string_view behind_rom = {};
-  std::span<const Piece> pieces;
-};
-
-CommandTable MameCommand();
-CommandTable CallusCommand();
-CommandTable RaineCommand();
-CommandTable System16Command();
-CommandTable M72Command();
 
 // True if every option has exactly one piece, and every list a word for each item.
 constexpr bool SpeakForAll(std::span<const Piece> pieces, std::span<const OptionSpec> options) {

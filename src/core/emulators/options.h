@@ -1,4 +1,4 @@
-// The options of each emulator: one declaration for every option, read by the settings page, the
+// The options of an emulator: one declaration for every option, read by the settings page, the
 // defaults, the stored record, the presets and the command line.
 #pragma once
 
@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "core/emulators/emulator_profile.h"
 #include "core/platform/twips.h"
 
 namespace zarvo {
@@ -30,17 +29,13 @@ struct OptionSpec {
   std::optional<int> preset = {};  // set when the settings page is entered, before the load
   bool stored = true;              // a field of the record; else only cleared with it
   bool enabled_at_start = true;
-  int most_characters = 0;      // of a text box; 0: no limit
+  int most_characters = 0;  // of a text box; 0: no limit
+  bool is_number = false;   // a text box that takes a whole number alone
+  // Of the message about any other key; empty: the program's title.
+  std::string_view wrong_key_title = {};
   TwipRect place = {};          // on the settings page
   TwipRect caption_place = {};  // of the label of a combo or text box
 };
-
-// The options of an emulator in the order of their fields in the stored record; those that aren't
-// stored stand last. The rom folder, field 2 of every record, is no row of the table.
-std::span<const OptionSpec> OptionsOf(Emulator emulator);
-
-// Index of an option by its name; the count of options if the emulator has none of that name.
-std::size_t OptionIndex(Emulator emulator, std::string_view name);
 
 // What a control of the settings page holds.
 struct OptionValue {
@@ -54,9 +49,5 @@ struct OptionValues {
   std::string rom_folder;
   std::vector<OptionValue> values;
 };
-
-// All options at their defaults; the rom folder is `configured`, or the profile's own if that is
-// empty.
-OptionValues DefaultValues(const EmulatorProfile& profile, std::string_view configured);
 
 }  // namespace zarvo

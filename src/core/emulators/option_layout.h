@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "core/launch/option_table.h"
+#include "core/emulators/options.h"
 #include "core/platform/twips.h"
 
 namespace zarvo {
@@ -19,7 +19,7 @@ struct Span {
 };
 
 // A list or text box with its small label in front of it.
-struct Field {
+struct LabelledBox {
   Span label;
   Span box;
 };
