@@ -8,8 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core/catalogue/game_list.h"
-#include "core/catalogue/scan.h"
+#include "core/catalogue/catalogue.h"
 #include "core/launch/settings_store.h"
 #include "core/platform/dos_world.h"
 #include "fakes/emulators.h"
@@ -48,7 +47,7 @@ class Site {
     for (const char* folder : {"Zarvo/Data", "Zarvo/cfg"}) {
       std::filesystem::create_directories(root_ / folder);
     }
-    app.ProgramFolder = R"(C:\Zarvo)";
+    folders.ProgramFolder = R"(C:\Zarvo)";
   }
   ~Site() {
     std::error_code ignored;
@@ -88,7 +87,7 @@ class Site {
  public:
   DosWorld world;
   UnflushedWorld unflushed;
-  AppState app;
+  ProgramFolders folders;
   const Emulator& mame = kMame;
 };
 
@@ -120,7 +119,7 @@ bool MeasureLookUp(Site& site, BarePass& pass, const std::vector<std::string>& n
                   .measured =
                       [&] {
                         const auto found =
-                            FindRecord(site.world, site.app, site.mame, names.back());
+                            Catalogue(site.world, site.folders, site.mame).Find(names.back());
                         Check(found && found->field_count == kFieldCount, "find the last game");
                       }});
 }
@@ -133,7 +132,7 @@ bool MeasureFill(Site& site, BarePass& pass, int games, GameState state, std::st
                   .bare = [&] { pass.CountLines(site.DataFile()); },
                   .measured =
                       [&] {
-                        FillList(site.world, site.app, site.mame, state, list);
+                        Catalogue(site.world, site.folders, site.mame).Fill(state, list);
                         Check(list.Count() > 0 && list.Count() <= games, "fill the list");
                       }});
 }
@@ -141,7 +140,7 @@ bool MeasureFill(Site& site, BarePass& pass, int games, GameState state, std::st
 bool MeasureFilter(Site& site, BarePass& pass, int games, ValueFilter filter,
                    std::string_view value, std::string_view name) {
   NameList all;
-  FillList(site.world, site.app, site.mame, GameState::kAllSupported, all);
+  Catalogue(site.world, site.folders, site.mame).Fill(GameState::kAllSupported, all);
   Check(all.Count() == games, "fill the list for the filter");
   NameList list = all;
   return Measure({.name = name,
@@ -150,7 +149,7 @@ bool MeasureFilter(Site& site, BarePass& pass, int games, ValueFilter filter,
                   .bare = [&] { pass.CountLines(site.DataFile()); },
                   .measured =
                       [&] {
-                        FilterList(site.world, site.app, site.mame, filter, value, list);
+                        Catalogue(site.world, site.folders, site.mame).Filter(filter, value, list);
                         Check(list.Count() > 0, "keep games");
                       },
                   .reset = [&] { list = all; }});
@@ -160,7 +159,8 @@ bool MeasureScan(Site& site, BarePass& pass, int games, bool flush) {
   site.PutArchives();
   DosWorld& files = flush ? site.world : site.unflushed;
   const auto scan = [&] {
-    const auto outcome = ScanRoms(files, site.app, site.mame, kRomFolder, SetType::kMerged);
+    const auto outcome =
+        Catalogue(files, site.folders, site.mame).Scan(kRomFolder, SetType::kMerged);
     Check(outcome && outcome->written && outcome->found > 0, "scan");
   };
   scan();
@@ -195,9 +195,8 @@ bool MeasureSave(Site& site, BarePass& /*pass*/, const std::vector<std::string>&
                       },
                   .measured =
                       [&] {
-                        Store stored = SettingsStoreOf(site.world, site.app, site.mame);
-                        Check(SaveSettings(stored, site.mame, names.back(), values).ok(),
-                              "save a record");
+                        SettingsStore stored(site.world, site.folders, site.mame);
+                        Check(stored.Save(names.back(), values).ok(), "save a record");
                       }});
 }
 

@@ -29,14 +29,14 @@ CfgValues ValuesOf(const CfgFields& fields) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemoryFiles files;
-  AppState app;
-  app.ProgramFolder = R"(C:\Zarvo)";
+  ProgramFolders folders;
+  folders.ProgramFolder = R"(C:\Zarvo)";
   files.Put(R"(C:\Zarvo\cfg\Mame.cfg)", std::string(reinterpret_cast<const char*>(data), size));
   const Emulator& mame = kMame;
-  Store store = CfgStoreOf(files, app, mame);
-  const CfgValues values = ValuesOf(ReadCfg(store, mame));
-  if (!WriteCfg(store, mame, values)) std::abort();
-  const CfgFields again = ReadCfg(store, mame);
+  CfgFile store(files, folders, mame);
+  const CfgValues values = ValuesOf(store.Read();
+  if (!store.Write(values)) std::abort();
+  const CfgFields again = store.Read();
   if (!again.favourites || *again.favourites != values.favourites) std::abort();
   if (CanBeWritten(values.exe_path) && again.exe_path != values.exe_path) std::abort();
   return 0;

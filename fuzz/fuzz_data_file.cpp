@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "core/catalogue/game_list.h"
-#include "core/catalogue/scan.h"
+#include "core/catalogue/catalogue.h"
 #include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
@@ -16,24 +15,24 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-void CheckLists(MemoryFiles& files, const AppState& app, const Emulator& mame) {
+void CheckLists(MemoryFiles& files, const ProgramFolders& folders, const Emulator& mame) {
   for (const GameState state : {GameState::kAllSupported, GameState::kOriginals, GameState::kClones,
                                 GameState::kNoNeoGeo, GameState::kNeoGeo}) {
     NameList list;
-    Require(FillList(files, app, mame, state, list) == FillResult::kFilled);
+    Require(Catalogue(files, folders, mame).Fill(state, list) == FillResult::kFilled);
     const int filled = list.Count();
-    FilterList(files, app, mame, ValueFilter::kGenre, "Action", list);
-    FilterList(files, app, mame, ValueFilter::kYear, "1999", list);
+    Catalogue(files, folders, mame).Filter(ValueFilter::kGenre, "Action", list);
+    Catalogue(files, folders, mame).Filter(ValueFilter::kYear, "1999", list);
     Require(list.Count() <= filled);
   }
   Require(!files.Has(R"(C:\Zarvo\Data\tofilter.tmp)"));
 }
 
-void CheckLookUps(MemoryFiles& files, const AppState& app, const Emulator& mame) {
+void CheckLookUps(MemoryFiles& files, const ProgramFolders& folders, const Emulator& mame) {
   NameList list;
-  FillList(files, app, mame, GameState::kAllSupported, list);
+  Catalogue(files, folders, mame).Fill(GameState::kAllSupported, list);
   for (int i = 0; i < list.Count() && i < 20; ++i) {
-    const auto record = FindRecord(files, app, mame, list.At(i));
+    const auto record = Catalogue(files, folders, mame).Find(list.At(i));
     if (list.At(i).empty()) {
       Require(!record);
     } else {
@@ -46,21 +45,21 @@ void CheckLookUps(MemoryFiles& files, const AppState& app, const Emulator& mame)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemoryFiles files;
-  AppState app;
-  app.ProgramFolder = R"(C:\Zarvo)";
+  ProgramFolders folders;
+  folders.ProgramFolder = R"(C:\Zarvo)";
   const Emulator& mame = kMame;
   files.PutFolder(R"(C:\Zarvo\cfg)");
   files.Put(R"(C:\Roms\rom.zip)", "");
   files.Put(R"(C:\Zarvo\Data\Mame.dat)", std::string(reinterpret_cast<const char*>(data), size));
-  Require(ReadHeader(files, app, mame).size() <= kHeaderLines);
-  Require(ReadDataTotal(files, app, mame).file_opened);
-  CheckLists(files, app, mame);
-  CheckLookUps(files, app, mame);
+  Require(Catalogue(files, folders, mame).Header().size() <= kHeaderLines);
+  Require(Catalogue(files, folders, mame).Total().file_opened);
+  CheckLists(files, folders, mame);
+  CheckLookUps(files, folders, mame);
   for (const SetType sets : {SetType::kSplit, SetType::kMerged}) {
-    const auto outcome = ScanRoms(files, app, mame, R"(C:\Roms)", sets);
+    const auto outcome = Catalogue(files, folders, mame).Scan(R"(C:\Roms)", sets);
     Require(outcome && outcome->written);
     NameList found;
-    FillList(files, app, mame, GameState::kAvailable, found);
+    Catalogue(files, folders, mame).Fill(GameState::kAvailable, found);
     Require(found.Count() == std::min(outcome->found, kMostEntries));
   }
   return 0;

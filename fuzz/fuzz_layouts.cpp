@@ -34,15 +34,15 @@ bool SameOthers(LayoutStore& before, LayoutStore& after, std::string_view change
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  AppState app;
-  app.ProgramFolder = R"(C:\Zarvo)";
+  ProgramFolders folders;
+  folders.ProgramFolder = R"(C:\Zarvo)";
   const std::string text(reinterpret_cast<const char*>(data), size);
   MemoryFiles old_files;
   old_files.Put(R"(C:\Zarvo\layouts.dat)", text);
   old_files.Put(R"(C:\Zarvo\zarvo.ini)", text.substr(0, size / 2));
   MemoryFiles files = old_files;
-  LayoutStore before(old_files, app);
-  LayoutStore after(files, app);
+  LayoutStore before(old_files, folders);
+  LayoutStore after(files, folders);
   if (before.AutoloadRecords().size() > size) std::abort();
   if (!after.SaveBlock("Mine", kRecords)) std::abort();
   const auto saved = after.ReadBlock("Mine");

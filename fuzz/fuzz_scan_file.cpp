@@ -3,19 +3,19 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "core/catalogue/game_list.h"
+#include "core/catalogue/catalogue.h"
 #include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace zarvo;
   MemoryFiles files;
-  AppState app;
-  app.ProgramFolder = R"(C:\Zarvo)";
+  ProgramFolders folders;
+  folders.ProgramFolder = R"(C:\Zarvo)";
   files.Put(R"(C:\Zarvo\cfg\Mame.scn)", std::string(reinterpret_cast<const char*>(data), size));
   for (const GameState state : {GameState::kAvailable, GameState::kMissing}) {
     NameList list;
-    if (FillList(files, app, kMame, state, list) != FillResult::kFilled) {
+    if (Catalogue(files, folders, kMame).Fill(state, list) != FillResult::kFilled) {
       std::abort();
     }
     for (int i = 0; i < list.Count(); ++i) {

@@ -39,23 +39,23 @@ void CheckValues(const Emulator& emulator, const OptionValues& values) {
 
 void CheckEmulator(const Emulator& emulator, const std::string& store) {
   MemoryFiles files;
-  AppState app;
-  app.ProgramFolder = R"(C:\Zarvo)";
-  const std::string path = app.CfgFolder() + "\\" + std::string(emulator.SettingsFile());
+  ProgramFolders folders;
+  folders.ProgramFolder = R"(C:\Zarvo)";
+  const std::string path = folders.CfgFolder() + "\\" + std::string(emulator.SettingsFile());
   files.Put(path, store);
   OptionValues values = DefaultValues(emulator, "C:\\R");
-  Store stored = SettingsStoreOf(files, app, emulator);
-  LoadSettings(stored, app, emulator, kKey, values);
+  SettingsStore stored(files, folders, emulator);
+  stored.Load(kKey, values);
   CheckValues(emulator, values);
 
   const OptionValues defaults = DefaultValues(emulator, "C:\\R");
-  if (!SaveSettings(stored, emulator, kKey, defaults)) std::abort();
+  if (!stored.Save(kKey, defaults)) std::abort();
   bool blank = false;
   std::string before = OtherLines(store, blank);
   const std::string after = OtherLines(files.BytesOf(path), blank);
   if (after != before && after != before + "\r\n") std::abort();
   if (blank) return;
-  if (LoadSettings(stored, app, emulator, kKey, values) != LoadOutcome::kRecord ||
+  if (stored.Load(kKey, values) != LoadOutcome::kRecord ||
       RecordLine(emulator, kKey, values) != RecordLine(emulator, kKey, defaults)) {
     std::abort();
   }

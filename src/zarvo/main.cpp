@@ -19,7 +19,7 @@
 #include <set>
 #include <string>
 
-#include "core/catalogue/data_file.h"
+#include "core/catalogue/catalogue.h"
 #include "core/launch/launch_notes.h"
 #include "core/platform/child_process.h"
 #include "core/platform/dos_world.h"
@@ -60,11 +60,13 @@ class Program {
   explicit Program(DosWorld files)
       : files_(std::move(files)),
         main_(
-            files_, app_, boxes_,
-            [this](const Emulator& emulator) { return ReadHeader(files_, app_, emulator); },
+            files_, folders_, boxes_,
+            [this](const Emulator& emulator) {
+              return Catalogue(files_, folders_, emulator).Header();
+            },
             Actions()),
         sections_(
-            files_, app_, boxes_, main_,
+            files_, folders_, boxes_, main_,
             [this](std::string_view /*command_line*/) { return RunAndWait(); }, LocalTime) {}
 
   void SaveWithoutQuestions() { sections_.SaveWithoutQuestions(); }
@@ -80,7 +82,7 @@ class Program {
   MainActions Actions() {
     return {.sections = [this]() -> SectionHost& { return sections_; },
             .show_layouts = [this] { ShowLayouts(); },
-            .show_about = [this] { AboutWindow(app_, DesktopOpener()).ShowModal(); },
+            .show_about = [this] { AboutWindow(DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); },
@@ -88,7 +90,11 @@ class Program {
   }
 
   LayoutTools ToolsForLayouts() {
-    return {.files = files_, .app = app_, .boxes = boxes_, .sections = sections_, .main = main_};
+    return {.files = files_,
+            .folders = folders_,
+            .boxes = boxes_,
+            .sections = sections_,
+            .main = main_};
   }
 
   void ShowLayouts() {
@@ -102,7 +108,7 @@ class Program {
     const std::string question = LostOptions(plan);
     const std::string game = files_.CurrentFolder() + "\r" + plan.first_word + question;
     if (cut_off_.contains(game)) return true;
-    if (!boxes_.Ask(app_.Title(), question)) return false;
+    if (!boxes_.Ask(ProgramTitle(), question)) return false;
     cut_off_.insert(game);
     return true;
   }
@@ -121,7 +127,7 @@ class Program {
   }
 
   std::future<void> font_;
-  AppState app_;
+  ProgramFolders folders_;
   DosWorld files_;
   DesktopBoxes boxes_;
   MainWindow main_;
@@ -172,7 +178,7 @@ bool TakeFolder(QLockFile& lock) {
 
 int RunInFolder(QApplication& application, const std::string& folder) {
   const auto refuse = [](const std::string& reason) {
-    DesktopBoxes().Warn(AppState().Title(), reason);
+    DesktopBoxes().Warn(ProgramTitle(), reason);
     return EXIT_FAILURE;
   };
   auto files = DosWorld::ForProgramFolder(folder);
@@ -183,7 +189,7 @@ int RunInFolder(QApplication& application, const std::string& folder) {
                   "\r\rTwo at a time would undo each other's changes.");
   }
   if (const std::string& missing = files->MissingFolders(); !missing.empty()) {
-    DesktopBoxes().Warn(AppState().Title(), missing);
+    DesktopBoxes().Warn(ProgramTitle(), missing);
   }
   Program program(std::move(*files));
   running = &program;
@@ -206,8 +212,7 @@ std::optional<int> Answer(int argc, char** argv) {
     return EXIT_SUCCESS;
   }
   if (argc == 2 && word == "--version") {
-    const AppState app;
-    std::cout << app.ProgramName << ' ' << app.ProgramVersion << '\n';
+    std::cout << ProgramName << ' ' << ProgramVersion << '\n';
     return EXIT_SUCCESS;
   }
   std::cerr << "zarvo: it takes no argument \"" << word << "\"; --help tells more\n";
@@ -227,8 +232,7 @@ int Run(int argc, char** argv) {
   std::error_code failure;
   const std::string folder = std::filesystem::current_path(failure).string();
   if (failure) {
-    DesktopBoxes().Warn(AppState().Title(),
-                        "The current folder can't be read: " + failure.message());
+    DesktopBoxes().Warn(ProgramTitle(), "The current folder can't be read: " + failure.message());
     return EXIT_FAILURE;
   }
   return RunInFolder(application, folder);

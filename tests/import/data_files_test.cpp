@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "core/catalogue/game_list.h"
+#include "core/catalogue/catalogue.h"
 #include "core/platform/name_list.h"
 #include "core/platform/text.h"
 #include "fakes/emulators.h"

@@ -1,7 +1,8 @@
 // The data file of an emulator, `<Emu>.dat` in the folder Data: a header of 17 lines that begin
 // with "*", then one game a line, 21 fields each closed by a semicolon, sorted by name.
 //
-// Nothing of it is held in memory: every question opens the file and reads from its first line.
+// Nothing of it is held in memory: every question to a Catalogue opens the file and reads from its
+// first line.
 #pragma once
 
 #include <array>
@@ -11,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/emulators/app_state.h"
+#include "core/emulators/emulator.h"
 #include "core/platform/dos_files.h"
 #include "core/platform/line_reader.h"
 
@@ -60,8 +61,9 @@ std::optional<std::string_view> CutField(std::string_view& rest);
 // One record of an open data file after the other: blank lines, "#" and "*" lines are passed over.
 class RecordReader {
  public:
-  // Sets the current drive and folder to the folder Data and opens the file by its bare name.
-  static Result<RecordReader> Open(DosFiles& files, const AppState& app, const Emulator& emulator);
+  // Makes `data_folder` current and opens the emulator's file by its bare name.
+  static Result<RecordReader> Open(DosFiles& files, std::string_view data_folder,
+                                   const Emulator& emulator);
   // The next record's line, valid until the next call; false at the end of the file.
   bool Next(std::string_view& line);
   // True if the file could not be read to its end.
@@ -72,23 +74,8 @@ class RecordReader {
   LineReader lines_;
 };
 
-// The first record whose name is `name` exactly; nothing if there is none or no file. An empty name
-// is no name.
-std::optional<GameRecord> FindRecord(DosFiles& files, const AppState& app, const Emulator& emulator,
-                                     std::string_view name);
-
-// The header lines, each without its first character: kHeaderLines, fewer if the file ends inside
-// the header, none if there is no file or the first line that is neither blank nor a comment
-// doesn't begin with "*".
-std::vector<std::string> ReadHeader(DosFiles& files, const AppState& app, const Emulator& emulator);
-
-// What a panel's load finds for its total.
-struct DataTotal {
-  bool file_opened = false;
-  std::optional<std::string> total;  // header line 8; nothing if the file ends before it
-};
-
-// Header line 8, counted from the first line that begins with "*", whatever stands before it.
-DataTotal ReadDataTotal(DosFiles& files, const AppState& app, const Emulator& emulator);
+// As RecordReader::Open, for all lines.
+Result<LineReader> OpenDataFile(DosFiles& files, std::string_view data_folder,
+                                const Emulator& emulator);
 
 }  // namespace zarvo

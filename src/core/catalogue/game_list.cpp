@@ -1,9 +1,8 @@
-#include "core/catalogue/game_list.h"
-
+// The game list of a panel: one state of all games, and filter steps on it.
 #include <array>
 #include <string>
 
-#include "core/catalogue/scan.h"
+#include "core/catalogue/catalogue.h"
 
 namespace zarvo {
 namespace {
@@ -41,23 +40,6 @@ Verdict Judge(GameState state, std::string_view rest) {
   return InIf(original_or_clone.starts_with('C') && !neo_geo);
 }
 
-FillResult FillFromDataFile(DosFiles& files, const AppState& app, const Emulator& emulator,
-                            GameState state, NameList& list) {
-  if (state == GameState::kAllSupported) list.Clear();
-  auto records = RecordReader::Open(files, app, emulator);
-  if (!records) return FillResult::kNoDataFile;
-  list.Clear();
-  std::string_view line;
-  while (records->Next(line)) {
-    const auto name = CutField(line);
-    const Verdict verdict = name ? Judge(state, line) : Verdict::kCut;
-    if (verdict == Verdict::kCut) break;
-    if (verdict == Verdict::kIn) list.Append(*name);
-  }
-  list.Sort();
-  return FillResult::kFilled;
-}
-
 // Takes the first line off `text`, without its line end.
 std::string_view TakeLine(std::string_view& text) {
   const std::size_t end = text.find('\n');
@@ -70,21 +52,6 @@ std::string_view TakeLine(std::string_view& text) {
 // A line without the quotation marks round it, whatever stands in their place.
 std::string_view Unquote(std::string_view line) {
   return line.size() < 2 ? std::string_view() : line.substr(1, line.size() - 2);
-}
-
-FillResult FillFromScan(DosFiles& files, const AppState& app, const Emulator& emulator, char mark,
-                        NameList& list) {
-  if (!emulator.has_scan) return FillResult::kNoScanFile;
-  const auto scan = ScanStoreOf(files, app, emulator).Read();
-  if (!scan) return FillResult::kNoScanFile;
-  list.Clear();
-  for (std::string_view text = *scan; !text.empty();) {
-    const std::string_view entry = Unquote(TakeLine(text));
-    const std::size_t end = entry.find(';');
-    if (end != std::string_view::npos && entry.back() == mark) list.Append(entry.substr(0, end));
-  }
-  list.Sort();
-  return FillResult::kFilled;
 }
 
 int PlaceOf(ValueFilter filter) {
@@ -145,29 +112,57 @@ std::span<const std::string_view> ItemsOf(const Emulator& emulator, ValueFilter 
   return {};
 }
 
-FillResult FillList(DosFiles& files, const AppState& app, const Emulator& emulator, GameState state,
-                    NameList& list) {
+FillResult Catalogue::FillFromDataFile(GameState state, NameList& list) const {
+  if (state == GameState::kAllSupported) list.Clear();
+  auto records = Records();
+  if (!records) return FillResult::kNoDataFile;
+  list.Clear();
+  std::string_view line;
+  while (records->Next(line)) {
+    const auto name = CutField(line);
+    const Verdict verdict = name ? Judge(state, line) : Verdict::kCut;
+    if (verdict == Verdict::kCut) break;
+    if (verdict == Verdict::kIn) list.Append(*name);
+  }
+  list.Sort();
+  return FillResult::kFilled;
+}
+
+FillResult Catalogue::FillFromScan(char mark, NameList& list) const {
+  if (!emulator_.has_scan) return FillResult::kNoScanFile;
+  const auto scan = ScanStore().Read();
+  if (!scan) return FillResult::kNoScanFile;
+  list.Clear();
+  for (std::string_view text = *scan; !text.empty();) {
+    const std::string_view entry = Unquote(TakeLine(text));
+    const std::size_t end = entry.find(';');
+    if (end != std::string_view::npos && entry.back() == mark) list.Append(entry.substr(0, end));
+  }
+  list.Sort();
+  return FillResult::kFilled;
+}
+
+FillResult Catalogue::Fill(GameState state, NameList& list) const {
   switch (state) {
     case GameState::kAvailable:
-      return FillFromScan(files, app, emulator, kFoundMark, list);
+      return FillFromScan(kFoundMark, list);
     case GameState::kMissing:
-      return FillFromScan(files, app, emulator, kMissingMark, list);
+      return FillFromScan(kMissingMark, list);
     default:
-      return FillFromDataFile(files, app, emulator, state, list);
+      return FillFromDataFile(state, list);
   }
 }
 
-void FilterList(DosFiles& files, const AppState& app, const Emulator& emulator, ValueFilter filter,
-                std::string_view value, NameList& list) {
-  const auto items = ItemsOf(emulator, filter);
+void Catalogue::Filter(ValueFilter filter, std::string_view value, NameList& list) const {
+  const auto items = ItemsOf(emulator_, filter);
   if (items.empty() || value == items.front()) return;
-  auto records = RecordReader::Open(files, app, emulator);
+  auto records = Records();
   if (!records) return;
   const std::string names = KeptNames(*records, PlaceOf(filter), value, list);
   if (records->Failed()) return;
-  if (!files.WriteFile(kWorkFile, names)) return;
-  ReadWorkFile(files, list);
-  Ignore(files.DeleteFile(kWorkFile));
+  if (!files_.WriteFile(kWorkFile, names)) return;
+  ReadWorkFile(files_, list);
+  Ignore(files_.DeleteFile(kWorkFile));
 }
 
 }  // namespace zarvo

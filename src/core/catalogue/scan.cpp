@@ -1,10 +1,10 @@
-#include "core/catalogue/scan.h"
-
+// Which games of the data file the player really has: the scan of a rom folder.
 #include <optional>
 #include <unordered_set>
 #include <utility>
 #include <vector>
 
+#include "core/catalogue/catalogue.h"
 #include "core/platform/dos_path.h"
 #include "core/platform/enter_folder.h"
 #include "core/platform/text.h"
@@ -76,12 +76,6 @@ std::optional<std::string_view> ArchiveOf(const ScanFields& game, SetType sets) 
   return std::nullopt;
 }
 
-// Goes to the rom folder, or stays in the folder cfg.
-void EnterRomFolder(DosFiles& files, const AppState& app, std::string_view rom_folder) {
-  Ignore(EnterFolder(files, app.CfgFolder()));
-  if (!EnterFolder(files, rom_folder)) Ignore(EnterFolder(files, app.CfgFolder()));
-}
-
 // Adds the lines of all games to `text` and gives the number of those found.
 int LookForGames(RecordReader& records, SetType sets, Archives& archives, std::string& text) {
   int found = 0;
@@ -103,26 +97,29 @@ int LookForGames(RecordReader& records, SetType sets, Archives& archives, std::s
 
 }  // namespace
 
-Store ScanStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
-  return {files, app.CfgFolder(), std::string(emulator.ScanFile()),
-          std::string(emulator.word) + "scn.tmp"};
+Store Catalogue::ScanStore() const {
+  return {files_, cfg_folder_, emulator_.ScanFile(), emulator_.ScanTempFile()};
 }
 
-Result<ScanOutcome> ScanRoms(DosFiles& files, const AppState& app, const Emulator& emulator,
-                             std::string_view rom_folder, SetType sets) {
-  auto records = RecordReader::Open(files, app, emulator);
+void Catalogue::EnterRomFolder(std::string_view rom_folder) const {
+  Ignore(EnterFolder(files_, cfg_folder_));
+  if (!EnterFolder(files_, rom_folder)) Ignore(EnterFolder(files_, cfg_folder_));
+}
+
+Result<ScanOutcome> Catalogue::Scan(std::string_view rom_folder, SetType sets) const {
+  auto records = Records();
   if (!records) return records.error();
-  EnterRomFolder(files, app, rom_folder);
-  Archives archives(files);
+  EnterRomFolder(rom_folder);
+  Archives archives(files_);
   std::string text;
   ScanOutcome outcome;
   outcome.found =
-      LookForGames(*records, emulator.knows_parents ? sets : SetType::kSplit, archives, text);
+      LookForGames(*records, emulator_.knows_parents ? sets : SetType::kSplit, archives, text);
   if (records->Failed()) {
-    return Error{std::string(emulator.DataFile()) + ": The file could not be read to its end"};
+    return Error{emulator_.DataFile() + ": The file could not be read to its end"};
   }
-  outcome.written = ScanStoreOf(files, app, emulator).Replace(text);
-  EnterRomFolder(files, app, rom_folder);
+  outcome.written = ScanStore().Replace(text);
+  EnterRomFolder(rom_folder);
   return outcome;
 }
 

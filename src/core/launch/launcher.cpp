@@ -7,6 +7,7 @@
 #include "core/platform/child_process.h"
 #include "core/platform/dos_path.h"
 #include "core/platform/enter_folder.h"
+#include "core/platform/messages.h"
 #include "core/platform/text.h"
 
 namespace zarvo {
@@ -45,16 +46,20 @@ bool SameFolder(const DosFiles& files, std::string_view left, std::string_view r
 
 class OneLaunch {
  public:
-  OneLaunch(const Emulator& emulator, LaunchPanel& panel, const LaunchTools& tools)
+  OneLaunch(const Emulator& emulator, const LaunchRequest& request, const LaunchCalls& calls,
+            const LaunchTools& tools)
       : emulator_(emulator),
-        panel_(panel),
+        calls_(calls),
         tools_(tools),
         files_(tools.files),
-        notes_(tools.files, tools.app.ProgramFolder) {
+        emulator_folder_(request.emulator_folder),
+        game_(request.game),
+        input_(request.command),
+        notes_(tools.files, tools.folders.ProgramFolder) {
     notes_.Settle();  // of a start that was cut off
   }
 
-  LaunchEnd Run(std::string_view game);
+  LaunchEnd Run();
   // What failed, for a box; after kFailed.
   [[nodiscard]] const std::string& Failure() const { return failure_; }
   // Removes what the launch has made; what can't be removed, with the reasons.
@@ -64,9 +69,9 @@ class OneLaunch {
   // How the launch has ended, or nothing while it goes on.
   using Ended = std::optional<LaunchEnd>;
 
-  Ended FirstSteps(std::string_view game);
+  Ended FirstSteps();
   Ended TestEmulator();
-  Ended FindRom(std::string_view game);
+  Ended FindRom();
   Ended FindFolders();
   Ended LookForArchive();
   Ended BringIn();
@@ -87,9 +92,11 @@ class OneLaunch {
   [[nodiscard]] bool IsNeoGeo() const { return EqualNoCase(parent_, kNeoGeo); }
 
   const Emulator& emulator_;
-  LaunchPanel& panel_;
+  const LaunchCalls& calls_;
   const LaunchTools& tools_;
   DosFiles& files_;
+  std::string emulator_folder_;
+  std::string game_;
   CommandInput input_;
   std::string rom_;
   std::string parent_;  // empty: none
@@ -99,45 +106,42 @@ class OneLaunch {
   LaunchNotes notes_;
 };
 
-LaunchEnd OneLaunch::Run(std::string_view game) {
-  panel_.SaveCfg();
-  if (const Ended ended = FirstSteps(game)) return *ended;
+LaunchEnd OneLaunch::Run() {
+  calls_.save_cfg();
+  if (const Ended ended = FirstSteps()) return *ended;
   if (const Ended ended = FindFolders()) return *ended;
   if (const Ended ended = LookForArchive()) return *ended;
   if (const Ended ended = BringIn()) return *ended;
   return RunBatch();
 }
 
-OneLaunch::Ended OneLaunch::FirstSteps(std::string_view game) {
-  Ended ended = emulator_.launch.tests_emulator_first ? TestEmulator() : FindRom(game);
-  if (!ended) ended = emulator_.launch.tests_emulator_first ? FindRom(game) : TestEmulator();
+OneLaunch::Ended OneLaunch::FirstSteps() {
+  Ended ended = emulator_.launch.tests_emulator_first ? TestEmulator() : FindRom();
+  if (!ended) ended = emulator_.launch.tests_emulator_first ? FindRom() : TestEmulator();
   return ended;
 }
 
 OneLaunch::Ended OneLaunch::TestEmulator() {
-  const std::string path = panel_.EmulatorPath();
+  const std::string& path = input_.emulator_path;
   if (!path.empty() && files_.FileExists(path)) return std::nullopt;
-  tools_.boxes.Warn(TitleOr(emulator_.launch.no_emulator_title), tools_.app.messages.MsgNoEmulator);
-  panel_.ShowEmulatorPicker();
+  tools_.boxes.Warn(TitleOr(emulator_.launch.no_emulator_title), MsgNoEmulator);
+  calls_.show_emulator_picker();
   return LaunchEnd::kNoEmulator;
 }
 
-OneLaunch::Ended OneLaunch::FindRom(std::string_view game) {
-  if (!panel_.FindRom(game)) return LaunchEnd::kUnknownGame;
-  rom_ = panel_.RomName();
-  if (emulator_.knows_parents && IsPlainName(panel_.ParentRom())) parent_ = panel_.ParentRom();
+OneLaunch::Ended OneLaunch::FindRom() {
+  const std::optional<FoundRom> found = calls_.find_rom(game_);
+  if (!found) return LaunchEnd::kUnknownGame;
+  rom_ = input_.rom_name = found->rom;
+  if (emulator_.knows_parents && IsPlainName(found->parent)) parent_ = found->parent;
   return std::nullopt;
 }
 
 OneLaunch::Ended OneLaunch::FindFolders() {
-  const std::string folder = panel_.EmulatorFolder();
-  if (DriveLetter(folder) == 0) {
+  if (DriveLetter(emulator_folder_) == 0) {
     return Fail("The emulator's folder isn't known.\rPlease choose the emulator in section CONF");
   }
-  input_ = panel_.Command();
-  input_.emulator_path = panel_.EmulatorPath();
-  input_.rom_name = rom_;
-  own_rom_folder_ = RomFolderOf(emulator_, folder);
+  own_rom_folder_ = RomFolderOf(emulator_, emulator_folder_);
   is_own_folder_ = SameFolder(files_, input_.options.rom_folder, own_rom_folder_);
   return std::nullopt;
 }
@@ -198,19 +202,19 @@ OneLaunch::Ended OneLaunch::CopyIn(const std::string& rom) {
 
 // The archive that stands in the emulator's folder is the one that runs, if the player agrees.
 OneLaunch::Ended OneLaunch::AskToUse(const std::string& rom) {
-  return Ask(rom + ": " + tools_.app.messages.MsgRomOverwrite);
+  return Ask((rom + ": ").append(MsgRomOverwrite));
 }
 
 // Both questions speak of overwriting; what is done to the archive is told below them.
 OneLaunch::Ended OneLaunch::Ask(const std::string& question) {
   const bool agreed = tools_.boxes.Ask(
-      tools_.app.Title(), question + "\r\rYes runs the archive that stands in " + own_rom_folder_ +
-                              ". Zarvo overwrites and deletes nothing there.");
+      ProgramTitle(), question + "\r\rYes runs the archive that stands in " + own_rom_folder_ +
+                          ". Zarvo overwrites and deletes nothing there.");
   return agreed ? Ended() : LaunchEnd::kRefused;
 }
 
 LaunchEnd OneLaunch::RunBatch() {
-  const std::string folder = panel_.EmulatorFolder();
+  const std::string& folder = emulator_folder_;
   const Status entered = EnterFolder(files_, folder);
   if (!entered) return Fail(folder + ": " + entered.error().message);
   std::string batch = JoinPath(folder, kBatchFile);
@@ -224,8 +228,8 @@ LaunchEnd OneLaunch::RunBatch() {
 }
 
 LaunchEnd OneLaunch::NoRom() {
-  tools_.boxes.Warn(TitleOr(emulator_.launch.no_rom_title), tools_.app.messages.MsgNoRom);
-  panel_.ShowRomPicker();
+  tools_.boxes.Warn(TitleOr(emulator_.launch.no_rom_title), MsgNoRom);
+  calls_.show_rom_picker();
   return LaunchEnd::kNoRom;
 }
 
@@ -235,7 +239,7 @@ LaunchEnd OneLaunch::Fail(std::string message) {
 }
 
 std::string OneLaunch::TitleOr(std::string_view title) const {
-  return title.empty() ? tools_.app.Title() : std::string(title);
+  return title.empty() ? ProgramTitle() : std::string(title);
 }
 
 bool OneLaunch::IsGiven(const std::string& rom) const {
@@ -250,10 +254,10 @@ bool OneLaunch::StandsInOwnFolder(const std::string& rom) const {
 
 }  // namespace
 
-LaunchEnd Launch(const Emulator& emulator, std::string_view game, LaunchPanel& panel,
+LaunchEnd Launch(const Emulator& emulator, const LaunchRequest& request, const LaunchCalls& calls,
                  const LaunchTools& tools) {
-  OneLaunch launch(emulator, panel, tools);
-  const LaunchEnd end = launch.Run(game);
+  OneLaunch launch(emulator, request, calls, tools);
+  const LaunchEnd end = launch.Run();
   std::vector<std::string> told = launch.Settle();  // the files are gone when the box comes up
   for (std::string& stays : told)
     stays.insert(0, "This file was made for the run and can't be removed: ");
@@ -263,7 +267,7 @@ LaunchEnd Launch(const Emulator& emulator, std::string_view game, LaunchPanel& p
     if (!text.empty()) text += '\r';
     text += line;
   }
-  if (!text.empty()) tools.boxes.Warn(tools.app.Title(), text);
+  if (!text.empty()) tools.boxes.Warn(ProgramTitle(), text);
   return end;
 }
 

@@ -2,35 +2,41 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "core/emulators/app_state.h"
 #include "core/launch/command_line.h"
 #include "core/launch/launch_notes.h"
 #include "core/platform/dos_files.h"
 #include "core/platform/message_boxes.h"
+#include "core/platform/program.h"
 
 namespace zarvo {
 
-// What a launch asks of the panel. The panel's controls hold the settings of the game by then.
-class LaunchPanel {
- public:
-  virtual ~LaunchPanel() = default;
-  virtual void SaveCfg() = 0;
-  // Looks the game up and sets rom name and parent; false, after its own message, if it isn't
-  // known.
-  virtual bool FindRom(std::string_view game) = 0;
-  [[nodiscard]] virtual std::string RomName() const = 0;
-  [[nodiscard]] virtual std::string ParentRom() const = 0;
-  [[nodiscard]] virtual std::string EmulatorPath() const = 0;
-  [[nodiscard]] virtual std::string EmulatorFolder() const = 0;
-  // Options, recording and clock; emulator path and rom name are filled in by the launch.
-  [[nodiscard]] virtual CommandInput Command() const = 0;
+// What to start.
+struct LaunchRequest {
+  std::string game;
+  std::string emulator_folder;
+  // The game's settings and the moment; the rom name is filled in by the launch.
+  CommandInput command;
+};
+
+// What the data file says of a game.
+struct FoundRom {
+  std::string rom;
+  std::string parent;
+};
+
+// What a launch calls on its way.
+struct LaunchCalls {
+  std::function<void()> save_cfg;
+  // Nothing, after its own message, if the game isn't known.
+  std::function<std::optional<FoundRom>(std::string_view game)> find_rom;
   // After the message: the configuration page with the picker for the executable, the settings page
   // with the picker for the rom's folder.
-  virtual void ShowEmulatorPicker() = 0;
-  virtual void ShowRomPicker() = 0;
+  std::function<void()> show_emulator_picker;
+  std::function<void()> show_rom_picker;
 };
 
 // What a launch works with. `run` runs the command line "command.com /c lancia.bat" in the current
@@ -38,7 +44,7 @@ class LaunchPanel {
 struct LaunchTools {
   DosFiles& files;
   MessageBoxes& boxes;
-  const AppState& app;
+  const ProgramFolders& folders;
   std::function<Status(std::string_view command_line)> run;
 };
 
@@ -54,7 +60,7 @@ enum class LaunchEnd {
 // The whole launch; returns when the emulator has ended or the launch has ended without a run. The
 // batch file and a copy made for the run are gone by then, and what couldn't be removed was told;
 // an archive that stood in the emulator's rom folder is as it was.
-LaunchEnd Launch(const Emulator& emulator, std::string_view game, LaunchPanel& panel,
+LaunchEnd Launch(const Emulator& emulator, const LaunchRequest& request, const LaunchCalls& calls,
                  const LaunchTools& tools);
 
 }  // namespace zarvo

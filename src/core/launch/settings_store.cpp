@@ -72,11 +72,6 @@ void Apply(std::span<const std::string_view> fields, std::span<const OptionSpec>
   }
 }
 
-void Remember(std::span<const std::string_view> fields, AppState& app) {
-  const std::size_t count = std::min(fields.size(), app.SettingsFields.size());
-  for (std::size_t i = 0; i < count; ++i) app.SettingsFields[i] = fields[i];
-}
-
 // What isn't stored, and what can be used, stay as they are on the page.
 void KeepUnstored(std::span<const OptionSpec> options, const OptionValues& page,
                   OptionValues& loaded) {
@@ -118,45 +113,39 @@ std::string WithAppended(std::string store, const std::string& record) {
 
 }  // namespace
 
-Store SettingsStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
-  return {files, app.CfgFolder(), std::string(emulator.SettingsFile()),
-          std::string(emulator.SettingsTempFile())};
-}
+SettingsStore::SettingsStore(DosFiles& files, const ProgramFolders& folders,
+                             const Emulator& emulator)
+    : emulator_(emulator),
+      store_(files, folders.CfgFolder(), emulator.SettingsFile(), emulator.SettingsTempFile()) {}
 
-LoadOutcome LoadSettings(Store& store, AppState& app, const Emulator& emulator,
-                         std::string_view key, OptionValues& values) {
-  app.SettingsFound = false;
-  const auto text = store.Load();
+LoadOutcome SettingsStore::Load(std::string_view key, std::string_view rom_folder,
+                                OptionValues& values) {
+  const auto text = store_.Load();
   if (!text) return LoadOutcome::kNothing;
   const FoundLines lines = FindLines(*text, key);
   if (lines.stopped) return LoadOutcome::kNothing;
 
-  const auto options = emulator.options;
-  OptionValues loaded = DefaultValues(emulator, app.RomPathOf(emulator));
+  const auto options = emulator_.options;
+  OptionValues loaded = DefaultValues(emulator_, rom_folder);
   if (lines.record) KeepUnstored(options, values, loaded);
   values = std::move(loaded);
   const auto line = lines.record ? lines.record : lines.default_record;
   if (!line) return LoadOutcome::kDefaults;
-
-  const auto fields = FieldsOf(*line, lines.record ? key : kDefaultKey);
-  Remember(fields, app);
-  Apply(fields, options, values);
-  app.SettingsFound = true;
+  Apply(FieldsOf(*line, lines.record ? key : kDefaultKey), options, values);
   return LoadOutcome::kRecord;
 }
 
-Status SaveSettings(Store& store, const Emulator& emulator, std::string_view key,
-                    const OptionValues& values) {
-  const std::string record = RecordLine(emulator, key, values) + "\r\n";
+Status SettingsStore::Save(std::string_view key, const OptionValues& values) {
+  const std::string record = RecordLine(emulator_, key, values) + "\r\n";
   const std::string quoted_key = Quoted(key);
-  return store.Change([&](std::string text) {
+  return store_.Change([&](std::string text) {
     return HasRecord(text, quoted_key) ? WithReplaced(text, quoted_key, record)
                                        : WithAppended(std::move(text), record);
   });
 }
 
-Status SaveAsDefault(Store& store, const Emulator& emulator, const OptionValues& values) {
-  return store.Overwrite(RecordLine(emulator, kDefaultKey, values) + "\r\n");
+Status SettingsStore::SaveAsDefault(const OptionValues& values) {
+  return store_.Overwrite(RecordLine(emulator_, kDefaultKey, values) + "\r\n");
 }
 
 std::string RecordLine(const Emulator& emulator, std::string_view key, const OptionValues& values) {

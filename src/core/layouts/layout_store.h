@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/emulators/app_state.h"
+#include "core/platform/program.h"
 #include "core/platform/store.h"
 
 namespace zarvo {
@@ -58,7 +58,7 @@ bool IsLayoutName(std::string_view name);
 // reason. Nothing is held between two calls but whether the files could be read.
 class LayoutStore {
  public:
-  LayoutStore(DosFiles& files, const AppState& app);
+  LayoutStore(DosFiles& files, const ProgramFolders& folders);
 
   // The names of all layouts in the order of the file. Fails if there is no file. While they can't
   // be read neither file is changed.
@@ -86,7 +86,6 @@ class LayoutStore {
  private:
   [[nodiscard]] Result<std::string> KeyLine(std::string_view key);
 
-  const AppState& app_;
   Store layouts_;
   Store ini_;
 };

@@ -38,15 +38,13 @@ std::string LineOf(std::string_view value) {
 
 }  // namespace
 
-// The temporary file is "Mamecfg.tmp" for "Mame.cfg", as the settings store names its own.
-Store CfgStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator) {
-  return {files, app.CfgFolder(), std::string(emulator.CfgFile()),
-          std::string(emulator.word) + "cfg.tmp"};
-}
+CfgFile::CfgFile(DosFiles& files, const ProgramFolders& folders, const Emulator& emulator)
+    : emulator_(emulator),
+      store_(files, folders.CfgFolder(), emulator.CfgFile(), emulator.CfgTempFile()) {}
 
-CfgFields ReadCfg(Store& store, const Emulator& emulator) {
+CfgFields CfgFile::Read() {
   CfgFields fields;
-  const auto text = store.Load();
+  const auto text = store_.Load();
   if (!text) return fields;
   std::string_view rest = *text;
   for (auto* field : {&fields.exe_path, &fields.rom_path, &fields.snap_path, &fields.snap_format,
@@ -55,7 +53,7 @@ CfgFields ReadCfg(Store& store, const Emulator& emulator) {
     if (!value) return fields;
     *field = *value;
   }
-  if (!emulator.has_favourites) return fields;
+  if (!emulator_.has_favourites) return fields;
   auto& favourites = fields.favourites.emplace();
   while (favourites.size() < kMostEntries) {
     const auto favourite = TakeField(rest);
@@ -65,14 +63,14 @@ CfgFields ReadCfg(Store& store, const Emulator& emulator) {
   return fields;
 }
 
-Status WriteCfg(Store& store, const Emulator& emulator, const CfgValues& values) {
+Status CfgFile::Write(const CfgValues& values) {
   std::string text = LineOf(values.exe_path) + LineOf(values.rom_path) + LineOf(values.snap_path) +
                      LineOf(values.snap_format) + LineOf(values.emulator_folder) +
                      LineOf(values.layout_word);
-  if (emulator.has_favourites) {
+  if (emulator_.has_favourites) {
     for (const std::string& favourite : values.favourites) text += LineOf(favourite);
   }
-  return store.Replace(text);
+  return store_.Replace(text);
 }
 
 bool CanBeWritten(std::string_view value) {

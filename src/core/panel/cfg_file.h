@@ -7,7 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/emulators/app_state.h"
+#include "core/emulators/emulator.h"
+#include "core/platform/program.h"
 #include "core/platform/store.h"
 
 namespace zarvo {
@@ -25,11 +26,6 @@ struct CfgFields {
   std::optional<std::vector<std::string>> favourites;
 };
 
-Store CfgStoreOf(DosFiles& files, const AppState& app, const Emulator& emulator);
-
-// Loads the fields that the file has. A file that is missing or can't be read gives none.
-CfgFields ReadCfg(Store& store, const Emulator& emulator);
-
 // The values to write. `favourites` in the order of the file: from the last entry of the list to
 // the first.
 struct CfgValues {
@@ -42,8 +38,21 @@ struct CfgValues {
   std::vector<std::string> favourites;
 };
 
-// All or nothing; on failure the error names the file and the reason.
-Status WriteCfg(Store& store, const Emulator& emulator, const CfgValues& values);
+class CfgFile {
+ public:
+  CfgFile(DosFiles& files, const ProgramFolders& folders, const Emulator& emulator);
+
+  // Loads the fields that the file has. A file that is missing or can't be read gives none.
+  CfgFields Read();
+  // All or nothing; on failure the error names the file and the reason.
+  Status Write(const CfgValues& values);
+  // An error while the file stays as it is, because it couldn't be read.
+  [[nodiscard]] const Status& Usable() const { return store_.Usable(); }
+
+ private:
+  const Emulator& emulator_;
+  Store store_;
+};
 
 // True if a value reads back the same from the file. A value with a double quote in it is written
 // bare where that works: no comma, no leading blank or quote.

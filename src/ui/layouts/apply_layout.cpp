@@ -13,7 +13,7 @@ void ApplyRecord(const LayoutTools& tools, const LayoutRecord& record) {
   }
   const Emulator* emulator = FindEmulator(record.word);
   if (emulator == nullptr) return;
-  if (!tools.app.IsOpen(*emulator)) tools.sections.OpenSection(*emulator);
+  if (!tools.sections.IsOpen(*emulator)) tools.sections.OpenSection(*emulator);
   tools.sections.SetPanelPlace(
       *emulator,
       {.left = record.left, .top = record.top, .width = record.width, .height = record.height});
@@ -35,7 +35,7 @@ std::vector<LayoutRecord> PresentWindows(const LayoutTools& tools) {
                      .top = InRange(tools.main.MainTop()),
                      .left = InRange(tools.main.MainLeft())});
   for (const Emulator& emulator : Emulators()) {
-    if (!tools.app.IsOpen(emulator)) continue;
+    if (!tools.sections.IsOpen(emulator)) continue;
     const auto place = tools.sections.PanelPlace(emulator);
     if (!place) continue;
     records.push_back({.word = std::string(emulator.SectionWord()),

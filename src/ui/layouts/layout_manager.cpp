@@ -21,7 +21,9 @@ void MoveToEnd(ComboBox& combo, std::string_view old_name, std::string_view new_
 }  // namespace
 
 LayoutManager::LayoutManager(const LayoutTools& tools)
-    : Window(WindowFrame::kDesktop, "frmOptions"), tools_(tools), store_(tools.files, tools.app) {
+    : Window(WindowFrame::kDesktop, "frmOptions"),
+      tools_(tools),
+      store_(tools.files, tools.folders) {
   Build();
   Wire();
   Load();
@@ -212,7 +214,7 @@ bool LayoutManager::CanBeName(const NameDialog& dialog) {
   // What the code page can't say has become question marks in `name`.
   const bool can_be_written = ToQt(name) == dialog.txtRinomina->text();
   if (can_be_written && IsLayoutName(name)) return true;
-  tools_.boxes.Warn(tools_.app.Title(), "A layout can't have this name!");
+  tools_.boxes.Warn(ProgramTitle(), "A layout can't have this name!");
   return false;
 }
 
@@ -220,14 +222,14 @@ bool LayoutManager::IsTaken(std::string_view name) {
   for (int i = cboListaLayout->ListCount() - 1; i >= 0; --i) {
     cboListaLayout->SetListIndex(i);
     if (cboListaLayout->Text() != name) continue;
-    tools_.boxes.Warn(tools_.app.Title(), "Name already exist!");
+    tools_.boxes.Warn(ProgramTitle(), "Name already exist!");
     return true;
   }
   return false;
 }
 
 void LayoutManager::TellFailure(const Error& error) {
-  tools_.boxes.Warn(tools_.app.Title(), error.message);
+  tools_.boxes.Warn(ProgramTitle(), error.message);
 }
 
 void LayoutManager::ShowFile(std::string_view selected, std::string_view default_layout) {

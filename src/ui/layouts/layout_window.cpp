@@ -10,7 +10,7 @@ std::unique_ptr<Window> MakeLayoutWindow(const LayoutTools& tools) {
 }
 
 void AutoloadLayout(const LayoutTools& tools) {
-  ApplyRecords(tools, LayoutStore(tools.files, tools.app).AutoloadRecords());
+  ApplyRecords(tools, LayoutStore(tools.files, tools.folders).AutoloadRecords());
 }
 
 }  // namespace zarvo

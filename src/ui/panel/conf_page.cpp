@@ -95,6 +95,12 @@ std::string ConfPage::SnapFormat() const {
   return optSnapBMP->Value() ? "BMP" : "";
 }
 
+std::string ConfPage::SnapExtension() const {
+  if (optSnapGIF->Value()) return ".gif";
+  if (optSnapJPG->Value()) return ".jpg";
+  return optSnapBMP->Value() ? ".bmp" : "";
+}
+
 void ConfPage::SetSnapFormat(std::string_view format) {
   const std::array<std::pair<std::string_view, OptionButton*>, 3> options = {
       {{"GIF", optSnapGIF}, {"JPG", optSnapJPG}, {"BMP", optSnapBMP}}};

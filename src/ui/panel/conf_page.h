@@ -18,6 +18,8 @@ class ConfPage : public PictureBox {
 
   // "GIF", "JPG" or "BMP" by the option that is on, empty for none.
   [[nodiscard]] std::string SnapFormat() const;
+  // The extension of the files of that format, ".gif"; empty for none.
+  [[nodiscard]] std::string SnapExtension() const;
   // Turns the option of a format on; another word changes nothing.
   void SetSnapFormat(std::string_view format);
 

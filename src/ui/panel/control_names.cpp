@@ -23,7 +23,7 @@ std::string BareName(const Emulator& emulator, std::string_view member) {
 }
 
 void Report(const PanelTools& tools, const Status& status) {
-  if (!status.ok()) tools.boxes.Warn(tools.app.Title(), status.error().message);
+  if (!status.ok()) tools.boxes.Warn(ProgramTitle(), status.error().message);
 }
 
 }  // namespace zarvo

@@ -1,7 +1,7 @@
 #include "ui/panel/favourites.h"
 
-#include "core/catalogue/game_list.h"
 #include "core/panel/cfg_file.h"
+#include "core/platform/messages.h"
 #include "core/platform/text.h"
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
@@ -76,7 +76,7 @@ void Favourites::ShowCount() { lblFavCount->SetCaption(std::to_string(lstPref->L
 void Favourites::Add(const std::string& name) {
   if (name.empty() || lstPref->Items().Find(name) >= 0) return;
   if (!CanBeWritten(name)) {
-    tools_.boxes.Warn(tools_.app.Title(),
+    tools_.boxes.Warn(ProgramTitle(),
                       name +
                           "\rThis name can't be kept in the favourites list, because of the "
                           "quotation mark and the comma or blank in it.");
@@ -124,7 +124,7 @@ void Favourites::RemoveSelected() {
 }
 
 void Favourites::AskAndClear() {
-  if (!tools_.boxes.Ask(tools_.app.Title(), tools_.app.messages.MsgDeleteFavourites)) return;
+  if (!tools_.boxes.Ask(ProgramTitle(), MsgDeleteFavourites)) return;
   lstPref->Clear();
   ShowCount();
 }

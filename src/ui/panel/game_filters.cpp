@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/platform/messages.h"
 #include "ui/panel/control_names.h"
 #include "ui/panel/page_parts.h"
 #include "ui/toolkit/keys.h"
@@ -9,7 +10,7 @@
 namespace zarvo {
 
 GameFilters::GameFilters(QWidget* panel, const Emulator& emulator, const PanelTools& tools)
-    : emulator_(emulator), tools_(tools) {
+    : emulator_(emulator), tools_(tools), catalogue_(tools.files, tools.folders, emulator) {
   if (!emulator.has_game_list) return;
   BuildList(panel);
   if (emulator.has_filters) BuildCombos(panel);
@@ -87,7 +88,7 @@ void GameFilters::Load() {
 }
 
 void GameFilters::ReadTotal() {
-  const DataTotal total = ReadDataTotal(tools_.files, tools_.app, emulator_);
+  const DataTotal total = catalogue_.Total();
   const bool empty_without_file = emulator_.texts.design_total.empty();
   if (total.total) {
     lblTotal->SetCaption(*total.total);
@@ -102,7 +103,7 @@ void GameFilters::ShowCount() {
 
 void GameFilters::Fill(GameState state) {
   NameList names = lstRom->Items();
-  switch (FillList(tools_.files, tools_.app, emulator_, state, names)) {
+  switch (catalogue_.Fill(state, names)) {
     case FillResult::kFilled:
       lstRom->SetItems(std::move(names));
       ShowCount();
@@ -118,7 +119,7 @@ void GameFilters::Fill(GameState state) {
 
 void GameFilters::ReportMissingScan() {
   lstRom->SetVisible(true);
-  tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgNoScnFile);
+  tools_.boxes.Warn(ProgramTitle(), MsgNoScnFile);
   cboFilterMisc->SetListIndex(0);
   if (on_missing_scan) on_missing_scan();
 }
@@ -139,7 +140,7 @@ void GameFilters::Step(ValueFilter filter, const std::string& value) {
   if (value == ItemsOf(emulator_, filter).front()) return;
   lblFilterHide = "FREE";
   NameList names = lstRom->Items();
-  FilterList(tools_.files, tools_.app, emulator_, filter, value, names);
+  catalogue_.Filter(filter, value, names);
   lstRom->SetItems(std::move(names));
   lblFilterHide.clear();
 }

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "core/catalogue/game_list.h"
+#include "core/catalogue/catalogue.h"
 #include "ui/panel/panel_tools.h"
 #include "ui/toolkit/combo_box.h"
 #include "ui/toolkit/label.h"
@@ -17,6 +17,8 @@ namespace zarvo {
 class GameFilters {
  public:
   GameFilters(QWidget* panel, const Emulator& emulator, const PanelTools& tools);
+
+  [[nodiscard]] const Catalogue& Games() const { return catalogue_; }
 
   // The neutral items without a refresh, and the data file's own total.
   void Load();
@@ -57,6 +59,7 @@ class GameFilters {
 
   const Emulator& emulator_;
   const PanelTools& tools_;
+  Catalogue catalogue_;
 };
 
 }  // namespace zarvo

@@ -1,6 +1,5 @@
 #include "ui/panel/list_menu.h"
 
-#include "core/catalogue/data_file.h"
 #include "ui/panel/control_names.h"
 
 namespace zarvo {
@@ -16,15 +15,14 @@ std::string_view OriginalOrClone(std::string_view oc) {
 
 }  // namespace
 
-ListMenu::ListMenu(const Emulator& emulator, const PanelTools& tools)
-    : emulator_(emulator),
-      tools_(tools),
+ListMenu::ListMenu(const Emulator& emulator, const Catalogue& games)
+    : games_(games),
       menu_(ControlName(emulator, "mnu"),
             {ControlName(emulator, "mnuManufactor"), ControlName(emulator, "mnuYear"),
              ControlName(emulator, "mnuGenre"), "", ControlName(emulator, "mnuOC")}) {}
 
 void ListMenu::Prepare(std::string_view name) {
-  const auto record = FindRecord(tools_.files, tools_.app, emulator_, name);
+  const auto record = games_.Find(name);
   if (!record && !name.empty()) return;
   const GameRecord facts = record.value_or(GameRecord{});
   menu_.SetCaption(kManufactor, facts[Field::kMadeBy]);

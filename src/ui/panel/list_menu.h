@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "ui/panel/panel_tools.h"
+#include "core/catalogue/catalogue.h"
 #include "ui/toolkit/list_box.h"
 #include "ui/toolkit/popup_menu.h"
 
@@ -11,7 +11,7 @@ namespace zarvo {
 
 class ListMenu {
  public:
-  ListMenu(const Emulator& emulator, const PanelTools& tools);
+  ListMenu(const Emulator& emulator, const Catalogue& games);
 
   // Sets the captions for one game; they stay as they are for a game that isn't known. An empty
   // name empties them.
@@ -26,8 +26,7 @@ class ListMenu {
  private:
   void Open(const ListBox& list, bool needs_selection, QPoint place);
 
-  const Emulator& emulator_;
-  const PanelTools& tools_;
+  const Catalogue& games_;
   PopupMenu menu_;
 };
 

@@ -47,11 +47,11 @@ void RecordingRules::OnRecord() {
 void RecordingRules::OnPlayback() {
   if (chkRecord_->Value() == 1) chkRecord_->SetValue(0);
   if (chkPlayback_->Value() == 0) return;
-  FilePicker picker(tools_.files, tools_.panels, tools_.boxes, tools_.app.Title());
+  FilePicker picker(tools_.files, tools_.panels, tools_.boxes, ProgramTitle());
   picker.lblSelExeHide = emulator_.SectionWord();
   const std::string folder = JoinPath(emulator_folder_(), "INP");
   if (!picker.ChooseRecording(folder)) {
-    tools_.boxes.Warn(tools_.app.Title(),
+    tools_.boxes.Warn(ProgramTitle(),
                       "There is no folder with recordings:\r" + folder +
                           "\rRecord a game first, or make this folder and put recordings in it.");
     chkPlayback_->SetValue(0);

@@ -26,13 +26,13 @@ void RestAll(const Buttons& buttons) {
 // The buttons of one panel, by their group.
 struct ButtonGroups {
   explicit ButtonGroups(const EmulatorPanel& panel)
-      : executable{panel.picConf->cmdSfoglia, ButtonKind::kPath},
-        rom_folder{panel.picConf->cmdSelDir, ButtonKind::kPath},
-        snap_folder{panel.picConf->cmdDirSnap, ButtonKind::kPath},
-        scan{panel.picConf->lblScanNow, ButtonKind::kPath},
-        default_folder{panel.picSettings->cmdDirRomDefault, ButtonKind::kPath},
-        game_folder{panel.picSettings->cmdSelDir, ButtonKind::kPath},
-        apply_to_all{panel.picSettings->cmdApplytoAll, ButtonKind::kBulk},
+      : executable{panel.pages->picConf->cmdSfoglia, ButtonKind::kPath},
+        rom_folder{panel.pages->picConf->cmdSelDir, ButtonKind::kPath},
+        snap_folder{panel.pages->picConf->cmdDirSnap, ButtonKind::kPath},
+        scan{panel.pages->picConf->lblScanNow, ButtonKind::kPath},
+        default_folder{panel.pages->picSettings->cmdDirRomDefault, ButtonKind::kPath},
+        game_folder{panel.pages->picSettings->cmdSelDir, ButtonKind::kPath},
+        apply_to_all{panel.pages->picSettings->cmdApplytoAll, ButtonKind::kBulk},
         clear{panel.favourites->lblClearFav, ButtonKind::kBulk},
         large{panel.sizes->cmdLarge, ButtonKind::kSize},
         middle{panel.sizes->cmdMiddle, ButtonKind::kSize},
@@ -68,7 +68,7 @@ void WireHeader(EmulatorPanel& panel, const ButtonGroups& all, MainPlace& main) 
   with_clear.push_back(all.clear);
   panel.MouseMove.Connect([with_clear](const MouseArgs&) { RestAll(with_clear); });
   for (Control* const over : std::initializer_list<Control*>{
-           panel.favourites->lblFavCount, panel.imgButSnap, panel.sizes->cmdRidimen}) {
+           panel.favourites->lblFavCount, panel.pages->imgButSnap, panel.sizes->cmdRidimen}) {
     ResetsOnMove(over, all.SizesAndExit());
   }
   ResetsOnMove(panel.logo, with_clear);
@@ -87,14 +87,14 @@ void WireHeader(EmulatorPanel& panel, const ButtonGroups& all, MainPlace& main) 
 
 void WirePages(EmulatorPanel& panel, const ButtonGroups& all) {
   const Buttons settings = {all.game_folder, all.default_folder, all.apply_to_all};
-  ResetsOnMove(panel.picSettings, settings);
+  ResetsOnMove(panel.pages->picSettings, settings);
   ResetsOnMove(panel.lblRomSettings, settings);
-  ResetsOnMove(panel.picSettings->txtRomPath, {all.game_folder, all.apply_to_all});
+  ResetsOnMove(panel.pages->picSettings->txtRomPath, {all.game_folder, all.apply_to_all});
   ResetsOnMove(all.default_folder.label, {all.game_folder});
   ResetsOnMove(all.game_folder.label, {all.default_folder});
 
-  const ConfPage& conf = *panel.picConf;
-  ResetsOnMove(panel.picConf, {all.executable, all.rom_folder, all.snap_folder, all.scan});
+  const ConfPage& conf = *panel.pages->picConf;
+  ResetsOnMove(panel.pages->picConf, {all.executable, all.rom_folder, all.snap_folder, all.scan});
   ResetsOnMove(conf.txtOptExePath, {all.executable});
   ResetsOnMove(conf.exe_caption, {all.executable});
   ResetsOnMove(conf.txtOptRomPath, {all.rom_folder});

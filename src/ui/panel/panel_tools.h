@@ -2,12 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
-#include "core/emulators/app_state.h"
-#include "core/launch/command_line.h"
+#include "core/emulators/command.h"
 #include "core/platform/dos_files.h"
 #include "core/platform/message_boxes.h"
+#include "core/platform/program.h"
 #include "ui/pickers/picker_panels.h"
 #include "ui/shell/section_host.h"
 
@@ -15,7 +16,7 @@ namespace zarvo {
 
 struct PanelTools {
   DosFiles& files;
-  AppState& app;
+  const ProgramFolders& folders;
   MessageBoxes& boxes;
   MainPlace& main;
   PickerPanels& panels;
@@ -23,6 +24,12 @@ struct PanelTools {
   std::function<Status(std::string_view command_line)> run;
   // Local time.
   std::function<ClockTime()> clock;
+};
+
+// What of a section outlives its panel.
+struct SectionState {
+  std::string RomPath;         // configured rom folder
+  std::string lblShow = "NO";  // "SI" while the panel is open
 };
 
 // Shows a failure under the program's title, if it is one.

@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/platform/dos_path.h"
+#include "core/platform/messages.h"
 #include "ui/panel/panel_hover.h"
 
 namespace zarvo {
-namespace {
 
-std::size_t Index(const Emulator& emulator) { return IndexOf(emulator); }
-
-}  // namespace
-
-Sections::Sections(DosFiles& files, AppState& app, MessageBoxes& boxes, MainPlace& main,
-                   std::function<Status(std::string_view)> run, std::function<ClockTime()> clock)
+Sections::Sections(DosFiles& files, const ProgramFolders& folders, MessageBoxes& boxes,
+                   MainPlace& main, std::function<Status(std::string_view)> run,
+                   std::function<ClockTime()> clock)
     : tools_{.files = files,
-             .app = app,
+             .folders = folders,
              .boxes = boxes,
              .main = main,
              .panels = *this,
@@ -25,37 +21,36 @@ Sections::Sections(DosFiles& files, AppState& app, MessageBoxes& boxes, MainPlac
 
 Sections::~Sections() = default;
 
-EmulatorPanel* Sections::Find(const Emulator& emulator) const {
-  return panels_[Index(emulator)].get();
-}
+EmulatorPanel* Sections::Find(const Emulator& emulator) const { return Of(emulator).panel.get(); }
 
 EmulatorPanel& Sections::Panel(const Emulator& emulator) {
-  std::unique_ptr<EmulatorPanel>& panel = panels_[Index(emulator)];
-  if (!panel) {
-    panel = std::make_unique<EmulatorPanel>(emulator, tools_);
-    panel->Closed.Connect([this, &emulator] { Drop(emulator); });
+  Section& section = Of(emulator);
+  if (!section.panel) {
+    section.panel = std::make_unique<EmulatorPanel>(emulator, tools_, section.state);
+    section.panel->Closed.Connect([this, &emulator] { Drop(emulator); });
   }
-  return *panel;
+  return *section.panel;
 }
 
 // The panel may be in the middle of its own event, so it goes when the event has ended.
 void Sections::Drop(const Emulator& emulator) {
-  if (EmulatorPanel* const panel = panels_[Index(emulator)].release()) panel->deleteLater();
+  if (EmulatorPanel* const panel = Of(emulator).panel.release()) panel->deleteLater();
 }
 
+bool Sections::IsOpen(const Emulator& emulator) const { return Of(emulator).state.lblShow == "SI"; }
+
 void Sections::OpenSection(const Emulator& emulator) {
-  if (!tools_.files.FileExists(JoinPath(tools_.app.DataFolder(), emulator.DataFile()))) {
-    tools_.boxes.Warn(tools_.app.Title(), tools_.app.messages.MsgNoDataFile);
+  if (!Catalogue(tools_.files, tools_.folders, emulator).HasDataFile()) {
+    tools_.boxes.Warn(ProgramTitle(), MsgNoDataFile);
     return;
   }
-  tools_.app.lblHideEmuSelect = emulator.SectionWord();
+  lblHideEmuSelect = emulator.SectionWord();
   Panel(emulator).Enter();
 }
 
 bool Sections::EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const {
-  return std::ranges::all_of(Emulators(), [&](const Emulator& emulator) {
-    EmulatorPanel* const panel = Find(emulator);
-    return panel == nullptr || !tools_.app.IsOpen(emulator) || visit(*panel);
+  return std::ranges::all_of(sections_, [&](const Section& section) {
+    return !section.panel || section.state.lblShow != "SI" || visit(*section.panel);
   });
 }
 
@@ -80,7 +75,7 @@ bool Sections::CloseOpenPanels() {
 
 std::optional<TwipRect> Sections::PanelPlace(const Emulator& emulator) const {
   const EmulatorPanel* const panel = Find(emulator);
-  if (panel == nullptr || !tools_.app.IsOpen(emulator)) return std::nullopt;
+  if (panel == nullptr || !IsOpen(emulator)) return std::nullopt;
   return TwipRect{panel->Left(), panel->Top(), panel->Window::Width(), panel->Window::Height()};
 }
 
@@ -94,34 +89,39 @@ void Sections::SetPanelPlace(const Emulator& emulator, const TwipRect& place) {
 }
 
 void Sections::ResetClearLabels() {
-  for (const auto& panel : panels_) {
-    if (panel && panel->ItsEmulator().panel.clear_rests_with_main) ResetClearLabel(*panel);
+  if (lblHideEmuSelect == "HIDE") return;
+  for (const Section& section : sections_) {
+    if (section.panel && section.panel->ItsEmulator().panel.clear_rests_with_main) {
+      ResetClearLabel(*section.panel);
+    }
   }
 }
 
 void Sections::SetRomFolder(const Emulator& emulator, std::string_view folder) {
-  Panel(emulator).TakeRomFolder(folder);
+  Panel(emulator).paths->TakeRomFolder(folder);
 }
 
 void Sections::SetSnapFolder(const Emulator& emulator, std::string_view folder) {
-  Panel(emulator).TakeSnapFolder(folder);
+  Panel(emulator).paths->TakeSnapFolder(folder);
 }
 
 void Sections::SetGameRomFolder(const Emulator& emulator, std::string_view folder) {
-  Panel(emulator).TakeGameRomFolder(folder);
+  Panel(emulator).paths->TakeGameRomFolder(folder);
 }
 
 void Sections::SetEmulator(const Emulator& emulator, std::string_view exe_path,
                            std::string_view folder) {
-  Panel(emulator).TakeEmulator(exe_path, folder);
+  Panel(emulator).paths->TakeEmulator(exe_path, folder);
 }
 
 void Sections::SetRecording(const Emulator& emulator, std::string_view file) {
-  Panel(emulator).TakeRecording(file);
+  if (RecordingRules* const rules = Panel(emulator).recording.get()) rules->lblHideInp = file;
 }
 
-void Sections::ClearPlayback(const Emulator& emulator) { Panel(emulator).ClearPlayback(); }
+void Sections::ClearPlayback(const Emulator& emulator) {
+  if (RecordingRules* const rules = Panel(emulator).recording.get()) rules->ClearPlayback();
+}
 
-void Sections::SaveCfg(const Emulator& emulator) { Panel(emulator).SaveCfg(); }
+void Sections::SaveCfg(const Emulator& emulator) { Panel(emulator).paths->SaveCfg(); }
 
 }  // namespace zarvo

@@ -1,4 +1,5 @@
-// The five sections: which panels are there, and what the rest of the program asks of them.
+// The sections of the emulators: which panels are there, and what the rest of the program asks of
+// them.
 #pragma once
 
 #include <array>
@@ -15,7 +16,7 @@ namespace zarvo {
 class Sections : public SectionHost, public PickerPanels {
  public:
   // `run` and `clock` as in PanelTools.
-  Sections(DosFiles& files, AppState& app, MessageBoxes& boxes, MainPlace& main,
+  Sections(DosFiles& files, const ProgramFolders& folders, MessageBoxes& boxes, MainPlace& main,
            std::function<Status(std::string_view)> run, std::function<ClockTime()> clock);
   ~Sections() override;
 
@@ -24,6 +25,7 @@ class Sections : public SectionHost, public PickerPanels {
   // nullptr while there is none.
   [[nodiscard]] EmulatorPanel* Find(const Emulator& emulator) const;
 
+  [[nodiscard]] bool IsOpen(const Emulator& emulator) const override;
   void OpenSection(const Emulator& emulator) override;
   bool SaveOpenPanels() override;
   bool CloseOpenPanels() override;
@@ -42,14 +44,23 @@ class Sections : public SectionHost, public PickerPanels {
   void ClearPlayback(const Emulator& emulator) override;
   void SaveCfg(const Emulator& emulator) override;
 
+  std::string lblHideEmuSelect = "HIDE";  // section entered last
+
  private:
+  struct Section {
+    SectionState state;
+    std::unique_ptr<EmulatorPanel> panel;  // nullptr while there is none
+  };
+  [[nodiscard]] Section& Of(const Emulator& emulator) { return sections_[IndexOf(emulator)]; }
+  [[nodiscard]] const Section& Of(const Emulator& emulator) const {
+    return sections_[IndexOf(emulator)];
+  }
   void Drop(const Emulator& emulator);
-  // In emulator order, until a visit gives false; whether none did.
+  // In the emulators' order, until a visit gives false; whether none did.
   bool EachOpenPanel(const std::function<bool(EmulatorPanel&)>& visit) const;
 
   PanelTools tools_;
-  // In the order of the emulators; nullptr for one whose panel isn't there.
-  std::vector<std::unique_ptr<EmulatorPanel>> panels_{Emulators().size()};
+  std::vector<Section> sections_{Emulators().size()};  // in their order
 };
 
 }  // namespace zarvo

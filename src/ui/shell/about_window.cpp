@@ -4,6 +4,8 @@
 #include <QUrl>
 #include <utility>
 
+#include "core/platform/messages.h"
+#include "core/platform/program.h"
 #include "ui/shell/dialog_parts.h"
 
 namespace zarvo {
@@ -42,16 +44,16 @@ AddressOpener DesktopOpener() {
   return [](std::string_view address) { QDesktopServices::openUrl(QUrl(ToQt(address))); };
 }
 
-AboutWindow::AboutWindow(const AppState& app, AddressOpener open)
+AboutWindow::AboutWindow(AddressOpener open)
     : Window(WindowFrame::kDesktop, "frmAbout"), open_(std::move(open)) {
   SetWidth(kWidth);
   SetHeight(kHeight);
   Build();
   Wire();
-  lblLatestFiles->SetCaption(app.messages.MsgDownloadInfo);
-  lblInfoRequest->SetCaption(app.messages.MsgMailInfo);
-  SetCaption("Zarvo - " + app.ProgramVersion);
-  lblVersion->SetCaption(app.ProgramVersion);
+  lblLatestFiles->SetCaption(MsgDownloadInfo);
+  lblInfoRequest->SetCaption(MsgMailInfo);
+  SetCaption("Zarvo - " + std::string(ProgramVersion));
+  lblVersion->SetCaption(ProgramVersion);
 }
 
 void AboutWindow::Build() {

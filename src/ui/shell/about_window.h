@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/emulators/app_state.h"
 #include "ui/toolkit/image_box.h"
 #include "ui/toolkit/label.h"
 #include "ui/toolkit/push_button.h"
@@ -19,7 +18,7 @@ AddressOpener DesktopOpener();
 
 class AboutWindow : public Window {
  public:
-  AboutWindow(const AppState& app, AddressOpener open);
+  explicit AboutWindow(AddressOpener open);
 
   ImageBox* imgZarvo;
   Label* Label1;

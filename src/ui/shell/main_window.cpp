@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "core/platform/dos_path.h"
+#include "core/platform/messages.h"
 #include "core/platform/text.h"
+#include "ui/shell/ticker.h"
 
 namespace zarvo {
 namespace {
@@ -17,13 +18,21 @@ bool HoldsFile(const DosFiles& files, std::string_view folder) {
                                      [](const FolderEntry& entry) { return !entry.is_folder; });
 }
 
+// The welcome box of a first run.
+std::string WelcomeMessage() {
+  return "Welcome to Zarvo! Probably it's the first time you launch this program!\r"
+         "Please remember to put Data Files into the <data> directory!\r"
+         "The latest releases of these Data Files can be downloaded from " +
+         std::string(kHomePage) + "\rTake a look at Readme.txt for more info.";
+}
+
 }  // namespace
 
-MainWindow::MainWindow(DosFiles& files, AppState& app, MessageBoxes& boxes,
+MainWindow::MainWindow(DosFiles& files, ProgramFolders& folders, MessageBoxes& boxes,
                        HeaderReader read_header, MainActions actions)
     : Window(WindowFrame::kNone, "frmMain"),
       files_(files),
-      app_(app),
+      folders_(folders),
       boxes_(boxes),
       read_header_(std::move(read_header)),
       actions_(std::move(actions)) {
@@ -32,17 +41,17 @@ MainWindow::MainWindow(DosFiles& files, AppState& app, MessageBoxes& boxes,
 }
 
 void MainWindow::StartUp() {
-  SetCaption(app_.Title());
-  app_.ProgramFolder = files_.CurrentFolder();
-  lblVersion->SetCaption(app_.ProgramVersion);
-  facts.front()->SetCaption(app_.Title());
-  if (!HoldsFile(files_, JoinPath(app_.ProgramFolder, "Cfg"))) {
-    boxes_.Inform(app_.Title(), WelcomeMessage());
+  SetCaption(ProgramTitle());
+  folders_.ProgramFolder = files_.CurrentFolder();
+  lblVersion->SetCaption(ProgramVersion);
+  facts.front()->SetCaption(ProgramTitle());
+  if (!HoldsFile(files_, JoinPath(folders_.ProgramFolder, "Cfg"))) {
+    boxes_.Inform(ProgramTitle(), WelcomeMessage());
   }
   Ignore(files_.MakeFolder("Cfg"));
   Ignore(files_.MakeFolder("Data"));
   SetMainPlace(400, 500);
-  Ignore(files_.ChangeFolder(app_.ProgramFolder));
+  Ignore(files_.ChangeFolder(folders_.ProgramFolder));
   actions_.autoload();
   Timer1.SetInterval(kTickerInterval);
 }
@@ -84,7 +93,7 @@ void MainWindow::HoverGround(const MouseArgs& mouse) {
   MoveByMouse(mouse);
   for (Label* const command : {lblExit, lblLays, lblAbout}) ResetCommand(command);
   for (Label* const name : selector) ResetSelector(name);
-  if (app_.lblHideEmuSelect != "HIDE") actions_.sections().ResetClearLabels();
+  actions_.sections().ResetClearLabels();
 }
 
 void MainWindow::Hover(const Emulator& emulator) {
@@ -109,7 +118,7 @@ void MainWindow::Turn() {
 }
 
 void MainWindow::ConfirmEnd(bool& refuse) {
-  if (!boxes_.Ask(app_.Title(), "Do you really want to quit ?")) {
+  if (!boxes_.Ask(ProgramTitle(), "Do you really want to quit ?")) {
     refuse = true;
     return;
   }

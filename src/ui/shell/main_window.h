@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "core/emulators/app_state.h"
 #include "core/platform/dos_files.h"
 #include "core/platform/message_boxes.h"
+#include "core/platform/program.h"
 #include "ui/shell/section_host.h"
 #include "ui/toolkit/image_box.h"
 #include "ui/toolkit/label.h"
@@ -35,8 +35,8 @@ using HeaderReader = std::function<std::vector<std::string>(const Emulator&)>;
 
 class MainWindow : public Window, public MainPlace {
  public:
-  MainWindow(DosFiles& files, AppState& app, MessageBoxes& boxes, HeaderReader read_header,
-             MainActions actions);
+  MainWindow(DosFiles& files, ProgramFolders& folders, MessageBoxes& boxes,
+             HeaderReader read_header, MainActions actions);
 
   // The start of the program, in its order: state, welcome box, folders, place, autoload, ticker.
   void StartUp();
@@ -86,7 +86,7 @@ class MainWindow : public Window, public MainPlace {
   void ConfirmEnd(bool& refuse);
 
   DosFiles& files_;
-  AppState& app_;
+  ProgramFolders& folders_;
   MessageBoxes& boxes_;
   HeaderReader read_header_;
   MainActions actions_;

@@ -13,6 +13,7 @@ class SectionHost {
  public:
   virtual ~SectionHost() = default;
 
+  [[nodiscard]] virtual bool IsOpen(const Emulator& emulator) const = 0;
   // The entry to an emulator's section, with its messages. Without a data file nothing opens.
   virtual void OpenSection(const Emulator& emulator) = 0;
   // Saves what every open panel holds, in emulator order: the configuration, then the settings of
@@ -24,7 +25,7 @@ class SectionHost {
   [[nodiscard]] virtual std::optional<TwipRect> PanelPlace(const Emulator& emulator) const = 0;
   // Top, Left, Width, Height in that order; nothing happens for a panel that isn't there.
   virtual void SetPanelPlace(const Emulator& emulator, const TwipRect& place) = 0;
-  // The clear labels of the open MAME and Callus panels return to rest.
+  // The mouse is over the main window's ground: the clear labels of some panels return to rest.
   virtual void ResetClearLabels() = 0;
 };
 

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/platform/messages.h"
+
 namespace zarvo {
 namespace {
 
@@ -11,6 +13,15 @@ constexpr int kStart = -40;        // stands still at first, so that its beginni
 constexpr int kGap = 40;           // pixels between the end of the line and its next beginning
 
 }  // namespace
+
+std::array<std::string, 6> TickerLines() {
+  return {"---> The Definitive Multifrontend <---",
+          "What do you want to emulate today?",
+          "Official Home Page: " + std::string(kHomePage),
+          "Thanks to all emu-developers!",
+          "Thanks to all rom-dumpers!",
+          "Please support < Zarvo Project > !!"};
+}
 
 Ticker::Ticker(QWidget* parent) : Label(parent) {
   timer_.Tick.Connect([this] { Step(); });

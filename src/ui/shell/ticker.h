@@ -1,10 +1,16 @@
 // The ticker of the main window: a line that runs through its strip where it doesn't fit.
 #pragma once
 
+#include <array>
+#include <string>
+
 #include "ui/toolkit/label.h"
 #include "ui/toolkit/timer.h"
 
 namespace zarvo {
+
+// The lines of the ticker, in ring order.
+std::array<std::string, 6> TickerLines();
 
 class Ticker : public Label {
  public:

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/catalogue/data_file.h"
+#include "core/catalogue/catalogue.h"
 #include "fakes/emulators.h"
 #include "fakes/memory_files.h"
 
@@ -30,7 +30,7 @@ inline std::string Header() {
 class CatalogueTest : public testing::Test {
  protected:
   CatalogueTest() {
-    app_.ProgramFolder = R"(C:\Zarvo)";
+    folders_.ProgramFolder = R"(C:\Zarvo)";
     files_.PutFolder(R"(C:\Zarvo\Data)");
     files_.PutFolder(R"(C:\Zarvo\cfg)");
   }
@@ -39,7 +39,7 @@ class CatalogueTest : public testing::Test {
   void PutScan(std::string bytes) { files_.Put(R"(C:\Zarvo\cfg\Mame.scn)", std::move(bytes)); }
 
   MemoryFiles files_;
-  AppState app_;
+  ProgramFolders folders_;
   const Emulator& mame_ = kMame;
 };
 

@@ -11,10 +11,10 @@ using StringList = std::vector<std::string>;
 class DataFile : public CatalogueTest {
  protected:
   std::string RomOf(std::string_view name) {
-    const auto record = FindRecord(files_, app_, mame_, name);
+    const auto record = Catalogue(files_, folders_, mame_).Find(name);
     return record ? (*record)[Field::kRomFile] : "(none)";
   }
-  StringList HeaderOf() { return ReadHeader(files_, app_, mame_); }
+  StringList HeaderOf() { return Catalogue(files_, folders_, mame_).Header(); }
 };
 
 TEST_F(DataFile, FindsARecordByItsExactName) {
@@ -42,13 +42,13 @@ TEST_F(DataFile, FindsARecordByItsExactName) {
   for (const auto& [name, rom] : look_ups) EXPECT_EQ(RomOf(name), rom) << name;
   EXPECT_EQ(files_.opened.back(), "Mame.dat");
   EXPECT_EQ(files_.CurrentFolder(), R"(c:\zarvo\data)");
-  app_.ProgramFolder = R"(C:\Nowhere)";
+  folders_.ProgramFolder = R"(C:\Nowhere)";
   EXPECT_EQ(RomOf("Last"), "(none)") << "no folder";
 }
 
 TEST_F(DataFile, CutsAll21FieldsAndNoMore) {
   PutData("A;B;;D;E;F;G;H;I;J;K;L;M;N;O;P;Q;R;S;T;U;what follows;\r\n");
-  const auto record = FindRecord(files_, app_, mame_, "A");
+  const auto record = Catalogue(files_, folders_, mame_).Find("A");
   ASSERT_TRUE(record);
   EXPECT_EQ(record->field_count, 21);
   EXPECT_EQ((*record)[Field::kOC], "");
@@ -63,7 +63,7 @@ TEST_F(DataFile, CutAtEveryLengthGivesWhatIsComplete) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     PutData(whole.substr(0, length));
     for (const std::string name : {"Alpha", "Beta"}) {
-      const auto record = FindRecord(files_, app_, mame_, name);
+      const auto record = Catalogue(files_, folders_, mame_).Find(name);
       const std::size_t closed = whole.find('\r', whole.find(name));
       EXPECT_EQ(record && record->field_count == 21, length >= closed) << name << " " << length;
     }
@@ -92,7 +92,7 @@ TEST_F(DataFile, TheHeaderIsTakenByPositionAsFarAsItGoes) {
 }
 
 TEST_F(DataFile, TheTotalIsLine8FromTheFirstStar) {
-  EXPECT_FALSE(ReadDataTotal(files_, app_, mame_).file_opened);
+  EXPECT_FALSE(Catalogue(files_, folders_, mame_).Total().file_opened);
   const std::pair<std::string, std::optional<std::string>> files[] = {
       {"*1\r\n*2\r\n*3\r\n*4\r\n*5\r\n*6\r\n*7\r\n*1107\r\n*9\r\n", "1107"},
       {"A;a;\r\n\r\n#\r\n*1\n*2\n*3\n*4\n*5\n*6\n*7\n*1107", "1107"},
@@ -104,7 +104,7 @@ TEST_F(DataFile, TheTotalIsLine8FromTheFirstStar) {
   };
   for (const auto& [bytes, expected] : files) {
     PutData(bytes);
-    const DataTotal total = ReadDataTotal(files_, app_, mame_);
+    const DataTotal total = Catalogue(files_, folders_, mame_).Total();
     EXPECT_TRUE(total.file_opened);
     EXPECT_EQ(total.total, expected) << bytes;
   }

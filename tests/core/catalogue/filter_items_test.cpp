@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "core/catalogue/game_list.h"
+#include "core/catalogue/catalogue.h"
 #include "fakes/emulators.h"
 
 namespace zarvo {

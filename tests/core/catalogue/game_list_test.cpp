@@ -1,5 +1,4 @@
-#include "core/catalogue/game_list.h"
-
+#include "core/catalogue/catalogue.h"
 #include "core/catalogue/catalogue_fixture.h"
 #include "core/platform/in_brief.h"
 #include "fakes/emulators.h"
@@ -11,11 +10,11 @@ namespace {
 class GameList : public CatalogueTest {
  protected:
   std::string Filled(GameState state, FillResult result = FillResult::kFilled) {
-    EXPECT_EQ(FillList(files_, app_, mame_, state, list_), result);
+    EXPECT_EQ(Catalogue(files_, folders_, mame_).Fill(state, list_), result);
     return Names(list_);
   }
   std::string Filtered(ValueFilter filter, std::string_view value) {
-    FilterList(files_, app_, mame_, filter, value, list_);
+    Catalogue(files_, folders_, mame_).Filter(filter, value, list_);
     return Names(list_);
   }
   void PutList(std::string_view text) {
@@ -64,7 +63,8 @@ TEST_F(GameList, WithoutTheFileOfItsStateTheListStaysAsItWas) {
   EXPECT_EQ(Filled(GameState::kNeoGeo, FillResult::kNoDataFile), "Old,");
   EXPECT_EQ(Filled(GameState::kAvailable, FillResult::kNoScanFile), "Old,");
   files_.Put(R"(C:\Zarvo\cfg\M72.scn)", "\"A;N\"\r\n");
-  EXPECT_EQ(FillList(files_, app_, kM72, GameState::kMissing, list_), FillResult::kNoScanFile);
+  EXPECT_EQ(Catalogue(files_, folders_, kM72).Fill(GameState::kMissing, list_),
+            FillResult::kNoScanFile);
   EXPECT_EQ(Names(list_), "Old,");
   EXPECT_EQ(Filled(GameState::kAllSupported, FillResult::kNoDataFile), "");
   PutData(Header());

@@ -1,5 +1,4 @@
-#include "core/catalogue/scan.h"
-
+#include "core/catalogue/catalogue.h"
 #include "core/catalogue/catalogue_fixture.h"
 #include "core/platform/in_brief.h"
 #include "fakes/emulators.h"
@@ -12,7 +11,7 @@ class Scan : public CatalogueTest {
   // The number found, or -1 if the scan failed, and the scan file.
   std::string Run(SetType sets, std::string_view folder = R"(C:\Roms)",
                   const Emulator& emulator = kMame) {
-    const auto outcome = ScanRoms(files_, app_, emulator, folder, sets);
+    const auto outcome = Catalogue(files_, folders_, emulator).Scan(folder, sets);
     written_ = outcome && outcome->written;
     return std::to_string(outcome ? outcome->found : -1) + " " +
            files_.BytesOf(R"(C:\Zarvo\cfg\)" + std::string(emulator.ScanFile()));

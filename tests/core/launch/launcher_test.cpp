@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "core/platform/dos_path.h"
+#include "core/platform/messages.h"
 #include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/recorded_boxes.h"
@@ -23,8 +24,7 @@ const std::string kBothStand =
     "mame/roms verr\xE0 sovrascritta, e verr\xE0 perduta. Continuare?";
 
 // A panel whose answers the test sets, and that notes what it is asked.
-class ScriptedPanel : public LaunchPanel {
- public:
+struct ScriptedPanel {
   bool knows_game = true;
   std::string rom = "sf2";
   std::string parent = "-";
@@ -33,31 +33,37 @@ class ScriptedPanel : public LaunchPanel {
   OptionValues options;
   std::string calls;
 
-  void SaveCfg() override { calls += "save; "; }
-  bool FindRom(std::string_view game) override {
-    calls += "find " + std::string(game) + "; ";
-    return knows_game;
+  [[nodiscard]] LaunchRequest Request() const {
+    return {.game = "Street Fighter II",
+            .emulator_folder = emulator_folder,
+            .command = {.emulator_path = emulator_path,
+                        .rom_name = "",
+                        .options = options,
+                        .recording = "",
+                        .now = {}}};
   }
-  [[nodiscard]] std::string RomName() const override { return rom; }
-  [[nodiscard]] std::string ParentRom() const override { return parent; }
-  [[nodiscard]] std::string EmulatorPath() const override { return emulator_path; }
-  [[nodiscard]] std::string EmulatorFolder() const override { return emulator_folder; }
-  [[nodiscard]] CommandInput Command() const override {
-    return {.emulator_path = "", .rom_name = "", .options = options, .recording = "", .now = {}};
+  LaunchCalls Calls() {
+    return {.save_cfg = [this] { calls += "save; "; },
+            .find_rom = [this](std::string_view game) -> std::optional<FoundRom> {
+              calls += "find " + std::string(game) + "; ";
+              if (!knows_game) return std::nullopt;
+              return FoundRom{.rom = rom, .parent = parent};
+            },
+            .show_emulator_picker = [this] { calls += "emulator picker; "; },
+            .show_rom_picker = [this] { calls += "rom picker; "; }};
   }
-  void ShowEmulatorPicker() override { calls += "emulator picker; "; }
-  void ShowRomPicker() override { calls += "rom picker; "; }
 };
+
+// A text with one of the described messages in short.
+std::string InShort(std::string text, std::string_view message, std::string_view name) {
+  const std::size_t at = text.find(message);
+  return at == std::string::npos ? text : text.replace(at, message.size(), name);
+}
 
 // Each emulator stands in C:\Emu\<word>; the archives that a game's record names in C:\Mine.
 class LauncherTest : public testing::Test {
  protected:
-  LauncherTest() {
-    app_.ProgramFolder = "C:\\Zarvo";
-    drive_.MakeFolder("C:\\Zarvo");
-    app_.messages.MsgNoRom = "no rom";
-    app_.messages.MsgRomOverwrite = "overwrite?";
-  }
+  LauncherTest() { drive_.MakeFolder("C:\\Zarvo"); }
 
   // Archives are named between blanks.
   void Use(const Emulator& emulator, const std::string& mine, const std::string& own = "") {
@@ -96,8 +102,9 @@ class LauncherTest : public testing::Test {
       found = " with" + Archives();
       return run_result_;
     };
-    const LaunchEnd end = Launch(*emulator_, "Street Fighter II", panel_,
-                                 {.files = files, .boxes = boxes_, .app = app_, .run = run});
+    const LaunchEnd end =
+        Launch(*emulator_, panel_.Request(), panel_.Calls(),
+               {.files = files, .boxes = boxes_, .folders = folders_, .run = run});
     EXPECT_EQ(Archives(), before);
     EXPECT_FALSE(drive_.Exists(folder_ + "\\lancia.bat"));
     EXPECT_TRUE(boxes_.answers.empty()) << "a question didn't come";
@@ -106,6 +113,7 @@ class LauncherTest : public testing::Test {
     const std::string below = "\r\rYes runs the archive that stands in " + own_ +
                               ". Zarvo overwrites and deletes nothing there.";
     for (auto& box : boxes_.shown) {
+      box.text = InShort(InShort(box.text, MsgNoRom, "no rom"), MsgRomOverwrite, "overwrite?");
       EXPECT_EQ(box.icon, BoxIcon::kExclamation) << box.text;
       const bool is_question = box.buttons == BoxButtons::kYesNo;
       EXPECT_EQ(box.text.ends_with(below), is_question) << box.text;
@@ -127,7 +135,7 @@ class LauncherTest : public testing::Test {
   }
 
   mutable TempDrive drive_;
-  AppState app_;
+  const ProgramFolders folders_{"C:\\Zarvo"};
   RecordedBoxes boxes_;
   const Emulator* emulator_ = nullptr;
   ScriptedPanel panel_;
@@ -216,7 +224,7 @@ TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
     for (const char* path : {"C:\\Emu\\None.exe", ""}) {
       Use(emulator, "sf2");
       panel_.emulator_path = path;
-      EXPECT_EQ(Start(), title + app_.messages.MsgNoEmulator + ": no emulator");
+      EXPECT_EQ(Start(), title + std::string(MsgNoEmulator) + ": no emulator");
       EXPECT_EQ(panel_.calls, looks_up_first ? "save; find Street Fighter II; emulator picker; "
                                              : "save; emulator picker; ");
     }
@@ -288,14 +296,14 @@ TEST_F(LauncherTest, WhatCannotBeRemovedAfterTheRunIsTold) {
     files.Fail(FileStep::kDelete, name);
     const auto run = [](std::string_view /*line*/) { return Success(); };
     boxes_.shown.clear();
-    EXPECT_EQ(Launch(*emulator_, "Street Fighter II", panel_,
-                     {.files = files, .boxes = boxes_, .app = app_, .run = run}),
+    EXPECT_EQ(Launch(*emulator_, panel_.Request(), panel_.Calls(),
+                     {.files = files, .boxes = boxes_, .folders = folders_, .run = run}),
               LaunchEnd::kRan);
     const std::string path = (name == "sf2.zip" ? own_ : folder_) + "\\" + name;
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_THAT(boxes_.shown[0].text, testing::EndsWith(path + ": No space left on device"));
     EXPECT_TRUE(drive_.Exists(path));
-    LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();  // the next start of the program
+    LaunchNotes(drive_.files(), folders_.ProgramFolder).Settle();  // the next start of the program
     EXPECT_FALSE(drive_.Exists(path) || drive_.Exists("C:\\Zarvo\\running.dat"));
   }
 }
@@ -308,7 +316,7 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
   const std::string half = JoinPath(own_, "zarvo.$$$");
   for (int steps = 1; steps <= 5; ++steps) {
     {
-      LaunchNotes cut_off(drive_.files(), app_.ProgramFolder);
+      LaunchNotes cut_off(drive_.files(), folders_.ProgramFolder);
       ASSERT_TRUE(cut_off.AddWork(half).ok());
       if (steps >= 2) drive_.Write(half, "ha");
       if (steps >= 3) {
@@ -324,7 +332,7 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
     }
     if (steps == 3) drive_.Write(copy, "of the player");
     const std::string stays = steps == 3 ? " sf2.zip=of the player" : "";
-    LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();
+    LaunchNotes(drive_.files(), folders_.ProgramFolder).Settle();
     EXPECT_EQ(Archives(), stays) << steps;
     EXPECT_FALSE(drive_.Exists(half) || drive_.Exists(folder_ + "\\lancia.bat")) << steps;
     EXPECT_FALSE(drive_.Exists("C:\\Zarvo\\running.dat")) << steps;
@@ -332,18 +340,18 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
   }
   // The next start of the game takes the copy for what it is.
   {
-    LaunchNotes cut_off(drive_.files(), app_.ProgramFolder);
+    LaunchNotes cut_off(drive_.files(), folders_.ProgramFolder);
     drive_.Write(copy, "mine");
     ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(copy).value()).ok());
   }
   const std::string before = Archives();
   EXPECT_EQ(before, " sf2.zip=mine");
   boxes_.shown.clear();
-  Launch(
-      *emulator_, "Street Fighter II", panel_,
-      {.files = drive_.files(), .boxes = boxes_, .app = app_, .run = [](std::string_view /*line*/) {
-         return Success();
-       }});
+  Launch(*emulator_, panel_.Request(), panel_.Calls(),
+         {.files = drive_.files(),
+          .boxes = boxes_,
+          .folders = folders_,
+          .run = [](std::string_view /*line*/) { return Success(); }});
   EXPECT_TRUE(boxes_.shown.empty());
   EXPECT_EQ(Archives(), "");
 }
@@ -356,7 +364,7 @@ TEST_F(LauncherTest, ANoteThatWasTamperedWithRemovesNothing) {
                "work C:\\precious.txt\r\ncopy " + identity + " C:\\precious.txt\r\ncopy  " + own_ +
                    "\\sf2.zip\r\ncopy 1-2-3-4 " + own_ +
                    "\\sf2.zip\r\nwork lancia.bat\r\ncopy\r\n" + std::string(3, '\0') + "\r\nwork");
-  LaunchNotes(drive_.files(), app_.ProgramFolder).Settle();
+  LaunchNotes(drive_.files(), folders_.ProgramFolder).Settle();
   EXPECT_TRUE(drive_.Exists("C:\\precious.txt"));
   EXPECT_EQ(Archives(), " sf2.ZIP=own");
 }

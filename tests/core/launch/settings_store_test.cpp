@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "core/platform/in_brief.h"
-#include "fakes/app_in.h"
 #include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
@@ -15,10 +14,8 @@ constexpr std::string_view kStore = R"(C:\Zarvo\cfg\Raine.set)";
 constexpr std::string_view kTemporary = R"(C:\Zarvo\cfg\Raineset.tmp)";
 
 // Raine's record is the shortest: rom folder, three lists, two check boxes.
-class SettingsStore : public testing::Test {
+class SettingsStoreTest : public testing::Test {
  protected:
-  SettingsStore() { app_.RomPathOf(kRaine) = "C:\\Mine"; }
-
   static OptionValues Values(std::string folder, std::initializer_list<int> numbers) {
     OptionValues values{.rom_folder = std::move(folder), .values = {}};
     for (const int number : numbers) values.values.push_back({.number = number, .text = ""});
@@ -28,8 +25,7 @@ class SettingsStore : public testing::Test {
   // Loads into a page of "C:\Page 8 9 16 1 1"; gives outcome and page: "record C:\A 1 2 3 1 0".
   std::string Load(std::string_view key) {
     OptionValues page = Values("C:\\Page", {8, 9, 16, 1, 1});
-    const LoadOutcome outcome = LoadSettings(store_, app_, raine_, key, page);
-    EXPECT_EQ(app_.SettingsFound, outcome == LoadOutcome::kRecord);
+    const LoadOutcome outcome = store_.Load(key, "C:\\Mine", page);
     std::string text = outcome == LoadOutcome::kRecord     ? "record "
                        : outcome == LoadOutcome::kDefaults ? "defaults "
                                                            : "nothing ";
@@ -39,19 +35,19 @@ class SettingsStore : public testing::Test {
   }
   // Saves the record of the key, which ends in 'C:\R',1,2,3,0,1.
   Status Save(std::string_view key, DosFiles& files) {
-    Store store = SettingsStoreOf(files, app_, raine_);
-    return SaveSettings(store, raine_, key, Values("C:\\R", {1, 2, 3, 0, 1}));
+    SettingsStore store(files, folders_, raine_);
+    return store.Save(key, Values("C:\\R", {1, 2, 3, 0, 1}));
   }
   Status Save(std::string_view key) { return Save(key, drive_.files()); }
   void Write(std::string_view path, std::string_view text) { drive_.Write(path, Bytes(text)); }
 
   TempDrive drive_;
-  AppState app_ = AppIn("C:\\Zarvo");
+  ProgramFolders folders_{"C:\\Zarvo"};
   const Emulator& raine_ = kRaine;
-  Store store_ = SettingsStoreOf(drive_.files(), app_, raine_);
+  SettingsStore store_{drive_.files(), folders_, raine_};
 };
 
-TEST_F(SettingsStore, WritesTheRecordsOfAllEmulatorsAsTold) {
+TEST_F(SettingsStoreTest, WritesTheRecordsOfAllEmulatorsAsTold) {
   const std::pair<Emulator, std::string_view> rows[] = {
       {kMame, ",0,0,0,0,1,1,0,0,0,0,'0','0',14,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0"},
       {kCallus, ",10,10,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0"},
@@ -65,7 +61,7 @@ TEST_F(SettingsStore, WritesTheRecordsOfAllEmulatorsAsTold) {
   }
 }
 
-TEST_F(SettingsStore, EveryFieldOfEveryEmulatorComesBack) {
+TEST_F(SettingsStoreTest, EveryFieldOfEveryEmulatorComesBack) {
   for (const Emulator& emulator : Emulators()) {
     const auto options = emulator.options;
     OptionValues values = DefaultValues(emulator, "D:\\Other");
@@ -76,16 +72,15 @@ TEST_F(SettingsStore, EveryFieldOfEveryEmulatorComesBack) {
       const int last = static_cast<int>(options[i].items.size()) - 1;
       if (options[i].kind == OptionKind::kCombo) values.values[i].number = i % 2 == 0 ? last : -1;
     }
-    Store store = SettingsStoreOf(drive_.files(), app_, emulator);
-    ASSERT_TRUE(SaveSettings(store, emulator, "Game", values));
+    SettingsStore store(drive_.files(), folders_, emulator);
+    ASSERT_TRUE(store.Save("Game", values));
     OptionValues read;
-    ASSERT_EQ(LoadSettings(store, app_, emulator, "Game", read), LoadOutcome::kRecord);
+    ASSERT_EQ(store.Load("Game", "", read), LoadOutcome::kRecord);
     EXPECT_EQ(RecordLine(emulator, "Game", read), RecordLine(emulator, "Game", values));
   }
 }
 
-TEST_F(SettingsStore, LoadsTheRecordOfTheKeyOrTheDefaults) {
-  app_.SettingsFound = true;
+TEST_F(SettingsStoreTest, LoadsTheRecordOfTheKeyOrTheDefaults) {
   EXPECT_EQ(Load("Pac"), "nothing C:\\Page 8 9 16 1 1") << "no store";
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"'Pac','C:\\A',1,2,3,1,0|", "record C:\\A 1 2 3 1 0"},
@@ -111,27 +106,25 @@ TEST_F(SettingsStore, LoadsTheRecordOfTheKeyOrTheDefaults) {
     Write(kStore, store);
     EXPECT_EQ(Load("Pac"), loaded) << store;
   }
-  EXPECT_EQ(app_.SettingsFields[0], "\"C:\\A\"") << "the shared slots hold the last record";
-  EXPECT_EQ(app_.SettingsFields[5], "0");
 }
 
-TEST_F(SettingsStore, PlaybackIsClearedWithoutARecordAndLeftAloneWithOne) {
+TEST_F(SettingsStoreTest, PlaybackIsClearedWithoutARecordAndLeftAloneWithOne) {
   const Emulator& mame = kMame;
   OptionValues values = DefaultValues(mame, "C:\\R");
   const std::size_t playback = OptionIndex(kMame, "chkPlayback");
-  Store store = SettingsStoreOf(drive_.files(), app_, mame);
-  ASSERT_TRUE(SaveSettings(store, mame, "Known", values));
+  SettingsStore store(drive_.files(), folders_, mame);
+  ASSERT_TRUE(store.Save("Known", values));
   drive_.Write("C:\\Zarvo\\cfg\\Mame.set", RecordLine(mame, "Known", values) + ",1\r\n");
-  LoadSettings(store, app_, mame, "Known", values);
+  store.Load("Known", "", values);
   EXPECT_EQ(values.values[playback].number, 0) << "a record never turns it on";
   values.values[playback].number = 1;
-  LoadSettings(store, app_, mame, "Known", values);
+  store.Load("Known", "", values);
   EXPECT_EQ(values.values[playback].number, 1);
-  LoadSettings(store, app_, mame, "Unknown", values);
+  store.Load("Unknown", "", values);
   EXPECT_EQ(values.values[playback].number, 0);
 }
 
-TEST_F(SettingsStore, SavesInPlaceOrAtTheEndAndLeavesAllOtherBytesAlone) {
+TEST_F(SettingsStoreTest, SavesInPlaceOrAtTheEndAndLeavesAllOtherBytesAlone) {
   ASSERT_TRUE(Save(""));
   EXPECT_EQ(drive_.Read(kStore), Bytes("'','C:\\R',1,2,3,0,1|")) << "an empty key is a key";
   EXPECT_EQ(drive_.files().CurrentFolder(), "C:\\Zarvo\\cfg");
@@ -152,16 +145,16 @@ TEST_F(SettingsStore, SavesInPlaceOrAtTheEndAndLeavesAllOtherBytesAlone) {
   }
 }
 
-TEST_F(SettingsStore, ApplyToAllLeavesOneDefaultRecordThatServesEveryGame) {
+TEST_F(SettingsStoreTest, ApplyToAllLeavesOneDefaultRecordThatServesEveryGame) {
   Write(kStore, "'A','C:\\A',5,6,7,1,0|");
-  ASSERT_TRUE(SaveAsDefault(store_, raine_, Values("C:\\D", {4, 4, 4, 1, 1})));
+  ASSERT_TRUE(store_.SaveAsDefault(Values("C:\\D", {4, 4, 4, 1, 1})));
   EXPECT_EQ(drive_.Read(kStore), Bytes("'[DEFAULT]','C:\\D',4,4,4,1,1|"));
   EXPECT_EQ(Load("A"), "record C:\\D 4 4 4 1 1");
   ASSERT_TRUE(Save("A"));
   EXPECT_EQ(drive_.Read(kStore), Bytes("'[DEFAULT]','C:\\D',4,4,4,1,1|'A','C:\\R',1,2,3,0,1|"));
 }
 
-TEST_F(SettingsStore, AStoreCutAnywhereKeepsItsOtherRecordsAndTakesASave) {
+TEST_F(SettingsStoreTest, AStoreCutAnywhereKeepsItsOtherRecordsAndTakesASave) {
   const std::string first = Bytes("'A','C:\\A',1,2,3,1,0|");
   const std::string whole = first + Bytes("'B','C:\\B',4,5,6,0,1|'C','C:\\C',7,8,9,1,1|");
   for (std::size_t length = 0; length <= whole.size(); ++length) {
@@ -174,7 +167,7 @@ TEST_F(SettingsStore, AStoreCutAnywhereKeepsItsOtherRecordsAndTakesASave) {
   }
 }
 
-TEST_F(SettingsStore, AFailedSaveKeepsTheStoreAndNamesIt) {
+TEST_F(SettingsStoreTest, AFailedSaveKeepsTheStoreAndNamesIt) {
   for (const FileStep step : {FileStep::kReplace, FileStep::kBreakOffReplace, FileStep::kRead,
                               FileStep::kOpen, FileStep::kChangeFolder}) {
     Write(kStore, "'A','C:\\A',5,6,7,1,0|");

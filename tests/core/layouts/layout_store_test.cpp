@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "fakes/app_in.h"
 #include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
@@ -29,8 +28,8 @@ constexpr std::string_view kThree =
 class Layouts : public testing::Test {
  protected:
   TempDrive drive_;
-  AppState app_ = AppIn("C:\\Zarvo");
-  LayoutStore store_{drive_.files(), app_};
+  ProgramFolders folders_{"C:\\Zarvo"};
+  LayoutStore store_{drive_.files(), folders_};
 };
 
 TEST_F(Layouts, NamesAndRecordsInTheOrderOfTheFile) {
@@ -132,7 +131,7 @@ TEST_F(Layouts, AFileCutAnywhereLosesNoOtherBlockInASave) {
 TEST_F(Layouts, AFailedRewriteKeepsTheFileAndNamesIt) {
   drive_.Write(kLayouts, kThree);
   FailingFiles files(drive_.files());
-  LayoutStore store(files, app_);
+  LayoutStore store(files, folders_);
   for (const FileStep step : {FileStep::kReplace, FileStep::kRead, FileStep::kChangeFolder}) {
     files.Heal();
     files.Fail(step, "", "Broken");

@@ -8,13 +8,11 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "core/catalogue/game_list.h"
-#include "core/catalogue/scan.h"
+#include "core/catalogue/catalogue.h"
 #include "core/launch/settings_store.h"
 #include "core/layouts/layout_store.h"
 #include "core/panel/cfg_file.h"
 #include "core/platform/host_file.h"
-#include "fakes/app_in.h"
 #include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
@@ -75,53 +73,51 @@ struct Hands {
 struct Kind {
   std::string_view file;
   std::string_view temporary;
-  std::function<Hands(DosFiles&, AppState&)> open;
+  std::function<Hands(DosFiles&, ProgramFolders&)> open;
 };
 
 const Emulator& Mame() { return kMame; }
 
-Hands Cfg(DosFiles& files, AppState& app) {
-  auto store = std::make_shared<Store>(CfgStoreOf(files, app, Mame()));
-  return {[=] { return ReadCfg(*store, Mame()).exe_path.has_value(); },
+Hands Cfg(DosFiles& files, ProgramFolders& folders) {
+  auto store = std::make_shared<CfgFile>(files, folders, Mame());
+  return {[=] { return store->Read().exe_path.has_value(); },
           [=] {
-            return WriteCfg(*store, Mame(),
-                            {.exe_path = "NEW",
-                             .rom_path = "",
-                             .snap_path = "",
-                             .snap_format = "",
-                             .emulator_folder = "",
-                             .layout_word = "",
-                             .favourites = {}});
+            return store->Write({.exe_path = "NEW",
+                                 .rom_path = "",
+                                 .snap_path = "",
+                                 .snap_format = "",
+                                 .emulator_folder = "",
+                                 .layout_word = "",
+                                 .favourites = {}});
           }};
 }
 
-Hands Set(DosFiles& files, AppState& app) {
-  auto store = std::make_shared<Store>(SettingsStoreOf(files, app, Mame()));
+Hands Set(DosFiles& files, ProgramFolders& folders) {
+  auto store = std::make_shared<SettingsStore>(files, folders, Mame());
   OptionValues values = DefaultValues(Mame(), "C:\\R");
-  return {[=, &app]() mutable {
-            return LoadSettings(*store, app, Mame(), "OLD", values) != LoadOutcome::kNothing;
-          },
-          [=] { return SaveSettings(*store, Mame(), "NEW", values); }};
+  return {[=]() mutable { return store->Load("OLD", "", values) != LoadOutcome::kNothing; },
+          [=] { return store->Save("NEW", values); }};
 }
 
-Hands Scan(DosFiles& files, AppState& app) {
+Hands Scan(DosFiles& files, ProgramFolders& folders) {
   return {[&] {
             NameList list;
-            return FillList(files, app, Mame(), GameState::kMissing, list) == FillResult::kFilled;
+            return Catalogue(files, folders, Mame()).Fill(GameState::kMissing, list) ==
+                   FillResult::kFilled;
           },
           [&]() -> Status {
-            const auto scan = ScanRoms(files, app, Mame(), "C:\\Emu", SetType::kSplit);
+            const auto scan = Catalogue(files, folders, Mame()).Scan("C:\\Emu", SetType::kSplit);
             return scan ? scan->written : scan.error();
           }};
 }
 
-Hands Layouts(DosFiles& files, AppState& app) {
-  auto store = std::make_shared<LayoutStore>(files, app);
+Hands Layouts(DosFiles& files, ProgramFolders& folders) {
+  auto store = std::make_shared<LayoutStore>(files, folders);
   return {[=] { return store->Names().ok(); }, [=] { return store->AddBlock("NEW"); }};
 }
 
-Hands Ini(DosFiles& files, AppState& app) {
-  auto store = std::make_shared<LayoutStore>(files, app);
+Hands Ini(DosFiles& files, ProgramFolders& folders) {
+  auto store = std::make_shared<LayoutStore>(files, folders);
   return {[=] { return store->ReadDefaultLayout().ok(); },
           [=] { return store->SaveIni({.default_layout = "NEW"}); }};
 }
@@ -142,12 +138,12 @@ struct Site {
   [[nodiscard]] std::string Text() const {
     return drive.Exists(kind.file) ? drive.Read(kind.file) : "(none)";
   }
-  Hands Open() { return kind.open(files, app); }
+  Hands Open() { return kind.open(files, folders); }
 
   const Kind& kind;
   TempDrive drive;
   FailingFiles files{drive.files()};
-  AppState app = AppIn("C:\\Zarvo");
+  ProgramFolders folders{"C:\\Zarvo"};
 };
 
 bool IsNew(std::string_view text) { return text.find("NEW") != std::string_view::npos; }
@@ -273,23 +269,24 @@ TEST(Stores, WhatCouldNotBeReadIsNotOverwrittenUntilItWasRead) {
 
 TEST(Stores, ApplyingToAllErasesAStoreThatIsBackButNotOneThatCantBeRead) {
   Site site(kKinds[1], true);
-  Store store = SettingsStoreOf(site.files, site.app, Mame());
+  SettingsStore store(site.files, site.folders, Mame());
   const OptionValues values = DefaultValues(Mame(), "C:\\NEW");
   site.files.Fail(FileStep::kOpen, "Mame.set", "Input/output error");
-  const Status saved = SaveAsDefault(store, Mame(), values);
+  const Status saved = store.SaveAsDefault(values);
   ASSERT_FALSE(saved);
   EXPECT_EQ(saved.error().message, "Mame.set: Input/output error");
   EXPECT_EQ(site.Text(), kOld);
-  EXPECT_FALSE(store.Load());
+  OptionValues read = values;
+  EXPECT_EQ(store.Load("OLD", "", read), LoadOutcome::kNothing);
   site.files.Heal();
-  EXPECT_TRUE(SaveAsDefault(store, Mame(), values));
+  EXPECT_TRUE(store.SaveAsDefault(values));
   EXPECT_TRUE(IsNew(site.Text()));
-  EXPECT_TRUE(SaveSettings(store, Mame(), "A", values)) << "what was erased can be saved again";
+  EXPECT_TRUE(store.Save("A", values)) << "what was erased can be saved again";
 }
 
 TEST(Stores, LayoutsThatCantBeReadKeepTheDefaultLayoutInTheIni) {
   Site site(kKinds[3], true);
-  LayoutStore store(site.files, site.app);
+  LayoutStore store(site.files, site.folders);
   site.drive.Write(R"(C:\Zarvo\layouts.dat)", "[OLD]\r\n-\r\n");
   site.files.Fail(FileStep::kOpen, "layouts.dat", "Input/output error");
   EXPECT_FALSE(store.Names());

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "fakes/app_in.h"
 #include "fakes/emulators.h"
 #include "fakes/failing_files.h"
 #include "fakes/temp_drive.h"
@@ -18,11 +17,11 @@ constexpr std::string_view kSample =
     "\"C:\\Emu\\Mame\\Mame.exe\"\r\n\"C:\\Emu\\Mame\\Roms\"\r\n\"C:\\Emu\\Snapshot\\Mame\"\r\n"
     "\"GIF\"\r\n\"C:\\Emu\\Mame\"\r\n\"up\"\r\n";
 
-class CfgFile : public testing::Test {
+class CfgFileTest : public testing::Test {
  protected:
   CfgFields Read(const Emulator& emulator = kMame) {
-    Store store = CfgStoreOf(drive_.files(), app_, emulator);
-    return ReadCfg(store, emulator);
+    CfgFile store(drive_.files(), folders_, emulator);
+    return store.Read();
   }
   CfgFields Read(std::string_view text) {
     drive_.Write(kFile, text);
@@ -41,28 +40,27 @@ class CfgFile : public testing::Test {
   }
   [[nodiscard]] Status Write(DosFiles& files, std::vector<std::string> favourites,
                              const Emulator& emulator = kMame) {
-    Store store = CfgStoreOf(files, app_, emulator);
-    return WriteCfg(store, emulator,
-                    {.exe_path = R"(C:\Emu\Mame\Mame.exe)",
-                     .rom_path = R"(C:\Emu\Mame\Roms)",
-                     .snap_path = R"(C:\Emu\Snapshot\Mame)",
-                     .snap_format = "GIF",
-                     .emulator_folder = "C:\\Emu\\Mame",
-                     .layout_word = "up",
-                     .favourites = std::move(favourites)});
+    CfgFile store(files, folders_, emulator);
+    return store.Write({.exe_path = R"(C:\Emu\Mame\Mame.exe)",
+                        .rom_path = R"(C:\Emu\Mame\Roms)",
+                        .snap_path = R"(C:\Emu\Snapshot\Mame)",
+                        .snap_format = "GIF",
+                        .emulator_folder = "C:\\Emu\\Mame",
+                        .layout_word = "up",
+                        .favourites = std::move(favourites)});
   }
 
   TempDrive drive_;
-  AppState app_ = AppIn("C:\\Zarvo");
+  ProgramFolders folders_{"C:\\Zarvo"};
 };
 
-TEST_F(CfgFile, WritesSixLinesAndTheFavouritesAsGiven) {
+TEST_F(CfgFileTest, WritesSixLinesAndTheFavouritesAsGiven) {
   ASSERT_TRUE(Write(drive_.files(), {"Zaxxon", "Puck, Man"}));
   EXPECT_EQ(drive_.Read(kFile), std::string(kSample) + "\"Zaxxon\"\r\n\"Puck, Man\"\r\n");
   EXPECT_EQ(drive_.files().CurrentFolder(), "C:\\Zarvo\\cfg");
 }
 
-TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
+TEST_F(CfgFileTest, M72NeitherReadsNorKeepsFurtherLines) {
   drive_.Write(R"(C:\Zarvo\cfg\m72.CFG)",
                "\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\nx");
   EXPECT_EQ(Text(Read(kM72)), "E|R|S|G|F|up|-");
@@ -70,14 +68,14 @@ TEST_F(CfgFile, M72NeitherReadsNorKeepsFurtherLines) {
   EXPECT_EQ(drive_.Read("C:\\Zarvo\\cfg\\M72.cfg"), kSample);
 }
 
-TEST_F(CfgFile, AFileThatEndsEarlyGivesTheFieldsItHas) {
+TEST_F(CfgFileTest, AFileThatEndsEarlyGivesTheFieldsItHas) {
   EXPECT_EQ(Text(Read()), "-|-|-|-|-|-|-") << "no file";
   EXPECT_EQ(Text(Read("")), "-|-|-|-|-|-|-");
   EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n")), "E|R|S|-|-|-|-");
   EXPECT_EQ(Text(Read("\"E\"\r\n\"R\"\r\n\"S\"\r\n\"G\"\r\n\"F\"\r\n\"up\"\r\n")), "E|R|S|G|F|up|");
 }
 
-TEST_F(CfgFile, ReadsAValueByItsQuotesOrUpToTheNextComma) {
+TEST_F(CfgFileTest, ReadsAValueByItsQuotesOrUpToTheNextComma) {
   struct Row {
     std::string_view text;
     std::vector<std::string> favourites;
@@ -98,7 +96,7 @@ TEST_F(CfgFile, ReadsAValueByItsQuotesOrUpToTheNextComma) {
   }
 }
 
-TEST_F(CfgFile, WhatCanBeWrittenReadsBackTheSame) {
+TEST_F(CfgFileTest, WhatCanBeWrittenReadsBackTheSame) {
   const std::vector<std::pair<std::string, bool>> rows = {
       {"Pac", true},     {"", true},          {" a", true},      {"a,b", true},
       {"a \"b\"", true}, {"a\"", true},       {"\"a\"", false},  {" a\"", false},
@@ -113,7 +111,7 @@ TEST_F(CfgFile, WhatCanBeWrittenReadsBackTheSame) {
   }
 }
 
-TEST_F(CfgFile, AFileCutAnywhereGivesItsWholeLinesInFrontOfTheCut) {
+TEST_F(CfgFileTest, AFileCutAnywhereGivesItsWholeLinesInFrontOfTheCut) {
   const std::string lines[] = {"E", "R", "S", "G", "F", "up", "Zaxxon", "Asteroids"};
   std::string text;
   std::string fields;
@@ -127,7 +125,7 @@ TEST_F(CfgFile, AFileCutAnywhereGivesItsWholeLinesInFrontOfTheCut) {
   }
 }
 
-TEST_F(CfgFile, AFailedWriteKeepsTheOldFileAndNamesIt) {
+TEST_F(CfgFileTest, AFailedWriteKeepsTheOldFileAndNamesIt) {
   drive_.Write(kFile, kSample);
   FailingFiles files(drive_.files());
   files.Fail(FileStep::kReplace, "Mame.cfg");

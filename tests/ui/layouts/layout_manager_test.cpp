@@ -25,14 +25,12 @@ using testing::IsEmpty;
 // Panels and a main window that are nothing but their places, and write down what is asked of them.
 class RecordingSections : public SectionHost, public MainPlace {
  public:
-  explicit RecordingSections(AppState& app) : app_(app) {}
-
   // A panel that stands open.
-  void Stand(const Emulator& emulator, const TwipRect& place) {
-    app_.ShowWord(emulator) = "SI";
-    places[&emulator] = place;
-  }
+  void Stand(const Emulator& emulator, const TwipRect& place) { places[&emulator] = place; }
 
+  [[nodiscard]] bool IsOpen(const Emulator& emulator) const override {
+    return places.contains(&emulator);
+  }
   void OpenSection(const Emulator& emulator) override {
     told.push_back("open " + std::string(emulator.SectionWord()));
     if (!without_data_file.contains(&emulator)) Stand(emulator, {});
@@ -40,7 +38,6 @@ class RecordingSections : public SectionHost, public MainPlace {
   bool SaveOpenPanels() override { return true; }
   bool CloseOpenPanels() override {
     told.emplace_back("close all");
-    for (const auto& [emulator, place] : places) app_.ShowWord(*emulator) = "NO";
     places.clear();
     return true;
   }
@@ -64,9 +61,6 @@ class RecordingSections : public SectionHost, public MainPlace {
   std::map<const Emulator*, TwipRect> places;
   TwipRect main{.left = 500, .top = 400};
   std::vector<std::string> told;
-
- private:
-  AppState& app_;
 };
 
 constexpr std::string_view kTwoLayouts =
@@ -81,7 +75,7 @@ std::string Ini(int on_top, int autoload, const std::string& name) {
 
 class LayoutManagerTest : public testing::Test {
  protected:
-  LayoutManagerTest() { app_.ProgramFolder = R"(C:\Zarvo)"; }
+  LayoutManagerTest() { folders_.ProgramFolder = R"(C:\Zarvo)"; }
   void TearDown() override { EXPECT_THAT(Take(boxes_), IsEmpty()); }
 
   // The manager over these files, on the screen.
@@ -120,10 +114,10 @@ class LayoutManagerTest : public testing::Test {
 
   TempDrive drive_;
   FailingFiles files_{drive_.files()};
-  AppState app_;
+  ProgramFolders folders_;
   RecordedBoxes boxes_;
-  RecordingSections sections_{app_};
-  LayoutTools tools_{files_, app_, boxes_, sections_, sections_};
+  RecordingSections sections_;
+  LayoutTools tools_{files_, folders_, boxes_, sections_, sections_};
   std::unique_ptr<Window> window_;
 };
 

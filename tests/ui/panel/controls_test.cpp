@@ -65,7 +65,7 @@ class NamedPanelControlsTest : public PanelTest {
 };
 
 TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
-  MainWindow main(files_, app_, boxes_,
+  MainWindow main(files_, folders_, boxes_,
                   [](const Emulator& /*emulator*/) { return std::vector<std::string>(); }, {});
   std::map<std::string, QWidget*> all = {{"Main", &main}};
   for (const Emulator& emulator : Emulators()) {

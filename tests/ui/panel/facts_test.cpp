@@ -23,12 +23,12 @@ class FactsTest : public PanelTest {
     QImage image(8, 8, QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);
-    panel.picSnap->imgSnap->CurrentPicture().Draw(painter, image.rect());
+    panel.pages->picSnap->imgSnap->CurrentPicture().Draw(painter, image.rect());
     return image.pixelColor(4, 4);
   }
   // What the visible ones of the six labels say.
   static std::string Labels(const EmulatorPanel& panel) {
-    const SnapshotPage& page = *panel.picSnap;
+    const SnapshotPage& page = *panel.pages->picSnap;
     std::string texts;
     for (const Label* const label : {page.lblNoAvail, page.lblSnapNo, page.lblNoSnapFound,
                                      page.lblLookFor, page.lblLookedFor, page.lblSnapTip}) {
@@ -48,14 +48,14 @@ TEST_F(FactsTest, APictureOrWhatWasLookedFor) {
            "|Press F12 during the game to grab your snap!|";
   };
   EXPECT_EQ(Labels(panel), missing("aliens.gif"));
-  panel.picConf->optSnapBMP->SetValue(true);
+  panel.pages->picConf->optSnapBMP->SetValue(true);
   PressEntry(panel.games->lstRom, 0);
   EXPECT_EQ(Seen(panel), QColor(Qt::red));
   EXPECT_EQ(Labels(panel), "");
   PressEntry(panel.games->lstRom, 3);
   EXPECT_EQ(Seen(panel), QColor(Qt::black)) << "the picture of the game before is gone";
   EXPECT_EQ(Labels(panel), missing("puckman.bmp"));
-  panel.picConf->optSnapJPG->SetValue(true);
+  panel.pages->picConf->optSnapJPG->SetValue(true);
   PressEntry(panel.games->lstRom, 4);
   EXPECT_EQ(Seen(panel), QColor(Qt::white));
 }
@@ -63,11 +63,11 @@ TEST_F(FactsTest, APictureOrWhatWasLookedFor) {
 TEST_F(FactsTest, ANewSnapshotFolderCountsFromTheButtonOn) {
   PutPicture(R"(C:\Other\aliens.bmp)", Qt::green);
   EmulatorPanel& panel = OpenConfigured(kMame);
-  panel.picConf->optSnapBMP->SetValue(true);
-  panel.TakeSnapFolder(R"(C:\Other)");
+  panel.pages->picConf->optSnapBMP->SetValue(true);
+  panel.paths->TakeSnapFolder(R"(C:\Other)");
   PressEntry(panel.games->lstRom, 0);
   EXPECT_THAT(Labels(panel), testing::HasSubstr(R"(|C:\Snaps|)"));
-  Press(panel.imgButSnap);
+  Press(panel.pages->imgButSnap);
   EXPECT_EQ(Labels(panel), "");
   EXPECT_EQ(Seen(panel), QColor(Qt::green));
 }
@@ -86,13 +86,13 @@ TEST_F(FactsTest, DetailsShowEveryFieldUnderItsName) {
          {"Name",   "RomFile", "OC",      "CloneOf", "Genre",    "MadeBy", "Year", "Playable",
           "Colors", "Sound",   "Samples", "HiScore", "Cocktail", "Driver", "Cpu1", "Cpu2",
           "Cpu3",   "Cpu4",    "Sound1",  "Sound2",  "Sound3",   "Sound4"}) {
-      const auto* label =
-          panel.picInfo->findChild<Label*>(QStringLiteral("lblInfo") + QString::fromLatin1(name));
+      const auto* label = panel.pages->picInfo->findChild<Label*>(QStringLiteral("lblInfo") +
+                                                                  QString::fromLatin1(name));
       all += (label == nullptr ? "(no label)" : label->Caption()) + ";";
     }
     return all;
   };
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   EXPECT_EQ(shown(),
             "A & <b>B</b>;rom.zip;YES;par;Genre;Maker;1999;P;Co;Yes;Not needed;Hi;Ta;d.c;C1;C2;C3;"
             "C4;S1;S2;S3;S4;");
@@ -110,25 +110,25 @@ TEST_F(FactsTest, TheHelpListFollowsTheGameOnMameAndCallus) {
   drive_.Write(R"(C:\Emu\Mame\gamelist.txt)", "Puck Man\r\nA maze.\r\n\r\n\r\nZaxxon\r\n");
   drive_.Write(R"(C:\Emu\Callus\gamelist.txt)", "The 1941 title\r\nPlanes.\r\n\r\n\r\n");
   EmulatorPanel& mame = OpenConfigured(kMame);
-  Press(mame.imgButHelp);
-  EXPECT_EQ(Entries(mame.picHelp->lstHelp), "Game info not found in gamelist.txt!");
+  Press(mame.pages->imgButHelp);
+  EXPECT_EQ(Entries(mame.pages->picHelp->lstHelp), "Game info not found in gamelist.txt!");
   PressEntry(mame.games->lstRom, 3);
-  EXPECT_EQ(Entries(mame.picHelp->lstHelp), "Puck Man|A maze.||");
+  EXPECT_EQ(Entries(mame.pages->picHelp->lstHelp), "Puck Man|A maze.||");
   const EmulatorPanel& callus = OpenConfigured(kCallus);
-  Press(callus.imgButHelp);
-  EXPECT_THAT(Entries(callus.picHelp->lstHelp), StartsWith("Planes.|"));
+  Press(callus.pages->imgButHelp);
+  EXPECT_THAT(Entries(callus.pages->picHelp->lstHelp), StartsWith("Planes.|"));
 
   EmulatorPanel& system16 = OpenConfigured(kSystem16);
-  const std::string keys = Entries(system16.picHelp->lstHelp);
-  EXPECT_GT(system16.picHelp->lstHelp->ListCount(), 100);
+  const std::string keys = Entries(system16.pages->picHelp->lstHelp);
+  EXPECT_GT(system16.pages->picHelp->lstHelp->ListCount(), 100);
   EXPECT_THAT(keys, testing::MatchesRegex(
                         "Shinobi\\|---.*-\\|CTRL - Attack\\|ALT - Jump\\|SPACE - Magic\\|\\|.*"));
-  Press(system16.imgButHelp);
+  Press(system16.pages->imgButHelp);
   PressEntry(system16.games->lstRom, 1);
-  EXPECT_EQ(Entries(system16.picHelp->lstHelp), keys) << "it doesn't follow the selection";
+  EXPECT_EQ(Entries(system16.pages->picHelp->lstHelp), keys) << "it doesn't follow the selection";
   EXPECT_EQ(Caption(system16), "Shinobi");
   for (const Emulator& emulator : Those{kRaine, kM72}) {
-    EXPECT_EQ(OpenConfigured(emulator).picHelp->lstHelp, nullptr);
+    EXPECT_EQ(OpenConfigured(emulator).pages->picHelp->lstHelp, nullptr);
   }
 }
 

@@ -44,7 +44,7 @@ TEST_F(FavouritesTest, AGameIsDraggedInOnce) {
   Drag(panel, 2, panel.logo);  // dropped elsewhere; each press is a click as well
   EXPECT_EQ(Look(panel), "Metal Slug: Aliens|*Puck Man|Zaxxon (3)");
   EXPECT_EQ(Split(drive_.Read(CfgPath(kMame))).size(), 7U) << "nothing is written yet";
-  panel.SaveCfg();
+  panel.paths->SaveCfg();
   EXPECT_THAT(drive_.Read(CfgPath(kMame)),
               testing::EndsWith(Lines({"Zaxxon", "Puck Man", "Aliens"})));
   PressKey(panel.games->lstRom, Qt::Key_Insert);
@@ -124,7 +124,7 @@ TEST_F(FavouritesTest, UnknownNamesGoWhenTheyAreSelected) {
   PressEntry(list, 2);
   EXPECT_EQ(TakeBoxes().size(), 1U);
   EXPECT_EQ(Look(panel), "Puck Man: Aliens|Gone 2|*Puck Man (3)");
-  EXPECT_EQ(panel.RomFile, "puckman");
+  EXPECT_EQ(panel.game->RomFile, "puckman");
 
   panel.favourites->SetEntries({"Aliens", "Gone 1", "Gone 2"});
   PressEntry(list, 2);
@@ -138,7 +138,7 @@ TEST_F(FavouritesTest, UnknownNamesGoWhenTheyAreSelected) {
     EXPECT_THAT(TakeBoxes(), ElementsAre(StartsWith("! This rom was not found in Data-File.|")));
     EXPECT_THAT(Look(panel), testing::EndsWith(": *Gone 1|Zaxxon (2)"));
   }
-  EXPECT_EQ(panel.RomFile, "puckman") << "the rom found last";
+  EXPECT_EQ(panel.game->RomFile, "puckman") << "the rom found last";
 }
 
 // Nothing is selected among the favourites: the failure selects their first entry.

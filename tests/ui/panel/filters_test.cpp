@@ -156,10 +156,10 @@ TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
   drive_.Write(R"(C:\Emu\Mame\Roms\ALIENS.ZIP)", "");
   drive_.Write(R"(C:\Emu\Mame\Roms\mslug.zip)", "");
   EmulatorPanel& panel = Open(kMame);
-  ASSERT_TRUE(panel.picConf->optMerged->Value());
+  ASSERT_TRUE(panel.pages->picConf->optMerged->Value());
   for (const bool merged : {true, false}) {
-    panel.picConf->optSplitted->SetValue(!merged);
-    Press(panel.picConf->lblScanNow);
+    panel.pages->picConf->optSplitted->SetValue(!merged);
+    Press(panel.pages->picConf->lblScanNow);
     EXPECT_THAT(TakeBoxes(), ElementsAre(std::string(merged ? "i 3" : "i 2") +
                                          " Roms found in:|C:\\Emu\\Mame\\Roms"));
     EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 5 : 3) << "the list stays as it is";
@@ -167,7 +167,7 @@ TEST_F(FiltersTest, TheScanTellsItsCountAndTheStatesShowIt) {
     EXPECT_EQ(panel.games->lstRom->ListCount(), merged ? 3 : 2) << "also if it's chosen anew";
   }
   files_.Fail(FileStep::kReplace, "Mame.scn");
-  Press(panel.picConf->lblScanNow);
+  Press(panel.pages->picConf->lblScanNow);
   EXPECT_THAT(TakeBoxes(), ElementsAre("i 2 Roms found in:|C:\\Emu\\Mame\\Roms",
                                        "! Mame.scn: No space left on device"));
 }

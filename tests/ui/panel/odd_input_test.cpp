@@ -17,8 +17,9 @@ class OddInputTest : public PanelTest {
   // Walks the panel as a player would, over every page and a few games.
   void Wander(EmulatorPanel& panel) {
     ListBox* const list = panel.games->lstRom;
-    for (ImageBox* const button : {panel.imgButSnap, panel.imgButSet, panel.imgButInfo,
-                                   panel.imgButHelp, panel.imgButOpts, panel.imgButSnap}) {
+    for (ImageBox* const button :
+         {panel.pages->imgButSnap, panel.pages->imgButSet, panel.pages->imgButInfo,
+          panel.pages->imgButHelp, panel.pages->imgButOpts, panel.pages->imgButSnap}) {
       Press(button);
       list->SetListIndex(0);
       list->SetListIndex(list->ListCount() - 1);
@@ -26,7 +27,7 @@ class OddInputTest : public PanelTest {
     }
     panel.games->cboFilterGenre->SetListIndex(1);
     panel.games->cboFilterGenre->SetListIndex(0);
-    Press(panel.picConf->lblScanNow);
+    Press(panel.pages->picConf->lblScanNow);
     TakeBoxes();
   }
 };
@@ -90,10 +91,10 @@ TEST_F(OddInputTest, ARomNameThatLeadsElsewhereIsNoRom) {
     SCOPED_TRACE(name);
     PutData("Mame", DataHead("1") + Game("Trap;" + name + ";C;" + name + ";Shooter;Konami;1990"));
     EmulatorPanel& panel = OpenConfigured(kMame);
-    panel.picConf->optSnapBMP->SetValue(true);
-    Press(panel.imgButSnap);
-    EXPECT_TRUE(panel.picSnap->imgSnap->CurrentPicture().IsEmpty());
-    EXPECT_TRUE(panel.picSnap->lblNoAvail->Visible());
+    panel.pages->picConf->optSnapBMP->SetValue(true);
+    Press(panel.pages->imgButSnap);
+    EXPECT_TRUE(panel.pages->picSnap->imgSnap->CurrentPicture().IsEmpty());
+    EXPECT_TRUE(panel.pages->picSnap->lblNoAvail->Visible());
     const ModalPlay<FolderPicker> play([](FolderPicker& picker) { picker.UnloadWindow(); });
     PressKey(panel.games->lstRom, Qt::Key_Return);
     EXPECT_THAT(TakeBoxes(), ElementsAre(StartsWith("! Rom not found")));

@@ -71,7 +71,7 @@ TEST_F(OptionRulesTest, AMissingFolderOfRecordingsIsToldAndPlaybackStaysOff) {
 // It is no field of the record: a record leaves it, a game without one clears it.
 TEST_F(OptionRulesTest, PlaybackStaysFromGameToGameWithARecord) {
   EmulatorPanel& panel = OpenConfigured(kMame);
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   PressEntry(panel.games->lstRom, 3);
   PressEntry(panel.games->lstRom, 0);  // both have a record now
   TurnPlaybackOn(panel, true);
@@ -88,9 +88,9 @@ TEST_F(OptionRulesTest, PlaybackStaysFromGameToGameWithARecord) {
 
 TEST_F(OptionRulesTest, AGameThatRecordsByTheDefaultsEndsThePlayback) {
   EmulatorPanel& panel = OpenConfigured(kMame);
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   Check(panel, "chkRecord")->SetValue(1);
-  panel.SaveSettings("[DEFAULT]");
+  panel.game->Save("[DEFAULT]");
   Check(panel, "chkRecord")->SetValue(0);
   TurnPlaybackOn(panel, true);
   PressEntry(panel.games->lstRom, 3);
@@ -117,7 +117,7 @@ TEST_F(OptionRulesTest, TheSkipBoxesTakeWholeNumbersOnly) {
   const EmulatorPanel& panel = OpenConfigured(kMame);
   for (const bool is_row : {false, true}) {
     TextBox* const box =
-        panel.picSettings->Option(OptionIndex(kMame, is_row ? "txtSkipR" : "txtSkipC")).text;
+        panel.pages->picSettings->Option(OptionIndex(kMame, is_row ? "txtSkipR" : "txtSkipC")).text;
     const std::string refusal =
         std::string(is_row ? "! [Warning!] " : "! ") +
         "Format not valid!  |You must enter only 0-9 or|optionally '-' for negative values";

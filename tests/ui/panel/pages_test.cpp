@@ -14,24 +14,21 @@ class PagesTest : public PanelTest {
 
 TEST_F(PagesTest, EveryButtonButSettingsSavesTheCurrentGameBeforeItTurnsThePage) {
   struct Case {
-    ImageBox* EmulatorPanel::*button;
+    ImageBox* PanelPages::*button;
     const char* pages;
     bool saves;
   };
   const Case cases[] = {
-      {&EmulatorPanel::imgButInfo, "info", true},
-      {&EmulatorPanel::imgButHelp, "help", true},
-      {&EmulatorPanel::imgButOpts, "conf", true},
-      {&EmulatorPanel::imgButSnap, "img snap", true},
-      {&EmulatorPanel::imgButSet, "settings", false},
-      {&EmulatorPanel::imgButSet, "settings", false},
+      {&PanelPages::imgButInfo, "info", true},     {&PanelPages::imgButHelp, "help", true},
+      {&PanelPages::imgButOpts, "conf", true},     {&PanelPages::imgButSnap, "img snap", true},
+      {&PanelPages::imgButSet, "settings", false}, {&PanelPages::imgButSet, "settings", false},
   };
   for (const Emulator& emulator : Emulators()) {
     EmulatorPanel& panel = OpenConfigured(emulator);
     for (const Case& at : cases) {
       SCOPED_TRACE(std::string(emulator.word) + " " + at.pages);
       std::filesystem::remove(drive_.Host(SetPath(emulator)));
-      Press(panel.*at.button);
+      Press((*panel.pages).*at.button);
       EXPECT_EQ(Pages(panel), at.pages);
       EXPECT_EQ(Keys(emulator), at.saves ? Caption(panel) + "|" : "(none)");
     }
@@ -42,7 +39,8 @@ TEST_F(PagesTest, AButtonSinksUnderTheMouse) {
   const EmulatorPanel& panel = OpenConfigured(kM72);
   int left = 2430;
   for (ImageBox* const button :
-       {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+       {panel.pages->imgButSnap, panel.pages->imgButSet, panel.pages->imgButInfo,
+        panel.pages->imgButHelp, panel.pages->imgButOpts}) {
     const auto place = [&] { return std::pair(button->Left(), button->Top()); };
     PressMouse(button, {3, 3});
     EXPECT_EQ(place(), std::pair(left + 10, 130));
@@ -59,7 +57,8 @@ TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
   EmulatorPanel& panel = OpenConfigured(kRaine);
   ListBox* const list = panel.games->lstRom;
   for (ImageBox* const button :
-       {panel.imgButSnap, panel.imgButSet, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+       {panel.pages->imgButSnap, panel.pages->imgButSet, panel.pages->imgButInfo,
+        panel.pages->imgButHelp, panel.pages->imgButOpts}) {
     Press(button);
     SCOPED_TRACE(Pages(panel));
     PressEntry(list, 1);
@@ -74,9 +73,9 @@ TEST_F(PagesTest, TheControlsFollowTheCaptionOnEveryPage) {
 TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
   PutSettings(kCallus, "\r\n");
   EmulatorPanel& panel = OpenConfigured(kCallus);
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   Combo(panel, "cboHR")->SetListIndex(4);
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   PressEntry(panel.games->lstRom, 1);
   EXPECT_EQ(Combo(panel, "cboHR")->ListIndex(), 10);
 }
@@ -84,15 +83,15 @@ TEST_F(PagesTest, WithoutAReadableStoreTheNextGameGetsTheDefaults) {
 TEST_F(PagesTest, OnlyTheSettingsPageSavesTheGameThatASelectionLeaves) {
   EmulatorPanel& panel = OpenConfigured(kRaine);
   ListBox* const list = panel.games->lstRom;
-  for (ImageBox* const button :
-       {panel.imgButSnap, panel.imgButInfo, panel.imgButHelp, panel.imgButOpts}) {
+  for (ImageBox* const button : {panel.pages->imgButSnap, panel.pages->imgButInfo,
+                                 panel.pages->imgButHelp, panel.pages->imgButOpts}) {
     Press(button);
     std::filesystem::remove(drive_.Host(SetPath(kRaine)));
     PressEntry(list, 1);
     PressEntry(list, 0);
     EXPECT_EQ(Keys(kRaine), "(none)") << Pages(panel);
   }
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   Combo(panel, "cboScreenMode")->SetListIndex(2);
   PressEntry(list, 1);
   EXPECT_EQ(drive_.Read(SetPath(kRaine)),
@@ -135,7 +134,7 @@ TEST_F(PagesTest, EnteringTheSettingsPageSetsPresetsThenLoads) {
         panel.games->Fill(GameState::kAllSupported);
         panel.lblRomSettings->SetCaption("");
       }
-      Press(panel.imgButSet);
+      Press(panel.pages->imgButSet);
       EXPECT_EQ(Current(panel, "cboHR"), at.shown);
       sections_.CloseOpenPanels();
     }
@@ -161,8 +160,8 @@ TEST_F(PagesTest, StartValues) {
     SCOPED_TRACE(at.emulator.word);
     EmulatorPanel& panel = Open(at.emulator);
     TakeBoxes();
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), at.empty_folder);
-    panel.SaveSettings("now");
+    EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), at.empty_folder);
+    panel.game->Save("now");
     EXPECT_EQ(drive_.Read(SetPath(at.emulator)),
               "\"now\",\"" + at.empty_folder + "\"," + at.record + "\r\n");
   }
@@ -172,20 +171,20 @@ TEST_F(PagesTest, ApplyToAllAsksThenLeavesTheDefaultRecordAlone) {
   for (const Emulator& emulator : Emulators()) {
     SCOPED_TRACE(emulator.word);
     EmulatorPanel& panel = OpenConfigured(emulator);
-    Press(panel.imgButInfo);
-    Press(panel.imgButSet);
+    Press(panel.pages->imgButInfo);
+    Press(panel.pages->imgButSet);
     const std::string before = drive_.Read(SetPath(emulator));
     const std::string question =
         "? This will:|1) Erase all the previously saved configurations|2) Apply the current "
         "settings to all the games||Are you sure?";
     boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kYes};
-    Press(panel.picSettings->cmdApplytoAll);
+    Press(panel.pages->picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question));
     EXPECT_EQ(drive_.Read(SetPath(emulator)), before);
-    Press(panel.picSettings->cmdApplytoAll);
+    Press(panel.pages->picSettings->cmdApplytoAll);
     EXPECT_THAT(TakeBoxes(), ElementsAre(question, "i Default configurations saved!"));
     EXPECT_EQ(Keys(emulator), "[DEFAULT]|");
-    Press(panel.imgButInfo);
+    Press(panel.pages->imgButInfo);
     EXPECT_EQ(Keys(emulator), "[DEFAULT]|" + Caption(panel) + "|");
   }
 }
@@ -194,11 +193,12 @@ TEST_F(PagesTest, WithoutAGameTheEmptyCaptionIsSavedAndNothingBreaks) {
   PutData("Raine", DataHead("0"));
   EmulatorPanel& panel = OpenConfigured(kRaine);
   EXPECT_EQ(Caption(panel), "");
-  for (ImageBox* const button : {panel.imgButInfo, panel.imgButSet, panel.imgButHelp}) {
+  for (ImageBox* const button :
+       {panel.pages->imgButInfo, panel.pages->imgButSet, panel.pages->imgButHelp}) {
     Press(button);
   }
   EXPECT_EQ(Keys(kRaine), "|");
-  Press(panel.imgButSnap);
+  Press(panel.pages->imgButSnap);
   EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! This rom was not found")));
 }
 

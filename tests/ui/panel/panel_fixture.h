@@ -56,7 +56,7 @@ class PanelTest : public testing::Test {
   PanelTest() {
     QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { CloseUnexpected(); });
     watch_.start(3000);
-    app_.ProgramFolder = R"(C:\Zarvo)";
+    folders_.ProgramFolder = R"(C:\Zarvo)";
     PutData("Mame", DataHead("200") + Game("Aliens;aliens;O;-;Shooter;Konami;1990") +
                         Game("Aliens (JP);aliensj;C;aliens;Shooter;Konami;1990") +
                         Game("Metal Slug;mslug;C;neogeo;Action;Nazca;1996") +
@@ -140,8 +140,9 @@ class PanelTest : public testing::Test {
   // The pages that are visible, for one look.
   static std::string Pages(const EmulatorPanel& panel) {
     const std::pair<const Control*, const char*> all[] = {
-        {panel.picSnap->imgSnap, "img"}, {panel.picSnap, "snap"}, {panel.picSettings, "settings"},
-        {panel.picInfo, "info"},         {panel.picHelp, "help"}, {panel.picConf, "conf"}};
+        {panel.pages->picSnap->imgSnap, "img"}, {panel.pages->picSnap, "snap"},
+        {panel.pages->picSettings, "settings"}, {panel.pages->picInfo, "info"},
+        {panel.pages->picHelp, "help"},         {panel.pages->picConf, "conf"}};
     std::string pages;
     for (const auto& [page, name] : all) {
       if (page->Visible()) pages.append(pages.empty() ? "" : " ").append(name);
@@ -155,27 +156,27 @@ class PanelTest : public testing::Test {
     ClickMouse(list->viewport(), list->EntryRect(index).center());
   }
   static ComboBox* Combo(const EmulatorPanel& panel, std::string_view name) {
-    return panel.picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).combo;
+    return panel.pages->picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).combo;
   }
   // The game in the caption, what a combo of its settings shows, and its rom folder.
   static std::string Current(const EmulatorPanel& panel, std::string_view combo) {
     return Caption(panel) + " " + std::to_string(Combo(panel, combo)->ListIndex()) + " " +
-           panel.picSettings->txtRomPath->Text();
+           panel.pages->picSettings->txtRomPath->Text();
   }
   static CheckBox* Check(const EmulatorPanel& panel, std::string_view name) {
-    return panel.picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).check;
+    return panel.pages->picSettings->Option(OptionIndex(panel.ItsEmulator(), name)).check;
   }
 
   TempDrive drive_;
   FailingFiles files_{drive_.files()};
-  AppState app_;
+  ProgramFolders folders_;
   RecordedBoxes boxes_;
   FakeMain main_;
   std::vector<std::string> runs_;  // the batch file at each run, and its folder
   std::function<void()> during_run_;
   Sections sections_{
       files_,
-      app_,
+      folders_,
       boxes_,
       main_,
       [this](std::string_view command_line) { return Run(command_line); },

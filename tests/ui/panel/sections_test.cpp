@@ -41,8 +41,8 @@ TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
     EXPECT_EQ(shown, at.shown);
     EXPECT_EQ(Pages(panel), "img snap");
     EXPECT_TRUE(panel.isVisible());
-    EXPECT_EQ(app_.lblHideEmuSelect, at.emulator.SectionWord());
-    EXPECT_EQ(app_.ShowWord(at.emulator), "SI");
+    EXPECT_EQ(sections_.lblHideEmuSelect, at.emulator.SectionWord());
+    EXPECT_EQ(sections_.IsOpen(at.emulator), true);
     EXPECT_EQ(Keys(at.emulator), "(none)") << "opening saves nothing";
   }
 }
@@ -57,8 +57,8 @@ TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
                             "</data>|Without this file you have no access to this section!|The "
                             "last release of this data-file can be downloaded from "
                             "http://zarvo.example/"));
-    EXPECT_EQ(app_.lblHideEmuSelect, "HIDE");
-    EXPECT_EQ(app_.ShowWord(emulator), "NO");
+    EXPECT_EQ(sections_.lblHideEmuSelect, "HIDE");
+    EXPECT_EQ(sections_.IsOpen(emulator), false);
     EXPECT_EQ(sections_.Find(emulator), nullptr);
   }
 }
@@ -73,19 +73,19 @@ TEST_F(SectionsTest, WithoutAConfigurationFileItSaysSoOnTheConfigurationPage) {
       const EmulatorPanel& panel = sections_.Panel(emulator);
       EXPECT_EQ(panel.isVisible(), !is_mame_or_m72);
       EXPECT_NE(Caption(panel), "");
-      EXPECT_EQ(app_.ShowWord(emulator), "NO");
+      EXPECT_EQ(sections_.IsOpen(emulator), false);
     };
     EmulatorPanel& panel = Open(emulator);
     EXPECT_EQ(TakeBoxes(), std::vector{std::string(kNoCfg)});
     EXPECT_EQ(Pages(panel), "img conf");
     EXPECT_TRUE(panel.isVisible());
     // The image says that the snapshot page counts as the current one.
-    panel.picSnap->HideLabels();
-    panel.picSnap->lblNoAvail->SetCaption("");
+    panel.pages->picSnap->HideLabels();
+    panel.pages->picSnap->lblNoAvail->SetCaption("");
     ListBox* const list = panel.games->lstRom ? panel.games->lstRom : panel.favourites->lstPref;
     list->SetListIndex(1);
     EXPECT_EQ(Caption(panel), list->Text());
-    EXPECT_EQ(panel.picSnap->lblNoAvail->Caption(), "No ScreenShot Available");
+    EXPECT_EQ(panel.pages->picSnap->lblNoAvail->Caption(), "No ScreenShot Available");
   }
 }
 
@@ -94,7 +94,7 @@ TEST_F(SectionsTest, EnteringAnOpenSectionBringsTheWholeListBackAndKeepsPageAndS
   panel.games->cboFilterGenre->SetListIndex(7);  // Labyrinth
   ASSERT_EQ(Entries(panel.games->lstRom), "Puck Man");
   panel.sizes->Short();
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   Open(kMame);
   EXPECT_EQ(panel.games->lstRom->ListCount(), 5);
   EXPECT_EQ(panel.games->lblRomCount->Caption(), "5");
@@ -114,10 +114,10 @@ TEST_F(SectionsTest, ClosingSavesPathsAndTheCurrentGameAndReopeningStartsOver) {
     SCOPED_TRACE(by_desktop);
     EmulatorPanel& panel = OpenConfigured(kCallus, {"Strider"});
     std::filesystem::remove(drive_.Host(CfgPath(kCallus)));
-    Press(panel.imgButSet);
+    Press(panel.pages->imgButSet);
     Combo(panel, "cboHR")->SetListIndex(3);
     by_desktop ? static_cast<void>(panel.close()) : Press(panel.cmdExit);
-    EXPECT_EQ(app_.ShowWord(kCallus), "NO");
+    EXPECT_EQ(sections_.IsOpen(kCallus), false);
     EXPECT_EQ(sections_.Find(kCallus), nullptr);
     EXPECT_EQ(drive_.Read(CfgPath(kCallus)),
               "\"C:\\Emu\\Callus\\Callus.exe\"\r\n\"C:\\Emu\\Callus\\Roms\"\r\n\"C:\\Snaps\"\r\n"
@@ -140,14 +140,14 @@ TEST_F(SectionsTest, TheEndOfTheProgramSavesOpenPanelsInOrderAndALayoutClosesThe
   EXPECT_EQ(Keys(kMame), "Aliens|");
   EXPECT_EQ(Keys(kM72), "Battle Chopper|");
   EXPECT_EQ(Keys(kRaine), "") << "a closed panel is left alone";
-  EXPECT_EQ(app_.ShowWord(kMame), "SI");
+  EXPECT_EQ(sections_.IsOpen(kMame), true);
 
   EXPECT_EQ(sections_.PanelPlace(kMame), (TwipRect{3950, 400, 6345, 7260}));
   sections_.SetPanelPlace(kMame, {100, 200, 2415, 4620});
   EXPECT_EQ(sections_.PanelPlace(kMame), (TwipRect{100, 200, 2415, 4620}));
   EXPECT_EQ(sections_.PanelPlace(kRaine), std::nullopt);
   sections_.CloseOpenPanels();
-  EXPECT_EQ(app_.ShowWord(kMame), "NO");
+  EXPECT_EQ(sections_.IsOpen(kMame), false);
   EXPECT_EQ(sections_.Find(kM72), nullptr);
 }
 
@@ -170,12 +170,12 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   Press(panel.cmdExit);
   EXPECT_FALSE(sections_.CloseOpenPanels());
   EXPECT_THAT(TakeBoxes(), ElementsAre(lost, lost));
-  EXPECT_EQ(app_.ShowWord(kRaine), "SI");
+  EXPECT_EQ(sections_.IsOpen(kRaine), true);
   boxes_.answers = {BoxAnswer::kLeave};
   EXPECT_TRUE(sections_.SaveOpenPanels());
   sections_.SaveWithoutQuestions();
   EXPECT_THAT(TakeBoxes(), ElementsAre(lost));
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   EXPECT_THAT(TakeBoxes(), ElementsAre(both[1]));
   EXPECT_EQ(Pages(panel), "info");
   const ModalPlay<FilePicker> play([](FilePicker& picker) { picker.UnloadWindow(); });
@@ -188,7 +188,7 @@ TEST_F(SectionsTest, ADiskThatTakesNothingIsToldOnceForEachFile) {
   Press(panel.cmdExit);
   boxes_.on_show = {};
   EXPECT_THAT(TakeBoxes(), ElementsAre(lost));
-  EXPECT_EQ(app_.ShowWord(kRaine), "NO");
+  EXPECT_EQ(sections_.IsOpen(kRaine), false);
   EXPECT_NE(Keys(kRaine), "old|");
 }
 
@@ -208,11 +208,12 @@ TEST_F(SectionsTest, AFileThatCantBeReadKeepsWhatItHolds) {
   EmulatorPanel& panel = Open(kMame);
   EXPECT_THAT(TakeBoxes(), ElementsAre(box("Mame.cfg"), box("Mame.set")));
   panel.games->lstRom->SetListIndex(3);
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   EXPECT_THAT(TakeBoxes(), testing::IsEmpty());
   files_.Heal();
-  Press(panel.picSettings->cmdDirRomDefault);  // reads the file's first lines, not its favourites
-  Press(panel.imgButHelp);
+  Press(panel.pages->picSettings
+            ->cmdDirRomDefault);  // reads the file's first lines, not its favourites
+  Press(panel.pages->imgButHelp);
   Press(panel.cmdExit);
   EXPECT_EQ(drive_.Read(CfgPath(kMame)), cfg);
   EXPECT_EQ(drive_.Read(SetPath(kMame)), set);
@@ -234,7 +235,7 @@ TEST_F(SectionsTest, AStartThatCantReadTheOtherGamesRecordKeepsThisOnesSaves) {
   EXPECT_THAT(TakeBoxes(), ElementsAre(testing::StartsWith("! Raine.set: Input/output error"),
                                        testing::StartsWith("! [Warning! - No EXE")));
   files_.Heal();
-  Press(panel.imgButInfo);
+  Press(panel.pages->imgButInfo);
   EXPECT_EQ(Keys(kRaine), "x|Rainbow Islands|");
 }
 

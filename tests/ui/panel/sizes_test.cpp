@@ -86,7 +86,7 @@ TEST_F(SizesTest, M72IsMiddleOrShortAndKeepsItsWord) {
   Press(panel.sizes->cmdMiddle);
   EXPECT_EQ(Size(panel), middle_);
   EXPECT_EQ(panel.favourites->lstPref->Height(), 3825);
-  panel.SaveCfg();
+  panel.paths->SaveCfg();
   EXPECT_EQ(Split(drive_.Read(CfgPath(kM72)))[5], "\"down\"");
 }
 
@@ -116,8 +116,8 @@ TEST_F(SizesTest, TheLogoDocksThePanelBesideTheMainWindow) {
 // The mouse lights a button up, and each of its neighbours puts it back to rest.
 TEST_F(SizesTest, ButtonsLightUpUnderTheMouseAndTheirNeighboursResetThem) {
   EmulatorPanel& panel = OpenConfigured(kMame);
-  const ConfPage& conf = *panel.picConf;
-  const SettingsPage& settings = *panel.picSettings;
+  const ConfPage& conf = *panel.pages->picConf;
+  const SettingsPage& settings = *panel.pages->picSettings;
   const PanelSizes& sizes = *panel.sizes;
   QWidget* const list = panel.favourites->lstPref->viewport();
   struct Kind {
@@ -140,26 +140,30 @@ TEST_F(SizesTest, ButtonsLightUpUnderTheMouseAndTheirNeighboursResetThem) {
   };
   const std::vector<Label*> head = {sizes.cmdLarge, sizes.cmdMiddle, sizes.cmdShort, panel.cmdExit};
   for (Label* const button : head) {
-    std::vector<QWidget*> resets = {&panel,           panel.favourites->lblFavCount,
-                                    panel.imgButSnap, sizes.cmdRidimen,
-                                    panel.logo,       list};
+    std::vector<QWidget*> resets = {&panel,
+                                    panel.favourites->lblFavCount,
+                                    panel.pages->imgButSnap,
+                                    sizes.cmdRidimen,
+                                    panel.logo,
+                                    list};
     std::copy_if(head.begin(), head.end(), std::back_inserter(resets),
                  [button](const Label* other) { return other != button; });
     check(button, button == panel.cmdExit ? close : size, resets);
   }
   check(panel.favourites->lblClearFav, bulk, {&panel, panel.logo, panel.favourites->lblFavorties});
   check(settings.cmdApplytoAll, bulk,
-        {panel.picSettings, panel.lblRomSettings, settings.txtRomPath, list});
+        {panel.pages->picSettings, panel.lblRomSettings, settings.txtRomPath, list});
   check(settings.cmdSelDir, path,
-        {panel.picSettings, panel.lblRomSettings, settings.txtRomPath, settings.cmdDirRomDefault});
+        {panel.pages->picSettings, panel.lblRomSettings, settings.txtRomPath,
+         settings.cmdDirRomDefault});
   check(settings.cmdDirRomDefault, path,
-        {panel.picSettings, panel.lblRomSettings, settings.cmdSelDir});
+        {panel.pages->picSettings, panel.lblRomSettings, settings.cmdSelDir});
   check(conf.cmdSfoglia, path,
-        {panel.picConf, conf.txtOptExePath, conf.exe_caption, conf.cmdSelDir});
+        {panel.pages->picConf, conf.txtOptExePath, conf.exe_caption, conf.cmdSelDir});
   check(conf.cmdSelDir, path,
-        {panel.picConf, conf.txtOptRomPath, conf.rom_caption, conf.cmdSfoglia});
-  check(conf.cmdDirSnap, path, {panel.picConf, conf.txtOptSnap, conf.snap_caption});
-  check(conf.lblScanNow, path, {panel.picConf, conf.Frame1, conf.Frame2, conf.optSplitted});
+        {panel.pages->picConf, conf.txtOptRomPath, conf.rom_caption, conf.cmdSfoglia});
+  check(conf.cmdDirSnap, path, {panel.pages->picConf, conf.txtOptSnap, conf.snap_caption});
+  check(conf.lblScanNow, path, {panel.pages->picConf, conf.Frame1, conf.Frame2, conf.optSplitted});
   MoveMouse(conf.lblScanNow);
   ReleaseMouse(conf.lblScanNow, {3, 3});
   EXPECT_EQ(conf.lblScanNow->BackColor().value, path.rest.first);

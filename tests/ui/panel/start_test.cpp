@@ -73,7 +73,7 @@ TEST_F(StartTest, TheStoredRecordRuns) {
   PutEmulator(kRaine, "bublbobl");
   PutSettings(kRaine, "\"Bubble Bobble\",\"C:\\Emu\\Raine\\Roms\",4,0,0,0,0\r\n");
   EmulatorPanel& panel = OpenConfigured(kRaine);
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   ComboBox* const mode = Combo(panel, "cboScreenMode");
   mode->SetListIndex(1);
   std::filesystem::remove(drive_.Host(CfgPath(kRaine)));
@@ -102,14 +102,14 @@ TEST_F(StartTest, AnotherGameBorrowsTheControls) {
   };
   PutEmulator(kRaine, "rainbow");
   EmulatorPanel& panel = OpenConfigured(kRaine, {"Rainbow Islands"});
-  Press(panel.imgButSet);
+  Press(panel.pages->imgButSet);
   PressEntry(panel.games->lstRom, 0);
   for (const Case& at : cases) {
     SCOPED_TRACE(at.store);
     std::filesystem::remove(drive_.Host(SetPath(kRaine)));
     if (!at.store.empty()) PutSettings(kRaine, at.store + "\r\n");
     Combo(panel, "cboScreenMode")->SetListIndex(2);
-    panel.picSettings->txtRomPath->SetText(R"(C:\Mine)");
+    panel.pages->picSettings->txtRomPath->SetText(R"(C:\Mine)");
     runs_.clear();
     Enter(panel.favourites->lstPref);
     EXPECT_THAT(runs_, ElementsAre(testing::HasSubstr(at.runs_with)));
@@ -127,7 +127,7 @@ TEST_F(StartTest, EnterWithoutAGame) {
   EXPECT_FALSE(drive_.Exists(CfgPath(kMame))) << "it ends at once";
   PutEmulator(kMame, "aliens");
   panel.games->Fill(GameState::kAllSupported);
-  panel.TakeEmulator(R"(C:\Emu\Mame\Mame.exe)", R"(C:\Emu\Mame)");
+  panel.paths->TakeEmulator(R"(C:\Emu\Mame\Mame.exe)", R"(C:\Emu\Mame)");
   Enter(panel.games->lstRom);
   EXPECT_THAT(TakeBoxes(), ElementsAre(StartsWith("! This rom was not found")));
   EXPECT_TRUE(drive_.Exists(CfgPath(kMame)));
@@ -183,9 +183,9 @@ TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
                             "Rom not found in the specified directory!||1) Check if the path is "
                             "correct!|2) Check if you have the rom!|3) Check if it has the right "
                             "name!"));
-    EXPECT_EQ(shown, word + "SETTINGS Search Rom for " + search +
-                         R"( at C:\Emu\)" + std::string(emulator.word) + R"(\Roms)");
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Found)");
+    EXPECT_EQ(shown, word + "SETTINGS Search Rom for " + search + R"( at C:\Emu\)" +
+                         std::string(emulator.word) + R"(\Roms)");
+    EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\Found)");
     EXPECT_THAT(runs_, IsEmpty());
   }
 }
@@ -201,12 +201,13 @@ TEST_F(StartTest, TheRomPickerOfTheSettingsPageKnowsTheParentsOfMame) {
       EXPECT_EQ(picker.Caption(), captions[game]);
       picker.cmdCancel->click();
     });
-    Press(panel.picSettings->cmdSelDir);
+    Press(panel.pages->picSettings->cmdSelDir);
   }
-  panel.picSettings->txtRomPath->SetText("C:\\x");
-  panel.picConf->txtOptRomPath->SetText("C:\\unsaved");
-  Press(panel.picSettings->cmdDirRomDefault);
-  EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\Emu\Mame\Roms)") << "as the file has it";
+  panel.pages->picSettings->txtRomPath->SetText("C:\\x");
+  panel.pages->picConf->txtOptRomPath->SetText("C:\\unsaved");
+  Press(panel.pages->picSettings->cmdDirRomDefault);
+  EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\Emu\Mame\Roms)")
+      << "as the file has it";
 }
 
 // Where the pickers of the configuration page open. Q is no drive.
@@ -251,13 +252,13 @@ TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
         show(picker.lblSelExeHide, picker.txtShowFiltri, picker.dirSelExe);
         picker.cmdCancel->click();
       });
-      Press(panel.picConf->*at.button);
+      Press(panel.pages->picConf->*at.button);
     } else {
       const ModalPlay<FolderPicker> play([&](FolderPicker& picker) {
         show(picker.lblSelDirHide, picker.txtPattern, picker.dirSelDir);
         picker.cmdCancel->click();
       });
-      Press(panel.picConf->*at.button);
+      Press(panel.pages->picConf->*at.button);
     }
     EXPECT_EQ(shown, at.shown) << at.cfg;
     sections_.CloseOpenPanels();
@@ -274,7 +275,7 @@ TEST_F(StartTest, WhatThePickersWrite) {
   sections_.SaveCfg(kCallus);
   EXPECT_EQ(drive_.Read(CfgPath(kCallus)),
             Lines({R"(C:\E\c.exe)", R"(C:\R)", R"(C:\S)", "GIF", R"(C:\E)", "up"}));
-  EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
+  EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\G)");
   const std::string odd[] = {R"(C:\a,b)", R"(C:\a~b)", R"(C:\)" + std::string(88, 'x')};
   for (const std::string& folder : odd) {
     sections_.SetRomFolder(kCallus, folder);
@@ -283,12 +284,12 @@ TEST_F(StartTest, WhatThePickersWrite) {
                                               "|This folder can't be kept in the settings of a "
                                               "game. Please choose one without comma, tilde and "
                                               "quotation mark, of at most 90 characters."));
-    EXPECT_EQ(panel.picConf->txtOptRomPath->Text(), R"(C:\R)");
-    EXPECT_EQ(panel.picSettings->txtRomPath->Text(), R"(C:\G)");
+    EXPECT_EQ(panel.pages->picConf->txtOptRomPath->Text(), R"(C:\R)");
+    EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\G)");
   }
   const std::string longest = R"(C:\)" + std::string(87, 'x');
   sections_.SetGameRomFolder(kCallus, longest);
-  EXPECT_EQ(panel.picSettings->txtRomPath->Text(), longest);
+  EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), longest);
 }
 
 }  // namespace

@@ -10,8 +10,7 @@ namespace {
 
 TEST(AboutWindow, TellsWhatTheProgramIsAndOpensItsLinks) {
   std::string opened;
-  const AppState app;
-  AboutWindow about(app, [&](std::string_view address) { opened.append(address).append("|"); });
+  AboutWindow about([&](std::string_view address) { opened.append(address).append("|"); });
   about.ShowModeless();
   EXPECT_EQ(about.Caption(), "Zarvo - v0.1");
   EXPECT_EQ(about.lblVersion->Caption(), "v0.1");
@@ -26,7 +25,7 @@ TEST(AboutWindow, TellsWhatTheProgramIsAndOpensItsLinks) {
   EXPECT_FALSE(about.IsUnloaded());
   PressKey(about.lblZarvoWeb, Qt::Key_Escape);
   EXPECT_TRUE(about.IsUnloaded());
-  AboutWindow again(app, {});
+  AboutWindow again({});
   again.cmdOk->click();
   EXPECT_TRUE(again.IsUnloaded());
 }

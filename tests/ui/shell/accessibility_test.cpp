@@ -61,7 +61,8 @@ class AccessibilityTest : public PanelTest {
 
 TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
   for (const Emulator& emulator : Emulators()) Visit(sections_.Panel(emulator), 30);
-  MainWindow main(files_, app_, boxes_, [](const Emulator&) { return std::vector<std::string>(); },
+  MainWindow main(files_, folders_, boxes_,
+                  [](const Emulator&) { return std::vector<std::string>(); },
                   {.sections = [this]() -> SectionHost& { return sections_; },
                    .show_layouts = [] {},
                    .show_about = [] {},
@@ -76,13 +77,13 @@ TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
   Visit(folder_picker, 6);
   FilePicker file_picker(files_, sections_, boxes_, "Zarvo");
   Visit(file_picker, 6);
-  const auto layouts = MakeLayoutWindow({files_, app_, boxes_, sections_, main});
+  const auto layouts = MakeLayoutWindow({files_, folders_, boxes_, sections_, main});
   Visit(*layouts, 10);
   NameDialog add(NameMode::kAdd, "");
   Visit(add, 3);
   NameDialog rename(NameMode::kRename, "Night");
   Visit(rename, 3);
-  AboutWindow about(app_, [](std::string_view) {});
+  AboutWindow about([](std::string_view) {});
   Visit(about, 3);
 }
 

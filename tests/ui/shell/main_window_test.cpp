@@ -38,9 +38,9 @@ class MainWindowTest : public PanelTest {
   std::function<void()> font_is_loaded_;
   MainWindow window_{
       files_,
-      app_,
+      folders_,
       boxes_,
-      [this](const Emulator& emulator) { return ReadHeader(files_, app_, emulator); },
+      [this](const Emulator& emulator) { return Catalogue(files_, folders_, emulator).Header(); },
       {.sections = [this]() -> SectionHost& { return sections_; },
        .show_layouts = [this] { told_.emplace_back("layouts"); },
        .show_about = [this] { told_.emplace_back("about"); },
@@ -75,9 +75,9 @@ TEST_F(MainWindowTest, StartsInItsOrder) {
           "Readme.txt for more info."));
   EXPECT_THAT(ticker_at_autoload, ElementsAre(0)) << "the ticker starts last";
   EXPECT_EQ(window_.Timer1.Interval(), 10000);
-  EXPECT_EQ(app_.ProgramFolder, R"(C:\Zarvo)");
+  EXPECT_EQ(folders_.ProgramFolder, R"(C:\Zarvo)");
   EXPECT_EQ(Facts(), "Zarvo v0.1|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-");
-  EXPECT_EQ(app_.lblHideEmuSelect, "HIDE");
+  EXPECT_EQ(sections_.lblHideEmuSelect, "HIDE");
 
   // A folder in Cfg is no file; a file is.
   drive_.MakeFolder(R"(C:\Zarvo\Cfg\folder)");
@@ -120,7 +120,7 @@ TEST_F(MainWindowTest, TheTickerTurnsInARing) {
 TEST_F(MainWindowTest, TheEndAsksAndSavesWhatIsOpen) {
   window_.ShowModeless();
   ClickMouse(Selector(kMame));
-  EXPECT_EQ(app_.lblHideEmuSelect, "MAME");
+  EXPECT_EQ(sections_.lblHideEmuSelect, "MAME");
   EXPECT_TRUE(sections_.Panel(kMame).isVisible());
   boxes_.answers = {BoxAnswer::kNo, BoxAnswer::kNo, BoxAnswer::kYes};
   for (const bool by_desktop : {false, true, true}) {
@@ -141,7 +141,7 @@ TEST_F(MainWindowTest, PlacesComeBackToTheTwipRoundAfterRound) {
   const std::string layout = "[A]\r\nMAIN,407,501\r\nMAME,-8,1237,2415,4627\r\n-\r\n";
   drive_.Write(R"(C:\Zarvo\layouts.dat)", layout);
   window_.ShowModeless();
-  LayoutManager manager({files_, app_, boxes_, sections_, window_});
+  LayoutManager manager({files_, folders_, boxes_, sections_, window_});
   manager.cboListaLayout->SetListIndex(0);
   for (int round = 0; round < 10; ++round) {
     manager.cmdLoadLayout->click();
@@ -185,7 +185,7 @@ TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
     ReleaseMouse(label, {-50, -50});  // elsewhere: no click
     EXPECT_THAT(Look(label), AllOf(StartsWith("clear"), EndsWith(" 13538452")));
   }
-  EXPECT_EQ(app_.lblHideEmuSelect, "HIDE");
+  EXPECT_EQ(sections_.lblHideEmuSelect, "HIDE");
 
   const std::string rest = "opaque 12551557 16777215";
   for (Label* const command : {window_.lblExit, window_.lblLays, window_.lblAbout}) {

@@ -1,0 +1,28 @@
+// The program's name, and the folders in which it keeps its files.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "core/platform/dos_path.h"
+
+namespace zarvo {
+
+inline constexpr std::string_view ProgramName = "Zarvo";
+inline constexpr std::string_view ProgramVersion = "v0.1";
+
+// Title of every message box that has no other: "Zarvo v0.1".
+inline std::string ProgramTitle() {
+  return std::string(ProgramName).append(" ").append(ProgramVersion);
+}
+
+// DOS paths, without a trailing backslash unless a root.
+struct ProgramFolders {
+  std::string ProgramFolder;
+
+  [[nodiscard]] std::string DataFolder() const { return JoinPath(ProgramFolder, "Data"); }
+  [[nodiscard]] std::string CfgFolder() const { return JoinPath(ProgramFolder, "cfg"); }
+};
+
+}  // namespace zarvo
