@@ -29,12 +29,11 @@ CfgValues ValuesOf(const CfgFields& fields) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemoryFiles files;
-  ProgramFolders folders;
-  folders.ProgramFolder = R"(C:\Zarvo)";
+  const ProgramFolders folders{R"(C:\Zarvo)"};
   files.Put(R"(C:\Zarvo\cfg\Mame.cfg)", std::string(reinterpret_cast<const char*>(data), size));
   const Emulator& mame = kMame;
   CfgFile store(files, folders, mame);
-  const CfgValues values = ValuesOf(store.Read();
+  const CfgValues values = ValuesOf(store.Read());
   if (!store.Write(values)) std::abort();
   const CfgFields again = store.Read();
   if (!again.favourites || *again.favourites != values.favourites) std::abort();

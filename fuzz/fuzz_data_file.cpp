@@ -45,8 +45,7 @@ void CheckLookUps(MemoryFiles& files, const ProgramFolders& folders, const Emula
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemoryFiles files;
-  ProgramFolders folders;
-  folders.ProgramFolder = R"(C:\Zarvo)";
+  const ProgramFolders folders{R"(C:\Zarvo)"};
   const Emulator& mame = kMame;
   files.PutFolder(R"(C:\Zarvo\cfg)");
   files.Put(R"(C:\Roms\rom.zip)", "");

@@ -34,8 +34,7 @@ bool SameOthers(LayoutStore& before, LayoutStore& after, std::string_view change
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  ProgramFolders folders;
-  folders.ProgramFolder = R"(C:\Zarvo)";
+  const ProgramFolders folders{R"(C:\Zarvo)"};
   const std::string text(reinterpret_cast<const char*>(data), size);
   MemoryFiles old_files;
   old_files.Put(R"(C:\Zarvo\layouts.dat)", text);

@@ -10,8 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace zarvo;
   MemoryFiles files;
-  ProgramFolders folders;
-  folders.ProgramFolder = R"(C:\Zarvo)";
+  const ProgramFolders folders{R"(C:\Zarvo)"};
   files.Put(R"(C:\Zarvo\cfg\Mame.scn)", std::string(reinterpret_cast<const char*>(data), size));
   for (const GameState state : {GameState::kAvailable, GameState::kMissing}) {
     NameList list;

@@ -39,13 +39,12 @@ void CheckValues(const Emulator& emulator, const OptionValues& values) {
 
 void CheckEmulator(const Emulator& emulator, const std::string& store) {
   MemoryFiles files;
-  ProgramFolders folders;
-  folders.ProgramFolder = R"(C:\Zarvo)";
+  const ProgramFolders folders{R"(C:\Zarvo)"};
   const std::string path = folders.CfgFolder() + "\\" + std::string(emulator.SettingsFile());
   files.Put(path, store);
   OptionValues values = DefaultValues(emulator, "C:\\R");
   SettingsStore stored(files, folders, emulator);
-  stored.Load(kKey, values);
+  stored.Load(kKey, "", values);
   CheckValues(emulator, values);
 
   const OptionValues defaults = DefaultValues(emulator, "C:\\R");
@@ -55,7 +54,7 @@ void CheckEmulator(const Emulator& emulator, const std::string& store) {
   const std::string after = OtherLines(files.BytesOf(path), blank);
   if (after != before && after != before + "\r\n") std::abort();
   if (blank) return;
-  if (stored.Load(kKey, values) != LoadOutcome::kRecord ||
+  if (stored.Load(kKey, "", values) != LoadOutcome::kRecord ||
       RecordLine(emulator, kKey, values) != RecordLine(emulator, kKey, defaults)) {
     std::abort();
   }
