@@ -41,26 +41,6 @@ constexpr std::string_view kAccented =
     "SsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
 static_assert(kAccented.size() == 128);
 
-std::optional<char32_t> TakeCharacter(std::string_view& text) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                                           : 4;
-  if (length == 0 || lead > 0xF4 || text.size() < length) return std::nullopt;
-  char32_t code_point = length == 1 ? lead : lead & (0xFF >> (length + 1));
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0) != 0x80) return std::nullopt;
-    code_point = (code_point << 6) | (byte & 0x3F);
-  }
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-  if (code_point < kSmallest[length]) return std::nullopt;
-  text.remove_prefix(length);
-  return code_point;
-}
-
 std::string_view SubstituteOf(char32_t character) {
   const auto* const row =
       std::find_if(kSubstitutes.begin(), kSubstitutes.end(), [character](const Substitute& each) {
@@ -112,25 +92,12 @@ void AppendForeignByte(unsigned char byte, std::string& out) {
 
 }  // namespace
 
-void AppendUtf8(char32_t code_point, std::string& out) {
-  if (code_point < 0x80) {
-    out += static_cast<char>(code_point);
-    return;
-  }
-  const int following = code_point < 0x800 ? 1 : code_point < 0x10000 ? 2 : 3;
-  constexpr std::array<unsigned char, 4> kLead = {0, 0xC0, 0xE0, 0xF0};
-  out += static_cast<char>(kLead[following] | (code_point >> (6 * following)));
-  for (int i = following - 1; i >= 0; --i) {
-    out += static_cast<char>(0x80 | ((code_point >> (6 * i)) & 0x3F));
-  }
-}
-
 std::string ToFieldText(std::string_view text) {
   if (IsPlain(text)) return std::string(TrimBlanks(text));
   std::string field;
   field.reserve(text.size());
   while (!text.empty()) {
-    if (const auto character = TakeCharacter(text)) {
+    if (const auto character = TakeUtf8(text)) {
       AppendCharacter(*character, field);
     } else {
       AppendForeignByte(static_cast<unsigned char>(text.front()), field);

@@ -6,8 +6,6 @@
 
 namespace zarvo {
 
-void AppendUtf8(char32_t code_point, std::string& out);
-
 // Text as a field of a data file holds it: Windows-1252, on one line, without blanks at its ends
 // and without semicolons (they become commas). Letters that the code page lacks lose their accents,
 // anything else that it lacks becomes "?". Bytes that aren't UTF-8 are taken for Windows-1252.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/catalogue/catalogue.h"
+#include "core/platform/text_lines.h"
 
 namespace zarvo {
 namespace {
@@ -38,15 +39,6 @@ Verdict Judge(GameState state, std::string_view rest) {
   if (state == GameState::kNeoGeo) return InIf(neo_geo);
   if (state == GameState::kNoNeoGeo) return InIf(!neo_geo);
   return InIf(original_or_clone.starts_with('C') && !neo_geo);
-}
-
-// Takes the first line off `text`, without its line end.
-std::string_view TakeLine(std::string_view& text) {
-  const std::size_t end = text.find('\n');
-  std::string_view line = text.substr(0, end);
-  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-  if (line.ends_with('\r')) line.remove_suffix(1);
-  return line;
 }
 
 // A line without the quotation marks round it, whatever stands in their place.
@@ -134,7 +126,7 @@ FillResult Catalogue::FillFromScan(char mark, NameList& list) const {
   if (!scan) return FillResult::kNoScanFile;
   list.Clear();
   for (std::string_view text = *scan; !text.empty();) {
-    const std::string_view entry = Unquote(TakeLine(text));
+    const std::string_view entry = Unquote(WithoutLineEnd(TakeLine(text)));
     const std::size_t end = entry.find(';');
     if (end != std::string_view::npos && entry.back() == mark) list.Append(entry.substr(0, end));
   }

@@ -42,28 +42,6 @@ void AppendUtf8(char32_t code_point, std::string& out) {
   }
 }
 
-// Decodes one character and drops it from `utf8`; nothing for bytes that aren't well-formed.
-std::optional<char32_t> TakeUtf8(std::string_view& utf8) {
-  const auto lead = static_cast<unsigned char>(utf8.front());
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-  if (length == 0 || utf8.size() < length) return std::nullopt;
-  char32_t code_point = length == 1 ? lead : lead & (0xFF >> (length + 1));
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(utf8[i]);
-    if ((byte & 0xC0) != 0x80) return std::nullopt;
-    code_point = (code_point << 6) | (byte & 0x3F);
-  }
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-  if (code_point < kSmallest[length]) return std::nullopt;
-  utf8.remove_prefix(length);
-  return code_point;
-}
-
 }  // namespace
 
 unsigned char FoldCase(unsigned char character) { return kFold[character]; }
@@ -104,6 +82,27 @@ std::string ToUtf8(std::string_view bytes) {
   utf8.reserve(bytes.size());
   for (const char c : bytes) AppendUtf8(ToUnicode(static_cast<unsigned char>(c)), utf8);
   return utf8;
+}
+
+std::optional<char32_t> TakeUtf8(std::string_view& utf8) {
+  const auto lead = static_cast<unsigned char>(utf8.front());
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
+  if (length == 0 || utf8.size() < length) return std::nullopt;
+  char32_t code_point = length == 1 ? lead : lead & (0xFF >> (length + 1));
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto byte = static_cast<unsigned char>(utf8[i]);
+    if ((byte & 0xC0) != 0x80) return std::nullopt;
+    code_point = (code_point << 6) | (byte & 0x3F);
+  }
+  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+  if (code_point < kSmallest[length]) return std::nullopt;
+  utf8.remove_prefix(length);
+  return code_point;
 }
 
 std::optional<std::string> FromUtf8(std::string_view utf8) {

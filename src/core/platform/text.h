@@ -36,6 +36,10 @@ std::string ToUtf8(std::string_view bytes);
 // doesn't have.
 std::optional<std::string> FromUtf8(std::string_view utf8);
 
+// Decodes one character of UTF-8 and drops it from `utf8`, which isn't empty; nothing for bytes
+// that aren't well-formed.
+std::optional<char32_t> TakeUtf8(std::string_view& utf8);
+
 // Text of the host for a message: its first 200 characters, with question marks for control
 // characters and for what isn't UTF-8 or not in Windows-1252.
 std::string ForMessage(std::string_view host_text);
