@@ -33,7 +33,8 @@ Raine, System16 and M72. It shows each emulator's games with snapshots and
 facts, tells which of them are on the disk, keeps favourites and a set of
 options for every single game, and starts a game in DOSBox.
 .
-Neither emulators nor games are in this package.")
+Neither emulators nor games are in this package. With the package mame all five
+panels play today's MAME, four of whose games need no archive.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
@@ -48,6 +49,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "dosbox, fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "zenity | x11-utils")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "mame, zenity | x11-utils")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

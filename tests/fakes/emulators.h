@@ -15,6 +15,9 @@ extern const Emulator kMame, kCallus, kRaine, kSystem16, kM72;
 // Some of them, to walk through.
 using Those = std::vector<std::reference_wrapper<const Emulator>>;
 
+// Those that the tests know by heart. Another one has tests of its own.
+inline const Those kTested{kMame, kCallus, kRaine, kSystem16, kM72};
+
 inline bool operator==(const Emulator& left, const Emulator& right) {
   return left.word == right.word;
 }

@@ -46,7 +46,7 @@ class ZarvoHome(unittest.TestCase):
 
     def files(self):
         return {str(file.relative_to(self.zarvo)): file.read_text()
-                for file in self.zarvo.rglob("*") if file.is_file()}
+                for file in self.zarvo.rglob("*") if file.is_file() and file.name != "brought.txt"}
 
     def assert_refused(self, words, **changes):
         result = self.start(**changes)
@@ -68,6 +68,29 @@ class ZarvoHome(unittest.TestCase):
         # A folder that has been in use keeps its drives, so it gets no drives.ini.
         self.assertEqual(self.files(), {"DATA/mame.DAT": "mine\n", "README.TXT": "mine\n",
                                         "cfg/Mame.cfg": "mine\n", "DATA/M72.dat": "m72\n"})
+
+    def test_a_list_is_renewed_unless_somebody_has_touched_it(self):
+        self.assertEqual(self.start().returncode, 0)
+        shipped = self.root / "usr/share/zarvo/data"
+        for name in ("Mame.dat", "M72.dat"):
+            self.write(shipped / name, "newer\n")
+        self.write(self.zarvo / "Data/M72.dat", "mine\n")
+        for _ in range(2):
+            self.assertEqual(self.start().returncode, 0)
+            self.assertEqual("newer\n", self.files()["Data/Mame.dat"])
+            self.assertEqual("mine\n", self.files()["Data/M72.dat"])
+        self.write(shipped / "Mame.dat", "newest\n")
+        self.assertEqual(self.start().returncode, 0)
+        self.assertEqual("newest\n", self.files()["Data/Mame.dat"])
+
+    def test_folders_for_todays_mame_where_it_is_installed(self):
+        tools = self.root / "tools"
+        for name in ("mame", "zarvo-mame"):
+            self.write((tools if name == "mame" else self.root / "usr/bin") / name,
+                       '#!/bin/sh\necho "$@"\n')
+            ((tools if name == "mame" else self.root / "usr/bin") / name).chmod(0o755)
+        told = self.start(PATH=f"{tools}:{os.environ['PATH']}").stdout.splitlines()
+        self.assertEqual([f"--lay-out {self.zarvo}", str(self.zarvo)], told)
 
     def test_no_place_for_the_folder(self):
         self.assert_refused("HOME isn't set", HOME=None)

@@ -193,27 +193,45 @@ constexpr auto kDevices = std::to_array<std::string_view>(
     {"KEY1", "KEY2", "KEY3", "KEY4", "JOY1", "JOY2", "4BUTTON", "6BUTTON", "SIDEWINDER1",
      "SIDEWINDER2", "GRIP1", "GRIP2", "SNESPAD1", "SNESPAD2"});
 
+// For today's MAME.
+constexpr auto kResolutionsToday = std::to_array<std::string_view>(
+    {"320x200", "320x240", "384x224", "384x257", "400x300", "320x400", "320x480", "512x384",
+     "640x350", "640x400", "640x480", "224x384", "254x384", "800x600", "1024x768"});
+constexpr auto kFrameSkipsToday = std::to_array<std::string_view>(
+    {" -autoframeskip", " -frameskip 1", " -frameskip 2", " -frameskip 3", " -frameskip 4",
+     " -frameskip 5", " -frameskip 6", " -frameskip 7", " -frameskip 8"});
+constexpr auto kDevicesToday = std::to_array<std::string_view>(
+    {"", "", "", "", " -joystick", " -joystick", " -joystick", " -joystick", " -joystick",
+     " -joystick", " -joystick", " -joystick", " -joystick", " -joystick"});
+
 constexpr auto kPieces = std::to_array<Piece>({
-    WithoutChoice(Each(Of("cboVR"), " -resv ", kResolutions), " -resv 640 480"),
-    WithoutChoice(Each(Of("cboHR"), " -res ", kResolutions), " -res 384 257"),
-    WithoutChoice(Each(Of("cboFrameSkip"), " -frameskip ", kFrameSkips), " -frameskip AUTO"),
-    On(Of("chkNoSound"), " -nosound"),
+    WithoutChoice(Each(Of("cboVR"), " -resv ", kResolutions,
+                       NothingFor("one resolution serves all games: that of the other list")),
+                  " -resv 640 480"),
+    WithoutChoice(
+        Each(Of("cboHR"), " -res ", kResolutions, As(" -resolution %", kResolutionsToday)),
+        " -res 384 257"),
+    WithoutChoice(Each(Of("cboFrameSkip"), " -frameskip ", kFrameSkips, As("%", kFrameSkipsToday)),
+                  " -frameskip AUTO"),
+    On(Of("chkNoSound"), " -nosound", As(" -sound none")),
     When(HasSound,
-         WithoutChoice(Each(Of("cboSampleRate"), " -sndrate ", kSampleRates), " -sndrate 22050")),
-    On(Of("chkVSync"), " -vsync ON"),
-    On(Of("chkNoVesa"), " -novesa"),
-    On(Of("chkLinear"), " -linear"),
-    On(Of("chkBanked"), " -banked"),
-    On(Of("chkMultiTask"), " -exclusive"),
-    On(Of("chkAltStart"), " -altkey"),
-    On(Of("chkFPU"), " -fpucopy"),
-    WithoutChoice(Each(Of("cboDevice1"), " -setinput 1 ", kDevices), " -setinput 1 KEY1"),
-    Each(Of("cboDevice2"), " -setinput 2 ", kDevices),
-    Each(Of("cboDevice3"), " -setinput 3 ", kDevices),
-    Each(Of("cboDevice4"), " -setinput 4 ", kDevices),
-    On(Of("chkStereo"), " -stereo ON"),
-    On(Of("chkHiColor"), " -hicolor"),
-    On(Of("chk2To3"), " -map2to3"),
+         WithoutChoice(Each(Of("cboSampleRate"), " -sndrate ", kSampleRates, As(" -samplerate %")),
+                       " -sndrate 22050")),
+    On(Of("chkVSync"), " -vsync ON", As(" -waitvsync")),
+    On(Of("chkNoVesa"), " -novesa", NothingFor("modes of a VESA card")),
+    On(Of("chkLinear"), " -linear", NothingFor("modes of a VESA card")),
+    On(Of("chkBanked"), " -banked", NothingFor("modes of a VESA card")),
+    On(Of("chkMultiTask"), " -exclusive", NothingFor("there is no DOS to multitask with")),
+    On(Of("chkAltStart"), " -altkey", NothingFor("keys are chosen in the game, with TAB")),
+    On(Of("chkFPU"), " -fpucopy", NothingFor("the program copies as it likes")),
+    WithoutChoice(Each(Of("cboDevice1"), " -setinput 1 ", kDevices, As("%", kDevicesToday)),
+                  " -setinput 1 KEY1"),
+    Each(Of("cboDevice2"), " -setinput 2 ", kDevices, As("%", kDevicesToday)),
+    Each(Of("cboDevice3"), " -setinput 3 ", kDevices, As("%", kDevicesToday)),
+    Each(Of("cboDevice4"), " -setinput 4 ", kDevices, As("%", kDevicesToday)),
+    On(Of("chkStereo"), " -stereo ON", NothingFor("sound has the channels of the machine")),
+    On(Of("chkHiColor"), " -hicolor", NothingFor("colours are never reduced")),
+    On(Of("chk2To3"), " -map2to3", NothingFor("keys are chosen in the game, with TAB")),
 });
 
 static_assert(SpeakForAll(kPieces, kOptions));

@@ -36,6 +36,16 @@ enum class PieceRule {
   kMade,   // a check box: what `make` gives while it is on
 };
 
+// What a piece is on the command line of today's MAME, or why it is nothing there.
+struct Today {
+  // Its words, each with its blank in front; "%" stands for the value of a list or text. A piece
+  // that begins without a blank goes on where the piece in front of it ended. Empty: nothing.
+  std::string_view line;
+  // In place of the values of a list, one for each; empty: the values themselves.
+  std::span<const std::string_view> values;
+  std::string_view why_not;  // where `line` is empty
+};
+
 // Says nothing unless its rule does. Every word begins with its blank.
 struct Piece {
   PieceRule rule = PieceRule::kOn;
@@ -45,7 +55,8 @@ struct Piece {
   int silent = -1;                       // the index of a list that says nothing
   std::string_view without_choice = {};  // the whole piece of a list without a selection
   bool (*applies)(const OptionValues&) = nullptr;
-  std::string (*make)(const CommandInput&) = nullptr;
+  std::string (*make)(const CommandInput&) = nullptr;  // begins with the word
+  Today today;
 };
 
 struct CommandTable {

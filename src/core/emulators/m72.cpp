@@ -118,16 +118,17 @@ constexpr auto kSampleRates = std::to_array<std::string_view>({"11025", "22050",
 constexpr auto kButtons = std::to_array<std::string_view>({"", "1", "2", "3", "4"});
 
 constexpr auto kPieces = std::to_array<Piece>({
-    When(HasDisplayMode, Each(Of("cboVR"), " -res ", kDisplayModes)),
-    Each(Of("cboFrameSkip"), " -skip ", kFrameSkips),
-    On(Of("chkVertDisplay"), " -vert"),
-    On(Of("chkScanlines"), " -scanlines"),
-    On(Of("chkVSync"), " -vsync"),
-    On(Of("chkPerformance"), " -perf"),
-    On(Of("chkPPro"), " -ppro"),
-    On(Of("chkNoJoy"), " -nojoy"),
-    Each(Of("cboSampleRate"), " -r ", kSampleRates),
-    Each(Of("cboQuickFire"), " -qf ", kButtons),
+    When(HasDisplayMode, Each(Of("cboVR"), " -res ", kDisplayModes, As(" -resolution %"))),
+    Each(Of("cboFrameSkip"), " -skip ", kFrameSkips, As(" -frameskip %")),
+    On(Of("chkVertDisplay"), " -vert", As(" -autoror")),
+    On(Of("chkScanlines"), " -scanlines",
+       As(" -effect scanlines")),
+    On(Of("chkVSync"), " -vsync", As(" -waitvsync")),
+    On(Of("chkPerformance"), " -perf", NothingFor("F11 shows it in the game")),
+    On(Of("chkPPro"), " -ppro", NothingFor("processors of the time")),
+    On(Of("chkNoJoy"), " -nojoy", As(" -nojoystick")),
+    Each(Of("cboSampleRate"), " -r ", kSampleRates, As(" -samplerate %")),
+    Each(Of("cboQuickFire"), " -qf ", kButtons, NothingFor("it is chosen in the game, with TAB")),
 });
 
 static_assert(SpeakForAll(kPieces, kOptions));

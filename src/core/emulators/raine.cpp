@@ -91,12 +91,21 @@ constexpr auto kJoysticks = std::to_array<std::string_view>(
     {"-1", "0", "STD", "2PAD", "4BUT", "6BUT", "8BUT", "FPRO", "WING", "SW", "GPRO", "SNE1", "SNE2",
      "SNE3", "WWAR", "SEGI", "SWB"});
 
+// For today's MAME.
+constexpr auto kSizesToday =
+    std::to_array<std::string_view>({"320x200", "320x240", "400x300", "512x384", "640x400",
+                                     "640x480", "800x600", "1024x768", "1280x1024", "1600x1200"});
+constexpr auto kJoysticksToday = std::to_array<std::string_view>(
+    {"", " -nojoystick", " -joystick", " -joystick", " -joystick", " -joystick", " -joystick",
+     " -joystick", " -joystick", " -joystick", " -joystick", " -joystick", " -joystick",
+     " -joystick", " -joystick", " -joystick", " -joystick"});
+
 constexpr auto kPieces = std::to_array<Piece>({
-    Off(Of("chkEnableGUI"), " -nogui"),
-    Each(Of("cboScreenMode"), " -screenmode ", kModes),
-    Each(Of("cboScreenRes"), " -screenx ", kSizes),
-    On(Of("chkLimitSpeed"), " -limitspeed"),
-    Each(Of("cboJoystick"), " -joystick ", kJoysticks),
+    Off(Of("chkEnableGUI"), " -nogui", NothingFor("a game that is named starts without a menu")),
+    Each(Of("cboScreenMode"), " -screenmode ", kModes, NothingFor("modes of VGA and VESA cards")),
+    Each(Of("cboScreenRes"), " -screenx ", kSizes, As(" -resolution %", kSizesToday)),
+    On(Of("chkLimitSpeed"), " -limitspeed", As(" -throttle")),
+    Each(Of("cboJoystick"), " -joystick ", kJoysticks, As("%", kJoysticksToday)),
 });
 
 static_assert(SpeakForAll(kPieces, kOptions));

@@ -181,26 +181,35 @@ constexpr auto kSoundCards = std::to_array<std::string_view>({"0", "1", "3", "4"
 constexpr auto kSampleRates = std::to_array<std::string_view>({"11025", "22050", "44100"});
 constexpr auto kJoysticks = std::to_array<std::string_view>({"3", "8", "9", "10", "11", "12"});
 
+// For today's MAME.
+constexpr auto kFrameSkipsToday =
+    std::to_array<std::string_view>({"", "1", "2", "3", "4", "5", "6", "7"});
+constexpr auto kSoundToday =
+    std::to_array<std::string_view>({" -sound none", "", "", "", "", "", ""});
+
 constexpr auto kPieces = std::to_array<Piece>({
-    Each(Of("cboHR"), " -RX ", kHRItems),
-    Each(Of("cboVR"), " -RY ", kVRItems),
-    Each(Of("cboFrameSkip"), " -FRAME ", kFrameSkips),
-    On(Of("chkVSync"), " -VSYNC"),
-    On(Of("chkRDTSC"), " -NORDTSC"),
-    On(Of("chkNoJoy"), " -NOJOY"),
-    On(Of("chkEagle"), " -EAGLE"),
-    On(Of("chkScanlines"), " -SCANLINES"),
-    On(Of("chkScanlines2"), " -SCANLINES2"),
-    On(Of("chkOld2151"), " -OLD2151"),
-    On(Of("chkNoLeds"), " -NOLEDS"),
-    On(Of("chkESC"), " -ESCEXIT"),
-    On(Of("chkNoTitle"), " -NOTITLE"),
-    On(Of("chkRevX"), " -REVERSEX"),
-    On(Of("chkRevY"), " -REVERSEY"),
-    Each(Of("cboSoundcard"), " -SOUNDCARD ", kSoundCards),
-    Each(Of("cboSampleRate"), " -R ", kSampleRates),
-    Each(Of("cboControls"), " -JOYTYPE ", kJoysticks),
-    On(Of("chkAnalogJoy"), " -JOY"),
+    Each(Of("cboHR"), " -RX ", kHRItems, As(" -resolution %")),
+    Each(Of("cboVR"), " -RY ", kVRItems, As("x%")),
+    Each(Of("cboFrameSkip"), " -FRAME ", kFrameSkips, As(" -frameskip %", kFrameSkipsToday)),
+    On(Of("chkVSync"), " -VSYNC", As(" -waitvsync")),
+    On(Of("chkRDTSC"), " -NORDTSC", NothingFor("time is taken from the system")),
+    On(Of("chkNoJoy"), " -NOJOY", As(" -nojoystick")),
+    On(Of("chkEagle"), " -EAGLE", As(" -filter")),
+    On(Of("chkScanlines"), " -SCANLINES",
+       As(" -effect scanlines")),
+    On(Of("chkScanlines2"), " -SCANLINES2",
+       As(" -effect scanlines")),
+    On(Of("chkOld2151"), " -OLD2151", NothingFor("there is one emulation of the chip")),
+    On(Of("chkNoLeds"), " -NOLEDS", NothingFor("the leds are left alone")),
+    On(Of("chkESC"), " -ESCEXIT", NothingFor("ESC ends the game anyway")),
+    On(Of("chkNoTitle"), " -NOTITLE", As(" -skip_gameinfo")),
+    On(Of("chkRevX"), " -REVERSEX", NothingFor("directions are chosen in the game, with TAB")),
+    On(Of("chkRevY"), " -REVERSEY", NothingFor("directions are chosen in the game, with TAB")),
+    Each(Of("cboSoundcard"), " -SOUNDCARD ", kSoundCards, As("%", kSoundToday)),
+    Each(Of("cboSampleRate"), " -R ", kSampleRates, As(" -samplerate %")),
+    Each(Of("cboControls"), " -JOYTYPE ", kJoysticks,
+         NothingFor("the kind of joystick is found out")),
+    On(Of("chkAnalogJoy"), " -JOY", As(" -joystick")),
 });
 
 static_assert(SpeakForAll(kPieces, kOptions));

@@ -63,8 +63,14 @@ void SnapshotPage::ShowLabels(bool visible) {
 bool SnapshotPage::ShowPicture(const DosFiles& files, std::string_view folder,
                                std::string_view file) {
   const bool plain = file.find_first_of("\\/:") == std::string_view::npos;
-  Result<Picture> picture = plain ? Picture::FromFile(files, JoinPath(folder, file), kLongestSide)
-                                  : Result<Picture>(Error{"not a plain file name"});
+  const auto from_file = [&](std::string_view name) {
+    return plain ? Picture::FromFile(files, JoinPath(folder, name), kLongestSide)
+                 : Result<Picture>(Error{"not a plain file name"});
+  };
+  Result<Picture> picture = from_file(file);
+  if (!picture.ok() && plain && !files.FileExists(JoinPath(folder, file))) {
+    picture = from_file(std::string(file.substr(0, file.rfind('.'))) + ".png");
+  }
   if (picture.ok()) {
     imgSnap->SetPicture(std::move(*picture));
     return true;

@@ -18,8 +18,9 @@ class SnapshotPage : public PictureBox {
 
   // Hides the six labels that stand in for a picture.
   void HideLabels();
-  // Shows the picture `folder` + "\" + `file`; if it can't be loaded, empties the image, shows the
-  // labels with folder and file, and returns false.
+  // Shows the picture `folder` + "\" + `file`, or, where there is no such file, one of the same
+  // name with ".png", which today's emulators take; if it can't be loaded, empties the image, shows
+  // the labels with folder and file, and returns false.
   bool ShowPicture(const DosFiles& files, std::string_view folder, std::string_view file);
 
   // Its visibility tells whether the snapshot page is the current one.

@@ -15,11 +15,12 @@ namespace {
 constexpr qint64 kMostPixels = 64'000'000;
 constexpr std::size_t kLargestFile = 64U << 20U;
 
-// What the content says it is; the file's name doesn't matter. "" for anything else.
-QByteArray FormatOf(const std::string& bytes) {
+// What the content says it is; the file's name matters for PNG alone. "" for anything else.
+QByteArray FormatOf(const std::string& bytes, std::string_view path) {
   if (bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a")) return "gif";
   if (bytes.starts_with("\xFF\xD8\xFF")) return "jpeg";
   if (bytes.starts_with("BM")) return "bmp";
+  if (bytes.starts_with("\x89PNG") && path.ends_with(".png")) return "png";
   return {};
 }
 
@@ -57,7 +58,7 @@ Result<Picture> Picture::FromFile(const DosFiles& files, std::string_view path, 
       QByteArray::fromRawData(bytes->data(), static_cast<qsizetype>(bytes->size()));
   QBuffer buffer(&content);
   buffer.open(QIODevice::ReadOnly);
-  QImageReader reader(&buffer, FormatOf(*bytes));
+  QImageReader reader(&buffer, FormatOf(*bytes, path));
   reader.setAutoDetectImageFormat(false);
   // A BMP whose rows run from the top down tells its height as a negative number.
   const QSize size(reader.size().width(), std::abs(reader.size().height()));

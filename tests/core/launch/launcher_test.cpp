@@ -156,7 +156,7 @@ TEST_F(LauncherTest, TheBatchFileHoldsTheCommandLineAndIsGoneAfterTheRun) {
 }
 
 TEST_F(LauncherTest, EveryEmulatorTakesTheArchiveOfTheRecordForTheRunAlone) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
     const bool mame = emulator == kMame;
     const std::string no_rom =
@@ -218,7 +218,7 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
 }
 
 TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     const bool looks_up_first = emulator == kCallus || emulator == kRaine || emulator == kM72;
     const std::string title = emulator == kRaine ? "Warning! - No EXE found!|" : "";
     for (const char* path : {"C:\\Emu\\None.exe", ""}) {

@@ -21,7 +21,7 @@ bool Overlap(const TwipRect& a, const TwipRect& b) {
 }
 
 TEST(OptionTable, EveryControlSaysWhatItIsInARoomOfItsOwnOnWholePixels) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     std::vector<TwipRect> taken;
     for (const OptionSpec& option : emulator.options) {
       SCOPED_TRACE(testing::Message() << emulator.word << " " << option.name);

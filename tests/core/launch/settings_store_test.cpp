@@ -62,7 +62,7 @@ TEST_F(SettingsStoreTest, WritesTheRecordsOfAllEmulatorsAsTold) {
 }
 
 TEST_F(SettingsStoreTest, EveryFieldOfEveryEmulatorComesBack) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     const auto options = emulator.options;
     OptionValues values = DefaultValues(emulator, "D:\\Other");
     for (std::size_t i = 0; i < options.size(); ++i) {

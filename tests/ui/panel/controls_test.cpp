@@ -68,7 +68,7 @@ TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
   MainWindow main(files_, folders_, boxes_,
                   [](const Emulator& /*emulator*/) { return std::vector<std::string>(); }, {});
   std::map<std::string, QWidget*> all = {{"Main", &main}};
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     all.emplace(emulator.word, &sections_.Panel(emulator));
   }
   std::ifstream list(ZARVO_CONTROLS);
@@ -102,7 +102,7 @@ TEST_F(NamedPanelControlsTest, WindowsHaveWhatTheListTells) {
 TEST_F(NamedPanelControlsTest, TheCaptionsOfTheOptionsFit) {
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(11);
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     for (const CheckBox* check : sections_.Panel(emulator).findChildren<CheckBox*>()) {
       const int wanted = QFontMetrics(font).horizontalAdvance(ToQt(check->Caption())) + 15;
       EXPECT_LE(wanted, check->width()) << emulator.word << " " << check->Caption();

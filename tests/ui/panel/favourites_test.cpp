@@ -96,7 +96,7 @@ TEST_F(FavouritesTest, DeleteSelectsTheNextEntryAndRunsItsCycle) {
 }
 
 TEST_F(FavouritesTest, ClearAsksFirst) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     if (!emulator.has_favourites) continue;
     EmulatorPanel& panel = OpenConfigured(emulator);
     const std::string game = Caption(panel);

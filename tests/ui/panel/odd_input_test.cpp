@@ -47,8 +47,8 @@ TEST_F(OddInputTest, LongLinesAndJunk) {
       "",
   };
   for (const std::string& file : files) {
-    for (const Emulator& emulator : Emulators()) PutData(emulator.word, file);
-    for (const Emulator& emulator : Emulators()) {
+    for (const Emulator& emulator : kTested) PutData(emulator.word, file);
+    for (const Emulator& emulator : kTested) {
       EmulatorPanel& panel = OpenConfigured(emulator);
       if (emulator.has_filters) Wander(panel);
       TakeBoxes();

@@ -23,7 +23,7 @@ TEST_F(PagesTest, EveryButtonButSettingsSavesTheCurrentGameBeforeItTurnsThePage)
       {&PanelPages::imgButOpts, "conf", true},     {&PanelPages::imgButSnap, "img snap", true},
       {&PanelPages::imgButSet, "settings", false}, {&PanelPages::imgButSet, "settings", false},
   };
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     EmulatorPanel& panel = OpenConfigured(emulator);
     for (const Case& at : cases) {
       SCOPED_TRACE(std::string(emulator.word) + " " + at.pages);
@@ -168,7 +168,7 @@ TEST_F(PagesTest, StartValues) {
 }
 
 TEST_F(PagesTest, ApplyToAllAsksThenLeavesTheDefaultRecordAlone) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
     EmulatorPanel& panel = OpenConfigured(emulator);
     Press(panel.pages->imgButInfo);

@@ -48,7 +48,7 @@ TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
 }
 
 TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
     std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + std::string(emulator.DataFile())));
     sections_.OpenSection(emulator);
@@ -66,7 +66,7 @@ TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
 // The box comes up after the first game was selected; Callus, Raine and System16 stand on the
 // screen by then if they have no favourites.
 TEST_F(SectionsTest, WithoutAConfigurationFileItSaysSoOnTheConfigurationPage) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
     const bool is_mame_or_m72 = emulator == kMame || emulator == kM72;
     boxes_.on_show = [&] {

@@ -91,7 +91,7 @@ TEST_F(SizesTest, M72IsMiddleOrShortAndKeepsItsWord) {
 }
 
 TEST_F(SizesTest, TheLogoDocksThePanelBesideTheMainWindow) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
     EmulatorPanel& panel = OpenConfigured(emulator);
     const auto place = [&] { return std::pair(panel.Left(), panel.Top()); };

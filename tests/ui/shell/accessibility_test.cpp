@@ -60,7 +60,7 @@ class AccessibilityTest : public PanelTest {
 };
 
 TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
-  for (const Emulator& emulator : Emulators()) Visit(sections_.Panel(emulator), 30);
+  for (const Emulator& emulator : kTested) Visit(sections_.Panel(emulator), 30);
   MainWindow main(files_, folders_, boxes_,
                   [](const Emulator&) { return std::vector<std::string>(); },
                   {.sections = [this]() -> SectionHost& { return sections_; },

@@ -178,7 +178,7 @@ TEST_F(MainWindowTest, TheHoverReadsTheFactsAnewEachTime) {
 }
 
 TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
-  for (const Emulator& emulator : Emulators()) {
+  for (const Emulator& emulator : kTested) {
     Label* const label = Selector(emulator);
     PressMouse(label, {3, 3});
     EXPECT_EQ(label->ForeColor().value, 65535U);
@@ -212,7 +212,7 @@ TEST_F(MainWindowTest, SelectorsAndCommandsShowTheMouse) {
 
   const auto opaque_after = [&](QWidget* over) {
     std::string still;
-    for (const Emulator& emulator : Emulators()) {
+    for (const Emulator& emulator : kTested) {
       MoveMouse(Selector(emulator));
       MoveMouse(over);
       if (Look(Selector(emulator)).starts_with("opaque")) still += emulator.word;

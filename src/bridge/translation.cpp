@@ -1,0 +1,155 @@
+#include "bridge/translation.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/platform/text.h"
+
+namespace zarvo {
+namespace {
+
+using Words = std::span<const std::string_view>;
+
+std::vector<std::string_view> SplitAtBlanks(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (!(text = TrimBlanks(text)).empty()) {
+    words.push_back(text.substr(0, text.find(' ')));
+    text.remove_prefix(words.back().size());
+  }
+  return words;
+}
+
+// How many words `said` takes if `words` begin with it, else 0.
+std::size_t Beginning(Words words, std::string_view said) {
+  const auto expected = SplitAtBlanks(said);
+  const bool same = words.size() >= expected.size() &&
+                    std::equal(expected.begin(), expected.end(), words.begin());
+  return same ? expected.size() : 0;
+}
+
+// What of the words was a piece of the command line.
+struct Match {
+  std::size_t taken = 0;  // words; 0: it isn't this piece
+  std::string today;
+};
+
+std::string Filled(std::string_view line, std::string_view value) {
+  std::string text;
+  for (const char c : line) {
+    if (c == '%') {
+      text += value;
+    } else {
+      text += c;
+    }
+  }
+  return text;
+}
+
+// One of a list's values; the longest, for one may begin as another does.
+Match MatchList(const Piece& piece, Words words) {
+  Match best;
+  for (std::size_t i = 0; i < piece.words.size(); ++i) {
+    if (piece.words[i].empty()) continue;
+    const std::size_t taken = Beginning(words, std::string(piece.word).append(piece.words[i]));
+    if (taken <= best.taken) continue;
+    const std::string_view value =
+        piece.today.values.empty() ? piece.words[i] : piece.today.values[i];
+    best = {.taken = taken, .today = value.empty() ? "" : Filled(piece.today.line, value)};
+  }
+  return best;
+}
+
+// The word of the piece, then any value.
+Match MatchValue(const Piece& piece, Words words) {
+  const std::size_t taken = Beginning(words, piece.word);
+  if (taken == 0 || words.size() == taken) return {};
+  return {.taken = taken + 1, .today = Filled(piece.today.line, words[taken])};
+}
+
+Match MatchPiece(const Piece& piece, Words words) {
+  switch (piece.rule) {
+    case PieceRule::kOn:
+    case PieceRule::kOff:
+      return {.taken = Beginning(words, piece.word), .today = std::string(piece.today.line)};
+    case PieceRule::kIndex:
+      return MatchList(piece, words);
+    case PieceRule::kText:
+    case PieceRule::kMade:
+      return MatchValue(piece, words);
+  }
+  return {};
+}
+
+Match FindPiece(const CommandTable& command, Words words) {
+  Match best;
+  for (const Piece& piece : command.pieces) {
+    Match match = MatchPiece(piece, words);
+    if (match.taken > best.taken) best = std::move(match);
+  }
+  return best;
+}
+
+// The words of a piece as a player reads them, with "…" for a value.
+std::string Said(const Piece& piece) {
+  const bool has_value = piece.rule != PieceRule::kOn && piece.rule != PieceRule::kOff;
+  return "`" + std::string(TrimBlanks(piece.word)) + (has_value ? " \u2026`" : "`");
+}
+
+// Every line once, and of many the first and the last.
+std::string SaidToday(const Today& today) {
+  if (today.line.empty()) return "nothing: " + std::string(today.why_not);
+  if (today.values.empty()) return "`" + Filled(TrimBlanks(today.line), "\u2026") + "`";
+  constexpr std::size_t kMostTold = 3;
+  std::vector<std::string> told;
+  for (const std::string_view value : today.values) {
+    if (value.empty()) continue;
+    std::string line = "`" + std::string(TrimBlanks(Filled(today.line, value))) + "`";
+    if (std::find(told.begin(), told.end(), line) == told.end()) told.push_back(std::move(line));
+  }
+  if (told.size() > kMostTold) return told.front() + " to " + told.back();
+  std::string text;
+  for (const std::string& line : told) text += (text.empty() ? "" : ", ") + line;
+  return text;
+}
+
+}  // namespace
+
+Result<std::vector<std::string>> Translate(const Emulator& emulator, Words words) {
+  const CommandTable& command = emulator.command;
+  words = words.subspan(Beginning(words, command.before_rom));
+  if (words.empty() || words.front().starts_with('-')) {
+    return Error{"There is no game on the command line of " + std::string(emulator.word) + "."};
+  }
+  std::string line(words.front());
+  words = words.subspan(1);
+  words = words.subspan(Beginning(words, command.behind_rom));
+  while (!words.empty()) {
+    const Match match = FindPiece(command, words);
+    if (match.taken == 0) {
+      return Error{std::string(emulator.word) + " has no option \"" + std::string(words.front()) +
+                   "\"."};
+    }
+    line += match.today;
+    words = words.subspan(match.taken);
+  }
+  const auto parts = SplitAtBlanks(line);
+  return std::vector<std::string>(parts.begin(), parts.end());
+}
+
+std::string TranslationTable() {
+  std::string page =
+      "# The options of the DOS emulators in today's MAME\n\n"
+      "`zarvo-mame` takes the command line of one of the emulators and turns it into one of "
+      "today's\n"
+      "MAME. This page is what `zarvo-mame --table` prints. An option that isn't in the line of a\n"
+      "game is left to `mame.ini`.\n";
+  for (const Emulator& emulator : Emulators()) {
+    page += "\n## " + std::string(emulator.word) + "\n\n| Then | Today |\n|---|---|\n";
+    for (const Piece& piece : emulator.command.pieces) {
+      page += "| " + Said(piece) + " | " + SaidToday(piece.today) + " |\n";
+    }
+  }
+  return page;
+}
+
+}  // namespace zarvo
