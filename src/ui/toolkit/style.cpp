@@ -189,6 +189,30 @@ void DrawEdges(QPainter& painter, const QRect& rect, const QColor& top_left,
   painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), bottom_right);
 }
 
+QString FittedLine(const QFontMetrics& metrics, int room, const QString& text) {
+  if (metrics.horizontalAdvance(text) <= room) return text;
+  const QString halves = metrics.elidedText(text, Qt::ElideMiddle, room);
+  const qsizetype start = text.endsWith(u')') ? text.lastIndexOf(u'(') : -1;
+  if (start < 0 || halves.endsWith(text.mid(start))) return halves;
+  // The brackets take more than their half, as long as the beginning keeps something.
+  const QString brackets = text.mid(start);
+  const int rest = room - metrics.horizontalAdvance(brackets);
+  if (rest < metrics.horizontalAdvance(QStringLiteral("M\u2026"))) return halves;
+  return metrics.elidedText(text.left(start), Qt::ElideRight, rest) + brackets;
+}
+
+QString FittedLines(const QFontMetrics& metrics, const QSize& room, const QString& text) {
+  const auto fits = [&](const QString& shown) {
+    const QSize taken = metrics.boundingRect(QRect({}, room), Qt::TextWordWrap, shown).size();
+    return taken.width() <= room.width() && taken.height() <= room.height();
+  };
+  QString shown = text;
+  for (qsizetype kept = text.size() - 1; kept > 0 && !fits(shown); --kept) {
+    shown = text.left((kept + 1) / 2) + QChar(0x2026) + text.right(kept / 2);
+  }
+  return shown;
+}
+
 }  // namespace
 
 QColor Faded(const QColor& colour) {
@@ -226,20 +250,21 @@ void DrawSunkenEdge(QPainter& painter, const QRect& rect) {
   DrawEdges(painter, rect, kDeepNight.ToQt(), kSlate.ToQt());
 }
 
+QString Fitted(const QFontMetrics& metrics, const QSize& room, const QString& text, bool wrap) {
+  return wrap ? FittedLines(metrics, room, text) : FittedLine(metrics, room.width(), text);
+}
+
+QString IfElided(const QFontMetrics& metrics, const QSize& room, const QString& text, bool wrap) {
+  return Fitted(metrics, room, text, wrap) == text ? QString() : text;
+}
+
 void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
                  bool wrap) {
   const int across = align == TextAlign::kLeft     ? Qt::AlignLeft
                      : align == TextAlign::kCentre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
-  if (wrap) {
-    painter.drawText(rect, across | Qt::AlignTop | Qt::TextWordWrap, text);
-    return;
-  }
-  const QFontMetrics metrics = painter.fontMetrics();
-  const QString shown = metrics.horizontalAdvance(text) <= rect.width()
-                            ? text
-                            : metrics.elidedText(text, Qt::ElideRight, rect.width());
-  painter.drawText(rect, across | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+  const int down = wrap ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter | Qt::TextSingleLine;
+  painter.drawText(rect, across | down, Fitted(painter.fontMetrics(), rect.size(), text, wrap));
 }
 
 QFont InBold(QFont font, bool bold) {
