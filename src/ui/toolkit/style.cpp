@@ -231,7 +231,7 @@ void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pres
 }
 
 void DrawButton(QPainter& painter, const QRect& rect, const ButtonLook& look) {
-  const QColor face = (look.is_default ? kBluegrey : kSlate).ToQt();
+  const QColor face = kSlate.ToQt().darker(128);  // white is read on its lightest shine
   const QColor shown = !look.enabled ? Faded(face) : look.hovered ? face.lighter(115) : face;
   DrawKey(painter, rect, shown, look.down);
   if (look.focused) {
