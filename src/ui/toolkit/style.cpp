@@ -9,6 +9,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -193,12 +194,19 @@ QString FittedLine(const QFontMetrics& metrics, int room, const QString& text) {
   if (metrics.horizontalAdvance(text) <= room) return text;
   const QString halves = metrics.elidedText(text, Qt::ElideMiddle, room);
   const qsizetype start = text.endsWith(u')') ? text.lastIndexOf(u'(') : -1;
-  if (start < 0 || halves.endsWith(text.mid(start))) return halves;
-  // The brackets take more than their half, as long as the beginning keeps something.
+  const int dots = metrics.horizontalAdvance(QChar(0x2026));
+  if (start < 0 || room < 5 * dots || halves.endsWith(text.mid(start))) return halves;
+  // The brackets take more than their half, but not all; those that are longer still lose a part
+  // behind the middle, for versions differ at their front and sets at their end.
   const QString brackets = text.mid(start);
-  const int rest = room - metrics.horizontalAdvance(brackets);
-  if (rest < metrics.horizontalAdvance(QStringLiteral("M\u2026"))) return halves;
-  return metrics.elidedText(text.left(start), Qt::ElideRight, rest) + brackets;
+  const int brackets_width = metrics.horizontalAdvance(brackets);
+  const QString name = metrics.elidedText(text.left(start), Qt::ElideRight,
+                                          std::max({room / 5, 2 * dots, room - brackets_width}));
+  const int rest = room - metrics.horizontalAdvance(name);
+  if (brackets_width <= rest) return name + brackets;
+  const QString front = metrics.elidedText(brackets, Qt::ElideRight, rest * 2 / 3);
+  const int back_width = rest - metrics.horizontalAdvance(front) + dots;
+  return name + front + metrics.elidedText(brackets, Qt::ElideLeft, back_width).mid(1);
 }
 
 QString FittedLines(const QFontMetrics& metrics, const QSize& room, const QString& text) {

@@ -4,6 +4,10 @@
 #include <QHelpEvent>
 #include <QRegularExpression>
 #include <QToolTip>
+#include <cstring>
+#include <set>
+#include <string>
+#include <tuple>
 
 #include "fakes/stage.h"
 #include "ui/toolkit/check_box.h"
@@ -31,7 +35,7 @@ TEST(FittingTest, ATextLosesItsMiddleNotItsBrackets) {
            {"1000 Miglia: Great Rally (94/05/26)", "1000 Miglia: Great R", "1000", "(94/05/26)"},
            {"Super Tetris (World, 4 Players, set 1)", "Super Tetris (World, 4 Players", "S",
             "\u2026(World, 4 Players, set 1)"},
-           {"Tetris (World, 4 Players, set 1)", "Tetris (World", "Te", "1)"},
+           {"Tetris (World, 4 Players, set 1)", "Tetris (World", "T", "1)"},
            {R"(C:\Emu\Arcade\Mame\roms)", R"(C:\Emu\Arcade\Ma)", R"(C:\E)", R"(\roms)"},
        }) {
     const int room = metrics.horizontalAdvance(QString::fromUtf8(each.room));
@@ -40,6 +44,24 @@ TEST(FittingTest, ATextLosesItsMiddleNotItsBrackets) {
                 shown.endsWith(QString::fromUtf8(each.end)))
         << shown.toStdString();
     EXPECT_LE(metrics.horizontalAdvance(shown), room) << shown.toStdString();
+  }
+}
+
+TEST(FittingTest, VariantsAreToldApart) {
+  const QFontMetrics metrics{QFont()};
+  for (const auto& [room, text, letters] : {
+           std::tuple{130, "Arkanoid Returns (Ver 2.02%1 1997/02/10)", "JAO"},
+           {130, "Street Fighter: The Movie (v1.%1, bootleg set)", "123"},
+           {197, "Adventure Quiz Capcom World 2 (Japan 920611, B-Board 89629B-3, set %1)", "12"},
+       }) {
+    std::set<std::string> shown;
+    for (const QChar letter : QString::fromLatin1(letters)) {
+      const QString fitted =
+          Fitted(metrics, {room, 0}, QString::fromLatin1(text).arg(letter), false);
+      EXPECT_LE(metrics.horizontalAdvance(fitted), room) << fitted.toStdString();
+      shown.insert(fitted.toStdString());
+    }
+    EXPECT_EQ(shown.size(), strlen(letters)) << *shown.begin();
   }
 }
 
