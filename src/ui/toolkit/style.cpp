@@ -192,7 +192,7 @@ void DrawEdges(QPainter& painter, const QRect& rect, const QColor& top_left,
 
 QString FittedLine(const QFontMetrics& metrics, int room, const QString& text) {
   if (metrics.horizontalAdvance(text) <= room) return text;
-  const QString halves = metrics.elidedText(text, Qt::ElideMiddle, room);
+  QString halves = metrics.elidedText(text, Qt::ElideMiddle, room);
   const qsizetype start = text.endsWith(u')') ? text.lastIndexOf(u'(') : -1;
   const int dots = metrics.horizontalAdvance(QChar(0x2026));
   if (start < 0 || room < 5 * dots || halves.endsWith(text.mid(start))) return halves;
