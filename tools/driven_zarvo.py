@@ -35,9 +35,9 @@ CONFIGURATION = {"executable": (5780, 1440), "roms": (5780, 2040), "snapshots": 
 FILTERS = {"state": (800, 4790), "genre": (2300, 4790), "manufacturer": (3800, 4790),
            "year": (5100, 4790)}
 SETTINGS = {"folder": (4970, 875), "default folder": (5450, 875), "all": (5955, 875)}
-MAME_OPTIONS = {"screen": (3700, 1205), "frames": (3700, 1490), "sound": (5400, 1775),
-                "rate": (5400, 2060), "triple buffer": (2550, 3985), "flip vertical": (3960, 4405),
-                "no stereo": (5160, 2935)}
+MAME_OPTIONS = {"screen": (5400, 1185), "frames": (3400, 1185), "sound": (5400, 1950),
+                "rate": (5400, 2205), "triple buffer": (2550, 4015), "flip vertical": (3960, 4435),
+                "no stereo": (5160, 2965)}
 LAYOUTS = {"Add": (480, 2030), "Remove": (1520, 2030), "Rename": (2500, 2030),
            "Load": (830, 2440), "Save": (2250, 2440), "autoload": (300, 3135),
            "to load": (1800, 3490), "on top": (300, 4050), "Close": (2450, 4040)}

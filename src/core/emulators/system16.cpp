@@ -37,8 +37,8 @@ constexpr auto kControlsItems =
 constexpr Rows kLabels{.top = 390, .pitch = 525, .height = 195};
 constexpr Rows kLists{.top = 585, .pitch = 525, .height = 255};
 constexpr Rows kChecks{.top = 2100, .pitch = 300, .height = 195};
-constexpr Span kLeft{60, 1845};
-constexpr Span kRight{1980, 1845};
+constexpr Span kLeft{60, 1950};
+constexpr Span kRight{2040, 1785};
 constexpr std::array<Span, 3> kColumns = {{{60, 1455}, {1545, 1185}, {2760, 1065}}};
 
 constexpr std::array<OptionSpec, 19> kOptions = {{

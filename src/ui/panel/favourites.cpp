@@ -22,10 +22,10 @@ Favourites::Favourites(QWidget* panel, const Emulator& emulator, const PanelTool
 }
 
 void Favourites::Build(QWidget* panel) {
-  lblFavorties = MakeCaption(panel, {90, 525, 870, 195}, " Favorties:");
+  lblFavorties = MakeCaption(panel, {90, 525, 840, 195}, " Favorties:");
   lblFavorties->SetName(ControlName(emulator_, "lblFavorties"));
   lblFavorties->SetForeColor(kPeriwinkle);
-  lblFavCount = MakeCaption(panel, {960, 525, 420, 195}, "Cou");
+  lblFavCount = MakeCaption(panel, {930, 525, 480, 195}, "Cou");
   lblFavCount->SetName(
       ControlName(emulator_, emulator_.has_favourites ? "lblFavCount" : "lblFavCountFix"));
   lblFavCount->SetForeColor(kWhite);

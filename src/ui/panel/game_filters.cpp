@@ -59,22 +59,23 @@ void GameFilters::BuildCounters(QWidget* panel) {
   const PanelTexts& texts = emulator_.texts;
   // Between the year combo and the right edge; the long captions take a smaller letter.
   const bool narrow = texts.total_caption.size() > 2;
-  const int left = emulator_.has_filters ? (narrow ? 5445 : 5640) : 5340;
+  const int left = emulator_.has_filters ? (narrow ? 5430 : 5640) : 5340;
   const int caption_width = narrow ? 495 : 165;
+  const int height = emulator_.has_filters ? 165 : 150;
   const auto counter = [&](int top, std::string_view caption, std::string_view tail) {
-    Label* const text = MakeCaption(panel, {left, top, caption_width, 165}, caption);
+    Label* const text = MakeCaption(panel, {left, top, caption_width, height}, caption);
     Label* const number =
-        MakeCaption(panel, {left + caption_width, top, 6285 - left - caption_width, 165}, "");
+        MakeCaption(panel, {left + caption_width, top, 6315 - left - caption_width, height}, "");
     number->SetName(ControlName(emulator_, "lbl", tail));
     for (Label* const label : {text, number}) {
       label->SetForeColor(kPeriwinkle);
-      if (narrow && emulator_.has_filters) label->SetTextSize(9);
+      if (narrow) label->SetTextSize(9);
     }
     number->SetForeColor(kWhite);
     return number;
   };
   if (!texts.count_caption.empty()) lblRomCount = counter(4635, texts.count_caption, "RomCount");
-  lblTotal = counter(emulator_.has_filters ? 4800 : 4605, texts.total_caption, "Total");
+  lblTotal = counter(emulator_.has_filters ? 4800 : 4620, texts.total_caption, "Total");
   lblTotal->SetCaption(texts.design_total);
 }
 

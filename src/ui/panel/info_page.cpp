@@ -22,12 +22,17 @@ constexpr int kRow = 195;
 constexpr TwipRect LeftRow(int top, int row) { return {105, top + row * kRow, 1770, kRow}; }
 constexpr TwipRect RightRow(int top, int row) { return {2010, top + row * kRow, 1800, kRow}; }
 
-constexpr int kGeneralTop = 240;
-constexpr int kEmulationTop = 1230;
-constexpr int kChipsTop = 2730;
+constexpr int kGeneralTop = 225;
+constexpr int kEmulationTop = 1035;
+constexpr int kChipsTop = 2235;
 
 constexpr int kWide = 765;
-constexpr int kNarrow = 705;
+
+// The names of chips are long: each has two lines.
+constexpr TwipRect CpuRow(int row) { return {105, kChipsTop + row * 2 * kRow, 1770, 2 * kRow}; }
+constexpr TwipRect SoundRow(int row) { return {2010, kChipsTop + row * 2 * kRow, 1800, 2 * kRow}; }
+constexpr int kCpu = 525;
+constexpr int kSound = 705;
 
 constexpr std::array<RowPlace, kFieldCount> kRows = {{
     {Field::kName, {105, kGeneralTop, 3555, kRow}, kWide},
@@ -43,14 +48,14 @@ constexpr std::array<RowPlace, kFieldCount> kRows = {{
     {Field::kHiScore, RightRow(kEmulationTop, 3), kWide},
     {Field::kCocktail, RightRow(kEmulationTop, 4), kWide},
     {Field::kDriver, LeftRow(kEmulationTop, 2), kWide},
-    {Field::kCpu1, LeftRow(kChipsTop, 0), kNarrow},
-    {Field::kCpu2, LeftRow(kChipsTop, 1), kNarrow},
-    {Field::kCpu3, LeftRow(kChipsTop, 2), kNarrow},
-    {Field::kCpu4, LeftRow(kChipsTop, 3), kNarrow},
-    {Field::kSound1, RightRow(kChipsTop, 0), kNarrow},
-    {Field::kSound2, RightRow(kChipsTop, 1), kNarrow},
-    {Field::kSound3, RightRow(kChipsTop, 2), kNarrow},
-    {Field::kSound4, RightRow(kChipsTop, 3), kNarrow},
+    {Field::kCpu1, CpuRow(0), kCpu},
+    {Field::kCpu2, CpuRow(1), kCpu},
+    {Field::kCpu3, CpuRow(2), kCpu},
+    {Field::kCpu4, CpuRow(3), kCpu},
+    {Field::kSound1, SoundRow(0), kSound},
+    {Field::kSound2, SoundRow(1), kSound},
+    {Field::kSound3, SoundRow(2), kSound},
+    {Field::kSound4, SoundRow(3), kSound},
 }};
 
 }  // namespace
@@ -64,11 +69,11 @@ InfoPage::InfoPage(QWidget* parent, const Emulator& emulator) : PictureBox(paren
 }
 
 void InfoPage::BuildFrames() {
-  MakeFrame(this, {30, 45, 3795, 870}, " General Info:");
-  MakeFrame(this, {30, 1020, 1860, 1260}, " Emulation Info:");
-  MakeFrame(this, {1950, 1020, 1875, 1260}, " Emulation Accuracy:");
-  MakeFrame(this, {30, 2520, 1860, 1095}, " CPU Emulation");
-  MakeFrame(this, {1950, 2520, 1875, 1095}, " Sound Emulation");
+  MakeFrame(this, {30, 30, 3795, 795}, " General Info:");
+  MakeFrame(this, {30, 840, 1860, 1185}, " Emulation Info:");
+  MakeFrame(this, {1950, 840, 1875, 1185}, " Emulation Accuracy:");
+  MakeFrame(this, {30, 2040, 1860, 1785}, " CPU Emulation");
+  MakeFrame(this, {1950, 2040, 1875, 1785}, " Sound Emulation");
 }
 
 void InfoPage::BuildRows() {
@@ -85,11 +90,12 @@ void InfoPage::BuildRows() {
 
 Label* InfoPage::Row(const TwipRect& place, int caption_width, std::string_view caption,
                      std::string_view name) {
-  MakeCaption(this, {place.left, place.top, caption_width, place.height}, caption);
+  MakeCaption(this, {place.left, place.top, caption_width, kRow}, caption);
   Label* const value = MakeCaption(
       this, {place.left + caption_width, place.top, place.width - caption_width, place.height}, "");
   value->SetName(name);
   value->SetForeColor(kValue);
+  value->SetWordWrap(place.height > kRow);
   return value;
 }
 
@@ -100,7 +106,6 @@ void InfoPage::ShowRecord(const GameRecord& record) {
     const auto text = DetailText(record, row.field);
     if (!text) continue;
     FieldLabel(row.field)->SetCaption(*text);
-    FieldLabel(row.field)->SetToolTipText(*text);  // a long one doesn't fit its row
   }
   lblInfoSamples->SetCaption(SamplesText(record));
 }

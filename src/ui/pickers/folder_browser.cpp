@@ -1,6 +1,5 @@
 #include "ui/pickers/folder_browser.h"
 
-#include <QFontMetrics>
 #include <string>
 
 #include "core/platform/dos_path.h"
@@ -14,12 +13,8 @@ constexpr int kLineHeight = ToTwips(15);
 constexpr int kButtonWidth = ToTwips(81);
 constexpr int kButtonHeight = ToTwips(24);
 
-// A long path loses its middle: its drive and its last folder tell most.
 void ShowPath(Label& label, const std::string& path) {
-  const QString text = ToQt(path);
-  const int room = ToPixels(label.Width());
-  label.SetCaption(FromQt(label.fontMetrics().elidedText(text, Qt::ElideMiddle, room)));
-  label.SetToolTipText(path);
+  label.SetCaption(path);
   label.SetAccessibleName("Open folder: " + path);
 }
 

@@ -16,13 +16,14 @@ QRectF IndicatorRect(const QWidget& box) {
   return {0.5, top + 0.5, kIndicator - 1.0, kIndicator - 1.0};
 }
 
+QRect CaptionRect(const QWidget& box) { return box.rect().adjusted(kIndicator + kGap, 0, 0, 0); }
+
 // The caption beside the indicator, and the ring if the box has the focus.
 void PaintCaption(QPainter& painter, const QAbstractButton& box, const std::string& caption,
                   const QColor& ink) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(box.isEnabled() ? ink : Faded(ink));
-  DrawCaption(painter, box.rect().adjusted(kIndicator + kGap, 0, 0, 0), ToQt(caption),
-              TextAlign::kLeft, false);
+  DrawCaption(painter, CaptionRect(box), ToQt(caption), TextAlign::kLeft, false);
   if (box.hasFocus()) DrawFocus(painter, box.rect());
 }
 
@@ -71,6 +72,10 @@ void CheckBox::paintEvent(QPaintEvent* /*event*/) {
   PaintCaption(painter, *this, caption_, fore_colour_.ToQt());
 }
 
+QString CheckBox::ElidedText() const {
+  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
+}
+
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
   QObject::connect(this, &QRadioButton::toggled, this, [this](bool on) {
     if (on) Click.Raise();
@@ -102,6 +107,10 @@ void OptionButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawEllipse(box.adjusted(3, 3, -3, -3));
   }
   PaintCaption(painter, *this, caption_, kInk.ToQt());
+}
+
+QString OptionButton::ElidedText() const {
+  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
 }
 
 }  // namespace zarvo

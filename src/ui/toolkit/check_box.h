@@ -28,6 +28,7 @@ class CheckBox : public QCheckBox, public Control {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
   [[nodiscard]] bool hitButton(const QPoint& point) const override;
 
  private:
@@ -48,6 +49,7 @@ class OptionButton : public QRadioButton, public Control {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
   [[nodiscard]] bool hitButton(const QPoint& point) const override;
 
  private:

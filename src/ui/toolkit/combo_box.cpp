@@ -13,7 +13,8 @@
 namespace zarvo {
 namespace {
 
-constexpr int kArrowWidth = 13;  // pixels
+constexpr int kArrowWidth = 9;  // pixels
+constexpr int kTextLeft = 3;
 
 }  // namespace
 
@@ -87,6 +88,12 @@ void ComboBox::showPopup() {
   QComboBox::showPopup();
 }
 
+QRect ComboBox::TextRect() const { return rect().adjusted(kTextLeft, 0, -kArrowWidth - 1, 0); }
+
+QString ComboBox::ElidedText() const {
+  return IfElided(fontMetrics(), TextRect().size(), currentText());
+}
+
 void ComboBox::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor back = isEnabled() ? back_colour_.ToQt() : Faded(back_colour_.ToQt());
@@ -103,8 +110,7 @@ void ComboBox::paintEvent(QPaintEvent* /*event*/) {
   painter.fillPath(tip, ink);
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(ink);
-  DrawCaption(painter, rect().adjusted(4, 0, -kArrowWidth - 2, 0), currentText(), TextAlign::kLeft,
-              false);
+  DrawCaption(painter, TextRect(), currentText(), TextAlign::kLeft, false);
   DrawSunkenEdge(painter, rect());
   if (hasFocus()) DrawFocus(painter, rect());
 }

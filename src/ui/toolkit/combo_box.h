@@ -10,6 +10,8 @@
 
 namespace zarvo {
 
+// Closed, it elides an item that doesn't fit and tells it whole by a tool tip.
+//
 // A new selection raises Click inside the statement that sets it; a choice by the player raises it
 // too, also the choice of what is selected already. The wheel turns the choice only while the box
 // has the focus.
@@ -37,8 +39,11 @@ class ComboBox : public QComboBox, public Control {
   void wheelEvent(QWheelEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void showPopup() override;
+  [[nodiscard]] QString ElidedText() const override;
 
  private:
+  [[nodiscard]] QRect TextRect() const;
+
   static constexpr int kNone = -2;
 
   int before_popup_ = kNone;  // the selection when the list dropped down, until that changes

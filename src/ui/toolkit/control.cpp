@@ -53,7 +53,8 @@ MouseArgs MouseArgsOf(const QMouseEvent& event) {
 void ShowTip(const QPoint& place, std::string_view text, QWidget* widget) {
   constexpr std::size_t kLongestLine = 80;
   // Escaped, since the toolkit would take some texts for marked-up ones.
-  const QString shown = ToQt(TrimBlanks(text)).toHtmlEscaped();
+  const QString shown =
+      ToQt(TrimBlanks(text)).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"));
   const QString paragraph = text.size() <= kLongestLine
                                 ? QStringLiteral("<p style=\"white-space:nowrap\">%1</p>")
                                 : QStringLiteral("<p>%1</p>");
@@ -98,8 +99,11 @@ class Control::Watcher : public QObject {
   }
 
   bool ShowToolTip(const QPoint& place) {
-    if (control_.tool_tip_.empty()) return false;
-    ShowTip(place, control_.tool_tip_, control_.widget_);
+    const std::string elided = FromQt(control_.ElidedText());
+    std::string tip = control_.tool_tip_;
+    if (!elided.empty()) tip += (tip.empty() ? "" : "\n") + elided;
+    if (tip.empty()) return false;
+    ShowTip(place, tip, control_.widget_);
     return true;
   }
 

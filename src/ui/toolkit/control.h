@@ -25,8 +25,8 @@ struct KeyArgs {
   int shift = 0;  // shift state
 };
 
-// Shows `text` without blanks at its ends, to the letter, as a tool tip of `widget` at a place on
-// the screen.
+// Shows `text` without blanks at its ends, to the letter and line by line, as a tool tip of
+// `widget` at a place on the screen.
 void ShowTip(const QPoint& place, std::string_view text, QWidget* widget);
 
 // The part that every control class adds to its widget. It watches the widget's events and raises
@@ -57,9 +57,11 @@ class Control {
   void SetVisible(bool visible) { widget_->setVisible(visible); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
-  // Shown literally.
+  // Shown literally. Behind it stands what the control shows elided, for as long as it does.
   [[nodiscard]] const std::string& ToolTipText() const { return tool_tip_; }
   void SetToolTipText(std::string_view text);
+  // The whole of a text that is shown elided; empty where nothing is.
+  [[nodiscard]] virtual QString ElidedText() const { return {}; }
 
   // The name under which scripts find the widget, and the name that a screen reader says.
   void SetName(std::string_view object_name);

@@ -34,7 +34,16 @@ void DrawSunkenEdge(QPainter& painter, const QRect& rect);
 
 enum class TextAlign { kLeft, kCentre, kRight };
 
-// Text in the middle of the height, elided where it doesn't fit. With `wrap`, over several lines.
+// `text` as it is shown in `room`, in pixels: whole where it fits, else without a part of its
+// middle, so that its end is seen, and above all what stands there in brackets. With `wrap`, over
+// several lines.
+QString Fitted(const QFontMetrics& metrics, const QSize& room, const QString& text, bool wrap);
+
+// `text` if it is elided in that room, else nothing.
+QString IfElided(const QFontMetrics& metrics, const QSize& room, const QString& text,
+                 bool wrap = false);
+
+// Text in the middle of the height, or with `wrap` from the top down; what doesn't fit is elided.
 void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
                  bool wrap);
 

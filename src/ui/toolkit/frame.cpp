@@ -5,6 +5,11 @@
 #include "ui/toolkit/drawing.h"
 
 namespace zarvo {
+namespace {
+
+constexpr int kCaptionLeft = 8;  // pixels
+
+}  // namespace
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent), Control(this) {}
 
@@ -34,7 +39,7 @@ void Frame::paintEvent(QPaintEvent* /*event*/) {
   const QFontMetrics metrics(bold);
   const QString text = ToQt(caption_).trimmed();
   const int line = metrics.height() / 2;
-  const int start = 8;
+  const int start = kCaptionLeft;
   const int end = start + metrics.horizontalAdvance(text) + 4;
   painter.setPen(kSlate.ToQt());
   painter.drawLine(0, line, start - 3, line);
@@ -45,6 +50,11 @@ void Frame::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(ground_is_dark_ ? kMoon.ToQt() : kInk.ToQt());
   DrawCaption(painter, QRect(start, 0, width() - start, metrics.height()), text, TextAlign::kLeft,
               false);
+}
+
+QString Frame::ElidedText() const {
+  const QFontMetrics metrics(InBold(font(), true));
+  return IfElided(metrics, {width() - kCaptionLeft, metrics.height()}, ToQt(caption_).trimmed());
 }
 
 }  // namespace zarvo

@@ -33,6 +33,7 @@ class Frame : public QWidget, public Control {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
 
  private:
   std::string caption_;

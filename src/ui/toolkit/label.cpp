@@ -68,10 +68,19 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
       painter.fillRect(rect(), back);
     }
   }
-  const int margin = opaque && align_ != TextAlign::kCentre ? 2 : 0;
   painter.setPen(isEnabled() ? fore_colour_.ToQt() : Faded(fore_colour_.ToQt()));
-  DrawCaption(painter, rect().adjusted(margin, 0, -margin, 0), ToQt(caption_), align_, word_wrap_);
+  DrawCaption(painter, TextRect(), ToQt(caption_), align_, word_wrap_);
   if (hasFocus()) DrawFocus(painter, rect());
+}
+
+QRect Label::TextRect() const {
+  const bool opaque = back_style_ == BackStyle::kOpaque;
+  const int margin = opaque && align_ != TextAlign::kCentre ? 2 : 0;
+  return rect().adjusted(margin, 0, -margin, 0);
+}
+
+QString Label::ElidedText() const {
+  return IfElided(fontMetrics(), TextRect().size(), ToQt(caption_), word_wrap_);
 }
 
 void Label::focusInEvent(QFocusEvent* event) {

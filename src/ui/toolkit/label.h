@@ -11,7 +11,7 @@ namespace zarvo {
 
 enum class BackStyle { kTransparent, kOpaque };
 
-// Text is shown literally and elided where it doesn't fit.
+// Text is shown literally; where it doesn't fit, it's elided and told by a tool tip.
 class Label : public Pressable {
  public:
   explicit Label(QWidget* parent);
@@ -40,8 +40,11 @@ class Label : public Pressable {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
 
  private:
+  [[nodiscard]] QRect TextRect() const;
+
   std::string caption_;
   BackStyle back_style_ = BackStyle::kTransparent;
   Colour back_colour_ = kNight;

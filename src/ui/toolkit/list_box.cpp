@@ -154,9 +154,9 @@ QRect ListBox::EntryRect(int index) const {
 int ListBox::EntryAt(QPoint point) const {
   if (!viewport()->rect().contains(point)) return -1;
   const int row = point.y() / kRowHeight;
+  if (row >= RowsPerPage()) return -1;  // the rest of the height, too low for a row
   int index = row + verticalScrollBar()->value();
   if (columns_ > 1) {
-    if (row >= RowsPerPage()) return -1;
     const int column = std::min(point.x() / ColumnWidth(), columns_ - 1);
     index = (column + horizontalScrollBar()->value()) * RowsPerPage() + row;
   }
@@ -206,7 +206,7 @@ void ListBox::paintEvent(QPaintEvent* /*event*/) {
   const int rows = RowsPerPage();
   const int first =
       columns_ == 1 ? verticalScrollBar()->value() : horizontalScrollBar()->value() * rows;
-  const int shown = columns_ == 1 ? rows + 1 : columns_ * rows;
+  const int shown = columns_ * rows;
   const int last = std::min(first + shown, ListCount());
   for (int index = first; index < last; ++index) PaintEntry(painter, index, EntryRect(index));
   if (columns_ > 1) {
@@ -230,11 +230,14 @@ bool ListBox::viewportEvent(QEvent* event) {
   return QAbstractScrollArea::viewportEvent(event);
 }
 
+QRect ListBox::TextRect(int index) const {
+  return EntryRect(index).adjusted(kTextLeft, 0, -kTextRight, 0);
+}
+
 bool ListBox::ShowWholeText(int index, const QPoint& place) {
   if (index < 0) return false;
   const std::string_view text = items_.At(index);
-  const int room = EntryRect(index).width() - kTextLeft - kTextRight;
-  if (fontMetrics().horizontalAdvance(ToQt(text)) <= room) return false;
+  if (IfElided(fontMetrics(), TextRect(index).size(), ToQt(text)).isEmpty()) return false;
   ShowTip(place, text, viewport());
   return true;
 }
@@ -246,8 +249,7 @@ void ListBox::PaintEntry(QPainter& painter, int index, const QRect& rect) {
                                   : kRow.ToQt();
   painter.fillRect(rect, back);
   painter.setPen(!isEnabled() ? Faded(kText.ToQt()) : selected ? QColor(Qt::white) : kText.ToQt());
-  DrawCaption(painter, rect.adjusted(kTextLeft, 0, -kTextRight, 0), ToQt(items_.At(index)),
-              TextAlign::kLeft, false);
+  DrawCaption(painter, TextRect(index), ToQt(items_.At(index)), TextAlign::kLeft, false);
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

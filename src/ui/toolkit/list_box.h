@@ -91,6 +91,7 @@ class ListBox : public QAbstractScrollArea, public Control {
   [[nodiscard]] int StepSideways(int columns) const;
   [[nodiscard]] int RowsPerPage() const;
   [[nodiscard]] int ColumnWidth() const;
+  [[nodiscard]] QRect TextRect(int index) const;
   // The whole text of an entry that doesn't fit; false if it does, or there is none.
   bool ShowWholeText(int index, const QPoint& place);
   void PaintEntry(QPainter& painter, int index, const QRect& rect);

@@ -6,6 +6,11 @@
 #include "ui/toolkit/drawing.h"
 
 namespace zarvo {
+namespace {
+
+QRect CaptionRect(const QWidget& button) { return button.rect().adjusted(3, 0, -3, 0); }
+
+}  // namespace
 
 PushButton::PushButton(QWidget* parent) : QPushButton(parent), Control(this) {
   // Enter presses the button that has the focus, whichever the window's default is.
@@ -41,7 +46,11 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
               .down = isDown(),
               .focused = hasFocus()});
   painter.setPen(isEnabled() ? QColor(Qt::white) : Faded(Qt::white));
-  DrawCaption(painter, rect().adjusted(3, 0, -3, 0), ToQt(caption_), TextAlign::kCentre, false);
+  DrawCaption(painter, CaptionRect(*this), ToQt(caption_), TextAlign::kCentre, false);
+}
+
+QString PushButton::ElidedText() const {
+  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
 }
 
 }  // namespace zarvo

@@ -21,6 +21,7 @@ class PushButton : public QPushButton, public Control {
   // Enter presses the button that has the focus, as Space does.
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
 
  private:
   std::string caption_;

@@ -9,6 +9,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -189,6 +190,37 @@ void DrawEdges(QPainter& painter, const QRect& rect, const QColor& top_left,
   painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), bottom_right);
 }
 
+QString FittedLine(const QFontMetrics& metrics, int room, const QString& text) {
+  if (metrics.horizontalAdvance(text) <= room) return text;
+  QString halves = metrics.elidedText(text, Qt::ElideMiddle, room);
+  const qsizetype start = text.endsWith(u')') ? text.lastIndexOf(u'(') : -1;
+  const int dots = metrics.horizontalAdvance(QChar(0x2026));
+  if (start < 0 || room < 5 * dots || halves.endsWith(text.mid(start))) return halves;
+  // The brackets take more than their half, but not all; those that are longer still lose a part
+  // behind the middle, for versions differ at their front and sets at their end.
+  const QString brackets = text.mid(start);
+  const int brackets_width = metrics.horizontalAdvance(brackets);
+  const QString name = metrics.elidedText(text.left(start), Qt::ElideRight,
+                                          std::max({room / 5, 2 * dots, room - brackets_width}));
+  const int rest = room - metrics.horizontalAdvance(name);
+  if (brackets_width <= rest) return name + brackets;
+  const QString front = metrics.elidedText(brackets, Qt::ElideRight, rest * 2 / 3);
+  const int back_width = rest - metrics.horizontalAdvance(front) + dots;
+  return name + front + metrics.elidedText(brackets, Qt::ElideLeft, back_width).mid(1);
+}
+
+QString FittedLines(const QFontMetrics& metrics, const QSize& room, const QString& text) {
+  const auto fits = [&](const QString& shown) {
+    const QSize taken = metrics.boundingRect(QRect({}, room), Qt::TextWordWrap, shown).size();
+    return taken.width() <= room.width() && taken.height() <= room.height();
+  };
+  QString shown = text;
+  for (qsizetype kept = text.size() - 1; kept > 0 && !fits(shown); --kept) {
+    shown = text.left((kept + 1) / 2) + QChar(0x2026) + text.right(kept / 2);
+  }
+  return shown;
+}
+
 }  // namespace
 
 QColor Faded(const QColor& colour) {
@@ -207,7 +239,7 @@ void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pres
 }
 
 void DrawButton(QPainter& painter, const QRect& rect, const ButtonLook& look) {
-  const QColor face = (look.is_default ? kBluegrey : kSlate).ToQt();
+  const QColor face = kSlate.ToQt().darker(128);  // white is read on its lightest shine
   const QColor shown = !look.enabled ? Faded(face) : look.hovered ? face.lighter(115) : face;
   DrawKey(painter, rect, shown, look.down);
   if (look.focused) {
@@ -226,20 +258,21 @@ void DrawSunkenEdge(QPainter& painter, const QRect& rect) {
   DrawEdges(painter, rect, kDeepNight.ToQt(), kSlate.ToQt());
 }
 
+QString Fitted(const QFontMetrics& metrics, const QSize& room, const QString& text, bool wrap) {
+  return wrap ? FittedLines(metrics, room, text) : FittedLine(metrics, room.width(), text);
+}
+
+QString IfElided(const QFontMetrics& metrics, const QSize& room, const QString& text, bool wrap) {
+  return Fitted(metrics, room, text, wrap) == text ? QString() : text;
+}
+
 void DrawCaption(QPainter& painter, const QRect& rect, const QString& text, TextAlign align,
                  bool wrap) {
   const int across = align == TextAlign::kLeft     ? Qt::AlignLeft
                      : align == TextAlign::kCentre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
-  if (wrap) {
-    painter.drawText(rect, across | Qt::AlignTop | Qt::TextWordWrap, text);
-    return;
-  }
-  const QFontMetrics metrics = painter.fontMetrics();
-  const QString shown = metrics.horizontalAdvance(text) <= rect.width()
-                            ? text
-                            : metrics.elidedText(text, Qt::ElideRight, rect.width());
-  painter.drawText(rect, across | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+  const int down = wrap ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter | Qt::TextSingleLine;
+  painter.drawText(rect, across | down, Fitted(painter.fontMetrics(), rect.size(), text, wrap));
 }
 
 QFont InBold(QFont font, bool bold) {

@@ -10,12 +10,14 @@ namespace zarvo {
 namespace {
 
 constexpr int kNoLimit = 32767;
+constexpr int kMargin = 1;        // pixels that are free at both sides,
+constexpr int kEditorMargin = 2;  // and those that the editor keeps itself
 
 }  // namespace
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent), Control(this, Watch::kMouse) {
   setFrame(false);
-  setTextMargins(2, 0, 2, 0);
+  setTextMargins(kMargin, 0, kMargin, 0);
   QObject::connect(this, &QLineEdit::textChanged, this, [this] { Change.Raise(); });
 }
 
@@ -40,9 +42,21 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+QRect TextBox::TextRect() const {
+  return rect().adjusted(kMargin + kEditorMargin, 0, -kMargin - kEditorMargin, 0);
+}
+
+QString TextBox::ElidedText() const { return IfElided(fontMetrics(), TextRect().size(), text()); }
+
 void TextBox::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
+  const QString elided = hasFocus() ? QString() : ElidedText();
+  if (elided.isEmpty()) QLineEdit::paintEvent(event);
   QPainter painter(this);
+  if (!elided.isEmpty()) {
+    painter.fillRect(rect(), palette().base());
+    painter.setPen(palette().text().color());
+    DrawCaption(painter, TextRect(), elided, TextAlign::kLeft, false);
+  }
   DrawSunkenEdge(painter, rect());
   if (hasFocus()) DrawFocus(painter, rect());
 }

@@ -8,6 +8,7 @@
 
 namespace zarvo {
 
+// A text that doesn't fit is elided while the box hasn't the focus, and told by a tool tip.
 class TextBox : public QLineEdit, public Control {
  public:
   explicit TextBox(QWidget* parent);
@@ -26,12 +27,15 @@ class TextBox : public QLineEdit, public Control {
   // KeyDown runs before the box sees the key; a handler that swallows it calls SwallowKey.
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QString ElidedText() const override;
 
  public:
   // Only from a KeyDown handler: the box doesn't see this key.
   void SwallowKey() { swallow_ = true; }
 
  private:
+  [[nodiscard]] QRect TextRect() const;
+
   bool swallow_ = false;
 };
 

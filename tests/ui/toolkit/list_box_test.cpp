@@ -76,7 +76,7 @@ TEST_F(ListBoxTest, HoldsNoMoreThanA16BitCountCanSay) {
   }
 }
 
-// Rows are 15 pixels: six whole ones in a list of 100.
+// Rows are 15 pixels: six whole ones in a list of 96.
 TEST_F(ListBoxTest, OneColumnScrollsDownToTheSelection) {
   OpenWith(20);
   EXPECT_EQ(list.EntryAt({5, 16}), 1);

@@ -1,4 +1,5 @@
-// A list of 200 x 100 pixels, which are six whole rows, and what it tells.
+// A list of 200 x 96 pixels, which are six whole rows, or five over a scroll bar; and what it
+// tells.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ inline std::string EntriesOf(const ListBox& list) {
 class ListTest : public testing::Test {
  protected:
   ListTest() {
-    list.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 1500});
+    list.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 1440});
     list.Click.Connect([this] { log.text += " click " + list.Text(); });
     list.DblClick.Connect([this] { log.text += " double " + list.Text(); });
     list.MouseDown.Connect([this](const MouseArgs& mouse) {
