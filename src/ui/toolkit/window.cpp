@@ -78,6 +78,8 @@ Window::Window(WindowFrame frame, std::string_view object_name)
   setObjectName(ToQt(object_name));
   setMouseTracking(true);
   setFocusPolicy(Qt::ClickFocus);
+  // Windows stand side by side; the mouse is told what lies under it in each.
+  setAttribute(Qt::WA_AlwaysShowToolTips);
 }
 
 std::string Window::Caption() const { return FromQt(windowTitle()); }
