@@ -2,7 +2,8 @@
 
 packages_run="dosbox fonts-liberation libqt6widgets6 libqt6svg6 xdg-utils"
 packages_build="cmake g++ libexpat1-dev libxcb1-dev nasm ninja-build python3 qt6-base-dev qt6-svg-dev"
-packages_test="appstream desktop-file-utils libgmock-dev libgtest-dev openbox x11-utils xdotool xvfb"
+packages_test="appstream at-spi2-core dbus desktop-file-utils libgmock-dev libgtest-dev openbox python3-pyatspi
+  x11-utils xdotool xvfb"
 packages_ci="clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev"
 packages_real="mame"
 packages_package="dpkg-dev file"

@@ -82,7 +82,7 @@ class Program {
   MainActions Actions() {
     return {.sections = [this]() -> SectionHost& { return sections_; },
             .show_layouts = [this] { ShowLayouts(); },
-            .show_about = [this] { AboutWindow(DesktopOpener()).ShowModal(); },
+            .show_about = [] { AboutWindow(DesktopOpener()).ShowModal(); },
             .autoload = [this] { AutoloadLayout(ToolsForLayouts()); },
             // Not quit(), which would first ask every open panel to close.
             .end_program = [] { QApplication::exit(); },

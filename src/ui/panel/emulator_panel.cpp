@@ -35,6 +35,7 @@ bool EmulatorPanel::SaveOrLeave() {
 bool EmulatorPanel::SaveAndMarkClosed() {
   if (!SaveOrLeave()) return false;
   state_.lblShow = "NO";
+  tools_.main.TellSection(emulator_, false);
   closed_ = true;
   return true;
 }
@@ -67,6 +68,7 @@ void EmulatorPanel::Enter() {
     pages->ShowConfiguration();
   }
   state_.lblShow = "SI";
+  tools_.main.TellSection(emulator_, true);
   pages->FirstList()->setFocus();
   ShowModeless();
 }

@@ -71,7 +71,11 @@ void Favourites::ConnectDrag(ListBox* big_list) {
   AcceptDrops(lstPref, &target_);
 }
 
-void Favourites::ShowCount() { lblFavCount->SetCaption(std::to_string(lstPref->ListCount())); }
+void Favourites::ShowCount() {
+  const std::string count = std::to_string(lstPref->ListCount());
+  lblFavCount->SetCaption(count);
+  lblFavCount->SetAccessibleName("Favourites: " + count);
+}
 
 void Favourites::Add(const std::string& name) {
   if (name.empty() || lstPref->Items().Find(name) >= 0) return;

@@ -96,10 +96,14 @@ void GameFilters::ReadTotal() {
   } else if (empty_without_file) {
     lblTotal->SetCaption("");
   }
+  lblTotal->SetAccessibleName("Games in all: " + lblTotal->Caption());
 }
 
 void GameFilters::ShowCount() {
-  if (lblRomCount != nullptr) lblRomCount->SetCaption(std::to_string(lstRom->ListCount()));
+  if (lblRomCount == nullptr) return;
+  const std::string count = std::to_string(lstRom->ListCount());
+  lblRomCount->SetCaption(count);
+  lblRomCount->SetAccessibleName("Games in the list: " + count);
 }
 
 void GameFilters::Fill(GameState state) {

@@ -106,8 +106,10 @@ void InfoPage::ShowRecord(const GameRecord& record) {
     const auto text = DetailText(record, row.field);
     if (!text) continue;
     FieldLabel(row.field)->SetCaption(*text);
+    FieldLabel(row.field)->SetAccessibleName(std::string(row.caption).append(" ").append(*text));
   }
   lblInfoSamples->SetCaption(SamplesText(record));
+  lblInfoSamples->SetAccessibleName(std::string("Samples: ").append(SamplesText(record)));
 }
 
 }  // namespace zarvo

@@ -73,6 +73,7 @@ void PanelPages::BuildPages(QWidget* panel) {
   for (Control* const page : std::initializer_list<Control*>{picInfo, picHelp, picConf}) {
     page->SetVisible(false);
   }
+  TellPage(Page::kSnapshot);
 }
 
 void PanelPages::Connect(CurrentGame& game, const SectionState& state, const Favourites& favourites,
@@ -104,6 +105,16 @@ void PanelPages::Show(Page page) {
   picInfo->Control::SetVisible(page == Page::kInfo);
   picHelp->Control::SetVisible(page == Page::kHelp);
   picConf->Control::SetVisible(page == Page::kConfiguration);
+  TellPage(page);
+}
+
+// Which button is down, for a screen reader.
+void PanelPages::TellPage(Page page) const {
+  const std::array<ImageBox*, 5> buttons = {imgButSnap, imgButSet, imgButInfo, imgButHelp,
+                                            imgButOpts};
+  for (std::size_t i = 0; i < buttons.size(); ++i) {
+    buttons[i]->SetChecked(i == static_cast<std::size_t>(page));
+  }
 }
 
 void PanelPages::ShowAfterStart(Page page, bool hides_snapshot) {
@@ -118,6 +129,7 @@ void PanelPages::ShowConfiguration() const {
     page->SetVisible(false);
   }
   picConf->Control::SetVisible(true);
+  TellPage(Page::kConfiguration);
 }
 
 void PanelPages::Enter(Page page) {

@@ -57,6 +57,7 @@ class PanelPages {
  private:
   void BuildButtons(QWidget* panel);
   void BuildPages(QWidget* panel);
+  void TellPage(Page page) const;
   void Enter(Page page);
   void EnterSnapshotPage();
   void EnterSettingsPage();

@@ -70,6 +70,10 @@ void MainWindow::SetMainPlace(int top, int left) {
   SetLeft(left);
 }
 
+void MainWindow::TellSection(const Emulator& emulator, bool open) {
+  selector[IndexOf(emulator)]->SetChecked(open);
+}
+
 void MainWindow::ResetCommands() {
   ResetCommand(lblLays);
   ResetCommand(lblAbout);
@@ -106,6 +110,7 @@ void MainWindow::Hover(const Emulator& emulator) {
   const std::vector<std::string> header = read_header_(emulator);
   for (std::size_t i = 0; i < std::min(facts.size(), header.size()); ++i) {
     facts[i]->SetCaption(header[i]);
+    TellFact(i);
   }
 }
 

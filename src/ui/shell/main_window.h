@@ -47,6 +47,7 @@ class MainWindow : public Window, public MainPlace {
   [[nodiscard]] int MainLeft() const override { return Left(); }
   [[nodiscard]] int MainTop() const override { return Top(); }
   void SetMainPlace(int top, int left) override;
+  void TellSection(const Emulator& emulator, bool open) override;
   void ResetCommands() override;
 
   ImageBox* imgZarvo;
@@ -82,6 +83,7 @@ class MainWindow : public Window, public MainPlace {
   void Hover(const Emulator& emulator);
   void HoverGround(const MouseArgs& mouse);
   void MoveByMouse(const MouseArgs& mouse);
+  void TellFact(std::size_t index);
   void Turn();
   void ConfirmEnd(bool& refuse);
 

@@ -135,6 +135,7 @@ void MainWindow::BuildSelector() {
     label->SetTextSize(kNameSize);
     label->SetBackColor(kSlate);
     label->SetPressable(true);
+    label->SetChecked(false);
     selector.push_back(label);
     top += kRowStep;
   }
@@ -171,6 +172,12 @@ void MainWindow::BuildFacts() {
   facts.front()->SetBold(true);
   Text({kFactsLeft, row_top(kLeadCaptionRow), kFactsWidth, kRowStep}, kLeadCaption, kPeriwinkle)
       ->SetAlign(TextAlign::kCentre);
+}
+
+// A fact is heard with what it is about.
+void MainWindow::TellFact(std::size_t index) {
+  const std::string about(kFacts[index].caption);
+  if (!about.empty()) facts[index]->SetAccessibleName(about + ": " + facts[index]->Caption());
 }
 
 void MainWindow::Wire() {

@@ -37,6 +37,8 @@ class MainPlace {
   [[nodiscard]] virtual int MainTop() const = 0;
   // Top first, then Left.
   virtual void SetMainPlace(int top, int left) = 0;
+  // A section was opened or closed, for a screen reader.
+  virtual void TellSection(const Emulator& /*emulator*/, bool /*open*/) {}
   // The commands of the main window that the panels' hover resets: Lays and About return to rest.
   virtual void ResetCommands() = 0;
 };

@@ -33,12 +33,13 @@ class ComboBox : public QComboBox, public Control {
   [[nodiscard]] Colour BackColor() const { return back_colour_; }
   [[nodiscard]] Colour ForeColor() const { return fore_colour_; }
 
+  void showPopup() override;
+
   Event<> Click;
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-  void showPopup() override;
   [[nodiscard]] QString ElidedText() const override;
 
  private:

@@ -1,10 +1,12 @@
 #include "ui/toolkit/control_access.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QTimer>
 
+#include "ui/toolkit/combo_box.h"
 #include "ui/toolkit/frame.h"
 #include "ui/toolkit/image_box.h"
 #include "ui/toolkit/input_gate.h"
@@ -22,6 +24,14 @@ class PressableAccess : public QAccessibleWidget {
 
   [[nodiscard]] QAccessible::Role role() const override {
     return control_->IsPressable() ? QAccessible::Button : QAccessibleWidget::role();
+  }
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    // A picture without a name means nothing.
+    if (role() == QAccessible::Graphic && text(QAccessible::Name).isEmpty()) state.invisible = true;
+    state.checkable = control_->Checked().has_value();
+    state.checked = control_->Checked().value_or(false);
+    return state;
   }
   // The name that it was given, else its caption.
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
@@ -54,6 +64,42 @@ class PressableAccess : public QAccessibleWidget {
   Pressable* control_;
 };
 
+// A list that drops down. Qt gives its value as its name on this desktop, which leaves it without
+// one.
+class ComboAccess : public QAccessibleWidget {
+ public:
+  explicit ComboAccess(ComboBox* combo)
+      : QAccessibleWidget(combo, QAccessible::ComboBox), combo_(combo) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Value ? combo_->currentText() : QAccessibleWidget::text(kind);
+  }
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.expandable = true;
+    state.expanded = combo_->view()->isVisible();
+    state.collapsed = !combo_->view()->isVisible();
+    return state;
+  }
+  [[nodiscard]] int childCount() const override { return 1; }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(combo_->view()) : nullptr;
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+    return child != nullptr && child->object() == combo_->view() ? 0 : -1;
+  }
+  [[nodiscard]] QStringList actionNames() const override {
+    return {showMenuAction(), pressAction()};
+  }
+  void doAction(const QString& name) override {
+    if (!actionNames().contains(name) || !combo_->isEnabled() || ChildIsRunning()) return;
+    QTimer::singleShot(0, combo_, [combo = combo_] { combo->showPopup(); });
+  }
+
+ private:
+  ComboBox* combo_;
+};
+
 QAccessibleInterface* MakeAccess(const QString& /*class_name*/, QObject* object) {
   if (auto* const label = dynamic_cast<Label*>(object)) {
     return new PressableAccess(label, QAccessible::StaticText);
@@ -61,6 +107,7 @@ QAccessibleInterface* MakeAccess(const QString& /*class_name*/, QObject* object)
   if (auto* const image = dynamic_cast<ImageBox*>(object)) {
     return new PressableAccess(image, QAccessible::Graphic);
   }
+  if (auto* const combo = dynamic_cast<ComboBox*>(object)) return new ComboAccess(combo);
   if (auto* const frame = dynamic_cast<Frame*>(object)) {
     return new QAccessibleWidget(frame, QAccessible::Grouping);
   }

@@ -1,5 +1,6 @@
 #include "ui/toolkit/pressable.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -44,6 +45,17 @@ void Pressable::keyPressEvent(QKeyEvent* event) {
   }
   event->accept();
   Press();
+}
+
+void Pressable::SetChecked(bool checked) {
+  if (checked_ == checked) return;
+  const bool was_told = checked_.has_value();
+  checked_ = checked;
+  if (!was_told) return;
+  QAccessible::State changed;
+  changed.checked = true;
+  QAccessibleStateChangeEvent event(static_cast<QWidget*>(this), changed);
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace zarvo

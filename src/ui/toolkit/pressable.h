@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "ui/toolkit/control.h"
 
@@ -13,6 +14,9 @@ class Pressable : public QWidget, public Control {
  public:
   void SetPressable(bool pressable);
   [[nodiscard]] bool IsPressable() const { return pressable_; }
+  // A button that is on or off, for a screen reader: of a page, or of a window that is open.
+  void SetChecked(bool checked);
+  [[nodiscard]] std::optional<bool> Checked() const { return checked_; }
   // What Space and Enter do.
   virtual void Press() { Click.Raise(); }
   // For a screen reader, where the control was given no name: what it shows.
@@ -36,6 +40,7 @@ class Pressable : public QWidget, public Control {
  private:
   bool pressable_ = false;
   bool down_ = false;
+  std::optional<bool> checked_;  // nothing: a button that does something
   int modals_at_press_ = 0;
 };
 
