@@ -217,6 +217,24 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
   }
 }
 
+// The name is taken at the last moment: what has it then is the player's.
+TEST_F(LauncherTest, AnArchiveThatAppearsDuringTheCopyIsLeftAlone) {
+  struct Appearing : FailingFiles {
+    using FailingFiles::FailingFiles;
+    Status RenameFile(std::string_view from, std::string_view to) override {
+      Ignore(DosWorld::WriteFile(to, "the player's"));
+      return FailingFiles::RenameFile(from, to);
+    }
+  } files(drive_.files());
+  UseMame("sf2");
+  const auto run = [](std::string_view /*line*/) { return Success(); };
+  EXPECT_EQ(Launch(*emulator_, panel_.Request(), panel_.Calls(),
+                   {.files = files, .boxes = boxes_, .folders = folders_, .run = run}),
+            LaunchEnd::kFailed);
+  EXPECT_EQ(boxes_.shown.size(), 1U);
+  EXPECT_EQ(drive_.Read(own_ + "\\sf2.zip"), "the player's");
+}
+
 TEST_F(LauncherTest, AMissingEmulatorLeadsToItsPicker) {
   for (const Emulator& emulator : kTested) {
     const bool looks_up_first = emulator == kCallus || emulator == kRaine || emulator == kM72;
