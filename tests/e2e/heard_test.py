@@ -25,7 +25,7 @@ if __name__ == "__main__" and INSIDE not in os.environ:
                             env=os.environ | {INSIDE: "1"}, check=False).returncode)
 
 from e2e import Scenario, wait_until  # noqa: E402
-from driven_zarvo import MAIN, PANEL, PANEL_TITLES, SELECTOR, TITLE  # noqa: E402
+from driven_zarvo import CONFIGURATION, LAYOUTS, MAIN, PANEL, PANEL_TITLES, SELECTOR, TITLE  # noqa: E402
 
 PAGES = {"snapshot": "Snapshot", "settings": "Settings", "details": "Details", "help": "Help",
          "configuration": "Configuration"}
@@ -111,10 +111,31 @@ class Heard(Scenario):
             opened = self.assert_heard(TITLE, "main window")
             self.assertFalse(self.has(opened["push button", title], "checked"), emulator)
         self.zarvo.click(main, MAIN["Lays"])
-        lays = wait_until(lambda: next((window for window in self.desktop.screen.windows()
-                                        if window.kind == "dialog"), None), "the Layouts Manager")
-        self.assert_heard(lays.title, "Layouts Manager")
+        lays = self.dialog("Layouts Manager")
+        self.zarvo.click(lays, LAYOUTS["Add"])
+        self.dialog("name of a layout", lays)
+        self.desktop.keys("Escape", "Escape")
+        self.desktop.wait_for_end(lays)
+        self.zarvo.click(main, MAIN["About"])
+        about = self.dialog("About window")
         self.desktop.keys("Escape")
+        self.desktop.wait_for_end(about)
+        panel = self.zarvo.open_panel(main, "Mame")
+        self.zarvo.click(panel, PANEL["configuration"])
+        for picker in ("executable", "roms"):
+            self.zarvo.click(panel, CONFIGURATION[picker])
+            window = self.dialog(f"picker, {picker}")
+            self.desktop.keys("Escape")
+            self.desktop.wait_for_end(window)
+
+    def dialog(self, where, below=None):
+        """The dialog over the one below, heard."""
+        dialog = wait_until(lambda: next((window for window in self.desktop.screen.windows()
+                                          if window.kind == "dialog" and window.id !=
+                                          (below.id if below else None)), None), where)
+        self.assert_heard(dialog.title, where)
+        self.desktop.wait_for_focus(dialog)
+        return dialog
 
 
 if __name__ == "__main__":

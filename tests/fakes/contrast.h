@@ -6,6 +6,10 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <vector>
+
+#include "ui/toolkit/label.h"
 
 namespace zarvo {
 
@@ -55,5 +59,21 @@ class EnlargedLook {
 
   QImage image_;
 };
+
+// The captions of a window that can't be read well on their ground. What can be pressed has the
+// colours of its kind.
+inline std::vector<std::string> FaintCaptions(QWidget& window) {
+  const EnlargedLook look(&window);
+  std::vector<std::string> faint;
+  for (const auto* const widget : window.findChildren<QWidget*>()) {
+    const auto* const label = dynamic_cast<const Label*>(widget);
+    if (label == nullptr || !label->isVisible() || label->IsPressable()) continue;
+    if (label->Caption().find_first_not_of(' ') == std::string::npos) continue;
+    const QRect place(label->mapTo(&window, QPoint(-1, 1)), label->size() - QSize(0, 2));
+    if (!window.rect().contains(place)) continue;
+    if (look.TextContrast(place) < 4.5) faint.push_back(label->Caption());
+  }
+  return faint;
+}
 
 }  // namespace zarvo

@@ -96,7 +96,8 @@ void GameFilters::ReadTotal() {
   } else if (empty_without_file) {
     lblTotal->SetCaption("");
   }
-  lblTotal->SetAccessibleName("Games in all: " + lblTotal->Caption());
+  const std::string shown = lblTotal->Caption();
+  lblTotal->SetAccessibleName(shown.empty() ? "" : "Games in all: " + shown);
 }
 
 void GameFilters::ShowCount() {

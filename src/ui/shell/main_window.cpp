@@ -62,6 +62,7 @@ void MainWindow::Appear() {
     DrawControls();
     // Not sooner: the first name that is given starts the line to the screen readers.
     imgZarvo->SetAccessibleName("Zarvo");
+    for (std::size_t i = 0; i < facts.size(); ++i) TellFact(i);
   });
 }
 

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "fakes/contrast.h"
 #include "ui/layouts/layout_manager.h"
 #include "ui/layouts/layout_window.h"
 #include "ui/layouts/name_dialog.h"
@@ -56,10 +57,13 @@ class AccessibilityTest : public PanelTest {
     ASSERT_NE(top, nullptr);
     EXPECT_FALSE(top->text(QAccessible::Name).isEmpty()) << name << " itself";
     EXPECT_GE(Walk(top, name), at_least) << name;
+    window.show();
+    EXPECT_THAT(FaintCaptions(window), testing::IsEmpty()) << name;
+    window.hide();
   }
 };
 
-TEST_F(AccessibilityTest, WhateverCanBeUsedHasAName) {
+TEST_F(AccessibilityTest, WhateverCanBeUsedHasANameAndIsReadable) {
   for (const Emulator& emulator : kTested) Visit(sections_.Panel(emulator), 30);
   MainWindow main(files_, folders_, boxes_,
                   [](const Emulator&) { return std::vector<std::string>(); },
