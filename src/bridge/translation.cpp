@@ -45,18 +45,17 @@ std::string Filled(std::string_view line, std::string_view value) {
   return text;
 }
 
-// One of a list's values; the longest, for one may begin as another does.
+// One of a list's values; none of them begins as another does.
 Match MatchList(const Piece& piece, Words words) {
-  Match best;
   for (std::size_t i = 0; i < piece.words.size(); ++i) {
     if (piece.words[i].empty()) continue;
     const std::size_t taken = Beginning(words, std::string(piece.word).append(piece.words[i]));
-    if (taken <= best.taken) continue;
+    if (taken == 0) continue;
     const std::string_view value =
         piece.today.values.empty() ? piece.words[i] : piece.today.values[i];
-    best = {.taken = taken, .today = value.empty() ? "" : Filled(piece.today.line, value)};
+    return {.taken = taken, .today = value.empty() ? "" : Filled(piece.today.line, value)};
   }
-  return best;
+  return {};
 }
 
 // The word of the piece, then any value.

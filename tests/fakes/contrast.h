@@ -69,7 +69,10 @@ inline std::vector<std::string> FaintCaptions(QWidget& window) {
     const auto* const label = dynamic_cast<const Label*>(widget);
     if (label == nullptr || !label->isVisible() || label->IsPressable()) continue;
     if (label->Caption().find_first_not_of(' ') == std::string::npos) continue;
-    const QRect place(label->mapTo(&window, QPoint(-1, 1)), label->size() - QSize(0, 2));
+    QRect place(label->mapTo(&window, QPoint(-1, 1)), label->size() - QSize(0, 2));
+    const int text = label->fontMetrics().horizontalAdvance(ToQt(label->Caption()));
+    if (label->Align() == TextAlign::kRight)
+      place.setLeft(std::max(place.left(), place.right() - text - 2));
     if (!window.rect().contains(place)) continue;
     if (look.TextContrast(place) < 4.5) faint.push_back(label->Caption());
   }

@@ -53,6 +53,16 @@ TEST(ListReader, ReadsEveryKindOfListInPiecesOfAnySize) {
   }
 }
 
+// Newer lists tell it by the name of a chip's place, older ones by a word of their own.
+TEST(ListReader, AProcessorForSoundStandsInBrackets) {
+  for (const char* const how : {"tag='audiocpu'", "tag='soundcpu'", "soundonly='yes'"}) {
+    const Imported imported =
+        ImportText("<mame><game name='a'><description>A</description><chip type='cpu' name='Z80' " +
+                   std::string(how) + "/></game></mame>");
+    EXPECT_THAT(imported.games, ElementsAre(HasSubstr(";[Z80];"))) << how;
+  }
+}
+
 TEST(ListReader, SaysWhereACutListEnds) {
   for (const std::string name : {"listxml.xml", "listinfo.txt", "logiqx.xml"}) {
     const bool blocks = name == "listinfo.txt";

@@ -1,40 +1,10 @@
 #include "ui/toolkit/check_box.h"
 
-#include <QPainter>
-#include <QPainterPath>
+#include <QStyleOptionButton>
 
 #include "ui/toolkit/drawing.h"
 
 namespace zarvo {
-namespace {
-
-constexpr int kIndicator = 12;  // pixels
-constexpr int kGap = 3;
-
-QRectF IndicatorRect(const QWidget& box) {
-  const int top = (box.height() - kIndicator) / 2;  // whole pixels, for sharp edges
-  return {0.5, top + 0.5, kIndicator - 1.0, kIndicator - 1.0};
-}
-
-QRect CaptionRect(const QWidget& box) { return box.rect().adjusted(kIndicator + kGap, 0, 0, 0); }
-
-// The caption beside the indicator, and the ring if the box has the focus.
-void PaintCaption(QPainter& painter, const QAbstractButton& box, const std::string& caption,
-                  const QColor& ink) {
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(box.isEnabled() ? ink : Faded(ink));
-  DrawCaption(painter, CaptionRect(box), ToQt(caption), TextAlign::kLeft, false);
-  if (box.hasFocus()) DrawFocus(painter, box.rect());
-}
-
-void PrepareIndicator(QPainter& painter, const QAbstractButton& box) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(kSlate.ToQt(), 1));
-  painter.setBrush(box.isEnabled() ? QColor(Qt::white) : Faded(Qt::white));
-}
-
-}  // namespace
-
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent), Control(this) {
   QObject::connect(this, &QCheckBox::toggled, this, [this] { Click.Raise(); });
 }
@@ -53,27 +23,16 @@ void CheckBox::SetForeColor(Colour colour) {
 
 void CheckBox::SetBold(bool bold) { setFont(InBold(font(), bold)); }
 
-bool CheckBox::hitButton(const QPoint& point) const { return rect().contains(point); }
-
-void CheckBox::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  PrepareIndicator(painter, *this);
-  const QRectF box = IndicatorRect(*this);
-  painter.drawRect(box);
-  if (isChecked()) {
-    QPainterPath tick;
-    tick.moveTo(box.topLeft() + QPointF(2.5, 5.5));
-    tick.lineTo(box.topLeft() + QPointF(4.7, 8.2));
-    tick.lineTo(box.topLeft() + QPointF(8.8, 2.8));
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(kInk.ToQt(), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(tick);
-  }
-  PaintCaption(painter, *this, caption_, fore_colour_.ToQt());
+void CheckBox::initStyleOption(QStyleOptionButton* option) const {
+  QCheckBox::initStyleOption(option);
+  option->palette.setColor(QPalette::WindowText, fore_colour_.ToQt());
 }
 
 QString CheckBox::ElidedText() const {
-  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const QRect room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+  return IfElided(fontMetrics(), room.size(), ToQt(caption_));
 }
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
@@ -94,23 +53,16 @@ void OptionButton::SetCaption(std::string_view caption) {
   setText(ToQtCaption(caption));
 }
 
-bool OptionButton::hitButton(const QPoint& point) const { return rect().contains(point); }
-
-void OptionButton::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  PrepareIndicator(painter, *this);
-  const QRectF box = IndicatorRect(*this);
-  painter.drawEllipse(box);
-  if (isChecked()) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(kInk.ToQt());
-    painter.drawEllipse(box.adjusted(3, 3, -3, -3));
-  }
-  PaintCaption(painter, *this, caption_, kInk.ToQt());
+void OptionButton::initStyleOption(QStyleOptionButton* option) const {
+  QRadioButton::initStyleOption(option);
+  option->palette.setColor(QPalette::WindowText, kInk.ToQt());
 }
 
 QString OptionButton::ElidedText() const {
-  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const QRect room = style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
+  return IfElided(fontMetrics(), room.size(), ToQt(caption_));
 }
 
 }  // namespace zarvo

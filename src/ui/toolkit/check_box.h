@@ -27,9 +27,8 @@ class CheckBox : public QCheckBox, public Control {
   Event<> Click;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionButton* option) const override;
   [[nodiscard]] QString ElidedText() const override;
-  [[nodiscard]] bool hitButton(const QPoint& point) const override;
 
  private:
   Colour fore_colour_ = kInk;
@@ -48,9 +47,8 @@ class OptionButton : public QRadioButton, public Control {
   Event<> Click;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionButton* option) const override;
   [[nodiscard]] QString ElidedText() const override;
-  [[nodiscard]] bool hitButton(const QPoint& point) const override;
 
  private:
   std::string caption_;

@@ -1,9 +1,8 @@
 #include "ui/toolkit/combo_box.h"
 
 #include <QAbstractItemView>
-#include <QPainter>
-#include <QPainterPath>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -11,13 +10,6 @@
 #include "ui/toolkit/drawing.h"
 
 namespace zarvo {
-namespace {
-
-constexpr int kArrowWidth = 9;  // pixels
-constexpr int kTextLeft = 3;
-
-}  // namespace
-
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), Control(this) {
   setMaxVisibleItems(20);
   // The wheel over a box that hasn't the focus mustn't give it the focus and then turn it.
@@ -88,31 +80,18 @@ void ComboBox::showPopup() {
   QComboBox::showPopup();
 }
 
-QRect ComboBox::TextRect() const { return rect().adjusted(kTextLeft, 0, -kArrowWidth - 1, 0); }
-
-QString ComboBox::ElidedText() const {
-  return IfElided(fontMetrics(), TextRect().size(), currentText());
+void ComboBox::initStyleOption(QStyleOptionComboBox* option) const {
+  QComboBox::initStyleOption(option);
+  option->palette.setColor(QPalette::Button, back_colour_.ToQt());
+  option->palette.setColor(QPalette::ButtonText, fore_colour_.ToQt());
 }
 
-void ComboBox::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  const QColor back = isEnabled() ? back_colour_.ToQt() : Faded(back_colour_.ToQt());
-  painter.fillRect(rect(), back);
-  const QRect arrow(width() - kArrowWidth - 1, 1, kArrowWidth, height() - 2);
-  DrawKey(painter, arrow, back.darker(112), view()->isVisible());
-  painter.setRenderHint(QPainter::Antialiasing);
-  QPainterPath tip;
-  const QPointF centre = QRectF(arrow).center();
-  tip.moveTo(centre + QPointF(-3, -1.5));
-  tip.lineTo(centre + QPointF(3, -1.5));
-  tip.lineTo(centre + QPointF(0, 2));
-  const QColor ink = isEnabled() ? fore_colour_.ToQt() : Faded(fore_colour_.ToQt());
-  painter.fillPath(tip, ink);
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(ink);
-  DrawCaption(painter, TextRect(), currentText(), TextAlign::kLeft, false);
-  DrawSunkenEdge(painter, rect());
-  if (hasFocus()) DrawFocus(painter, rect());
+QString ComboBox::ElidedText() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect room =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  return IfElided(fontMetrics(), room.size(), currentText());
 }
 
 }  // namespace zarvo

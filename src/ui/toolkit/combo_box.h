@@ -39,12 +39,10 @@ class ComboBox : public QComboBox, public Control {
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionComboBox* option) const override;
   [[nodiscard]] QString ElidedText() const override;
 
  private:
-  [[nodiscard]] QRect TextRect() const;
-
   static constexpr int kNone = -2;
 
   int before_popup_ = kNone;  // the selection when the list dropped down, until that changes

@@ -15,19 +15,11 @@ QColor Faded(const QColor& colour);
 // The raised face of a key of the cabinet, or the same pressed down.
 void DrawKey(QPainter& painter, const QRect& rect, const QColor& face, bool pressed);
 
-struct ButtonLook {
-  bool enabled = true;
-  bool is_default = false;  // Enter presses it from elsewhere in the window
-  bool hovered = false;
-  bool down = false;
-  bool focused = false;
-};
-
-// A push button without its caption.
-void DrawButton(QPainter& painter, const QRect& rect, const ButtonLook& look);
-
 // The ring round what has the keyboard's focus.
 void DrawFocus(QPainter& painter, const QRect& rect);
+
+// A ring one pixel wide, along the inside of `rect`.
+void DrawRing(QPainter& painter, const QRect& rect, const QColor& colour);
 
 // The recessed edge of a box that holds text or a list.
 void DrawSunkenEdge(QPainter& painter, const QRect& rect);

@@ -25,6 +25,7 @@ class Label : public Pressable {
   [[nodiscard]] Colour BackColor() const { return back_colour_; }
   [[nodiscard]] Colour ForeColor() const { return fore_colour_; }
   void SetAlign(TextAlign align);
+  [[nodiscard]] TextAlign Align() const { return align_; }
   void SetBold(bool bold);
   void SetUnderline(bool underline);
   void SetWordWrap(bool wrap);

@@ -22,8 +22,7 @@
 namespace zarvo {
 namespace {
 
-constexpr int kRowHeight = 15;  // pixels
-constexpr int kTextLeft = 4;    // pixels between the text and the sides of its entry
+constexpr int kTextLeft = 4;  // pixels between the text and the sides of its entry
 constexpr int kTextRight = 3;
 constexpr quint64 kTypingPause = 1000;  // milliseconds after which typing starts a new word
 
@@ -137,60 +136,31 @@ void ListBox::BeginDrag(const Picture& icon) { StartDrag(this, icon); }
 
 void ListBox::SetDragIcon(const Picture& icon) { ChangeDragIcon(this, icon); }
 
-int ListBox::RowsPerPage() const { return std::max(1, viewport()->height() / kRowHeight); }
-
-int ListBox::ColumnWidth() const { return std::max(1, viewport()->width() / columns_); }
-
-QRect ListBox::EntryRect(int index) const {
-  if (columns_ == 1) {
-    return {0, (index - verticalScrollBar()->value()) * kRowHeight, viewport()->width(),
-            kRowHeight};
-  }
-  const int rows = RowsPerPage();
-  const int column = index / rows - horizontalScrollBar()->value();
-  return {column * ColumnWidth(), index % rows * kRowHeight, ColumnWidth(), kRowHeight};
+QScrollBar* ListBox::Bar() const {
+  return columns_ == 1 ? verticalScrollBar() : horizontalScrollBar();
 }
 
-int ListBox::EntryAt(QPoint point) const {
-  if (!viewport()->rect().contains(point)) return -1;
-  const int row = point.y() / kRowHeight;
-  if (row >= RowsPerPage()) return -1;  // the rest of the height, too low for a row
-  int index = row + verticalScrollBar()->value();
-  if (columns_ > 1) {
-    const int column = std::min(point.x() / ColumnWidth(), columns_ - 1);
-    index = (column + horizontalScrollBar()->value()) * RowsPerPage() + row;
-  }
-  return index < ListCount() ? index : -1;
+ListGeometry ListBox::Geometry() const {
+  return {.view = viewport()->size(),
+          .columns = columns_,
+          .count = ListCount(),
+          .scrolled = Bar()->value()};
 }
+
+QRect ListBox::EntryRect(int index) const { return Geometry().EntryRect(index); }
+
+int ListBox::EntryAt(QPoint point) const { return Geometry().EntryAt(point); }
 
 void ListBox::UpdateScrollBars() {
-  const int rows = RowsPerPage();
-  if (columns_ == 1) {
-    verticalScrollBar()->setRange(0, std::max(0, ListCount() - rows));
-    verticalScrollBar()->setPageStep(rows);
-    horizontalScrollBar()->setRange(0, 0);
-  } else {
-    // The bar itself takes a row; a list that fits without it gets none.
-    const int rows_without_bar = std::max(1, height() / kRowHeight);
-    const bool fits = ListCount() <= rows_without_bar * columns_;
-    const int columns = (ListCount() + rows - 1) / rows;
-    horizontalScrollBar()->setRange(0, fits ? 0 : std::max(0, columns - columns_));
-    horizontalScrollBar()->setPageStep(columns_);
-    verticalScrollBar()->setRange(0, 0);
-  }
+  const ListGeometry geometry = Geometry();
+  QScrollBar* const other = columns_ == 1 ? horizontalScrollBar() : verticalScrollBar();
+  Bar()->setRange(0, geometry.ScrollRange(height()));
+  Bar()->setPageStep(geometry.ScrollPage());
+  other->setRange(0, 0);
   viewport()->update();
 }
 
-void ListBox::ScrollTo(int index) {
-  QScrollBar* const bar = columns_ == 1 ? verticalScrollBar() : horizontalScrollBar();
-  const int place = columns_ == 1 ? index : index / RowsPerPage();
-  const int shown = columns_ == 1 ? RowsPerPage() : columns_;
-  if (place < bar->value()) {
-    bar->setValue(place);
-  } else if (place >= bar->value() + shown) {
-    bar->setValue(place - shown + 1);
-  }
-}
+void ListBox::ScrollTo(int index) { Bar()->setValue(Geometry().ScrolledTo(index)); }
 
 void ListBox::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
@@ -203,17 +173,14 @@ void ListBox::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->update(); }
 void ListBox::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), kRow.ToQt());
-  const int rows = RowsPerPage();
-  const int first =
-      columns_ == 1 ? verticalScrollBar()->value() : horizontalScrollBar()->value() * rows;
-  const int shown = columns_ * rows;
-  const int last = std::min(first + shown, ListCount());
-  for (int index = first; index < last; ++index) PaintEntry(painter, index, EntryRect(index));
-  if (columns_ > 1) {
-    painter.setPen(kOtherRow.ToQt().lighter(130));
-    for (int column = 1; column < columns_; ++column) {
-      painter.drawLine(column * ColumnWidth() - 1, 0, column * ColumnWidth() - 1, height());
-    }
+  const ListGeometry geometry = Geometry();
+  for (int index = geometry.FirstSeen(); index < geometry.LastSeen(); ++index) {
+    PaintEntry(painter, index, geometry.EntryRect(index));
+  }
+  painter.setPen(kOtherRow.ToQt().lighter(130));
+  for (int column = 1; column < columns_; ++column) {
+    const int right = column * geometry.ColumnWidth() - 1;
+    painter.drawLine(right, 0, right, height());
   }
   DrawSunkenEdge(painter, viewport()->rect());
   if (hasFocus()) DrawFocus(painter, viewport()->rect());
@@ -298,10 +265,7 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   DblClick.Raise();
 }
 
-void ListBox::wheelEvent(QWheelEvent* event) {
-  QScrollBar* const bar = columns_ == 1 ? verticalScrollBar() : horizontalScrollBar();
-  QApplication::sendEvent(bar, event);
-}
+void ListBox::wheelEvent(QWheelEvent* event) { QApplication::sendEvent(Bar(), event); }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   swallow_ = false;
@@ -338,12 +302,13 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ListBox::MoveByKey(int key) {
-  const int count = ListCount();
-  const int page = columns_ == 1 ? std::max(1, RowsPerPage() - 1) : columns_ * RowsPerPage();
+  const ListGeometry geometry = Geometry();
+  const int count = geometry.count;
+  const int page = geometry.PageStep();
   const std::array<std::pair<int, int>, 8> targets = {{{Qt::Key_Up, index_ - 1},
                                                        {Qt::Key_Down, index_ + 1},
-                                                       {Qt::Key_Left, StepSideways(-1)},
-                                                       {Qt::Key_Right, StepSideways(1)},
+                                                       {Qt::Key_Left, geometry.Beside(index_, -1)},
+                                                       {Qt::Key_Right, geometry.Beside(index_, 1)},
                                                        {Qt::Key_PageUp, index_ - page},
                                                        {Qt::Key_PageDown, index_ + page},
                                                        {Qt::Key_Home, 0},
@@ -353,16 +318,6 @@ bool ListBox::MoveByKey(int key) {
   if (count == 0 || found == targets.end()) return false;
   SetListIndex(std::clamp(found->second, 0, count - 1));
   return true;
-}
-
-// The entry beside the selected one, which stays where there is none; the last column may be a
-// short one. In one column, the next entry.
-int ListBox::StepSideways(int columns) const {
-  const int rows = RowsPerPage();
-  if (columns_ == 1 || index_ < 0) return index_ + columns;
-  const int column = index_ / rows + columns;
-  if (column < 0 || column > (ListCount() - 1) / rows) return index_;
-  return index_ + columns * rows;
 }
 
 // Typing finds the next entry that begins so; the same letter again steps on.

@@ -9,6 +9,7 @@
 
 #include "core/platform/name_list.h"
 #include "ui/toolkit/control.h"
+#include "ui/toolkit/list_geometry.h"
 #include "ui/toolkit/picture.h"
 
 namespace zarvo {
@@ -88,9 +89,8 @@ class ListBox : public QAbstractScrollArea, public Control {
   void Choose(int index);
   bool MoveByKey(int key);
   void Search(const QKeyEvent& event);
-  [[nodiscard]] int StepSideways(int columns) const;
-  [[nodiscard]] int RowsPerPage() const;
-  [[nodiscard]] int ColumnWidth() const;
+  [[nodiscard]] ListGeometry Geometry() const;
+  [[nodiscard]] QScrollBar* Bar() const;  // the one that can be needed
   [[nodiscard]] QRect TextRect(int index) const;
   // The whole text of an entry that doesn't fit; false if it does, or there is none.
   bool ShowWholeText(int index, const QPoint& place);

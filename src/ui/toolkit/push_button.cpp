@@ -1,17 +1,11 @@
 #include "ui/toolkit/push_button.h"
 
 #include <QKeyEvent>
-#include <QPainter>
+#include <QStyleOptionButton>
 
 #include "ui/toolkit/drawing.h"
 
 namespace zarvo {
-namespace {
-
-QRect CaptionRect(const QWidget& button) { return button.rect().adjusted(3, 0, -3, 0); }
-
-}  // namespace
-
 PushButton::PushButton(QWidget* parent) : QPushButton(parent), Control(this) {
   // Enter presses the button that has the focus, whichever the window's default is.
   setAutoDefault(true);
@@ -37,20 +31,16 @@ void PushButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void PushButton::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  DrawButton(painter, rect(),
-             {.enabled = isEnabled(),
-              .is_default = is_default_,
-              .hovered = underMouse(),
-              .down = isDown(),
-              .focused = hasFocus()});
-  painter.setPen(isEnabled() ? QColor(Qt::white) : Faded(Qt::white));
-  DrawCaption(painter, CaptionRect(*this), ToQt(caption_), TextAlign::kCentre, false);
+void PushButton::initStyleOption(QStyleOptionButton* option) const {
+  QPushButton::initStyleOption(option);
+  option->features.setFlag(QStyleOptionButton::DefaultButton, is_default_);
 }
 
 QString PushButton::ElidedText() const {
-  return IfElided(fontMetrics(), CaptionRect(*this).size(), ToQt(caption_));
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const QRect room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+  return IfElided(fontMetrics(), room.size(), ToQt(caption_));
 }
 
 }  // namespace zarvo

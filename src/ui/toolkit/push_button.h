@@ -20,7 +20,7 @@ class PushButton : public QPushButton, public Control {
  protected:
   // Enter presses the button that has the focus, as Space does.
   void keyPressEvent(QKeyEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionButton* option) const override;
   [[nodiscard]] QString ElidedText() const override;
 
  private:

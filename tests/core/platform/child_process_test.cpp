@@ -86,6 +86,7 @@ TEST_F(RunTest, ALineTooLongForDosIsCutBetweenOptions) {
   const std::tuple<std::string, std::string, std::string> rows[] = {
       {full + " -sb 220 55", "", "call lancia.bat"},  // 126
       {full + " -sb 220 555", "-sb 220 555|", "call C:\\Emu\\Mame.exe" + full},
+      {full + " -sb 2222 -4", "-sb 2222 -4|", "call C:\\Emu\\Mame.exe" + full},
       {full + "  -y -4 -sb 1", "-sb 1|", "call C:\\Emu\\Mame.exe" + full + " -y -4"},
       {full + " -sb 220 555 -a", "-sb 220 555|-a|", "call C:\\Emu\\Mame.exe" + full},
   };

@@ -143,8 +143,6 @@ TEST_F(TipTest, AListShowsWholeRows) {
   list.SetPlace({.left = 0, .top = 0, .width = 3000, .height = 1500});
   for (int i = 0; i < 20; ++i) list.AddItem("MMMMMMMM");
   stage.Open();
-  EXPECT_EQ(list.EntryAt({5, 89}), 5);
-  EXPECT_EQ(list.EntryAt({5, 91}), -1);
   const QImage shown = list.viewport()->grab(QRect(3, 90, 100, 9)).toImage();
   for (int y = 0; y < shown.height(); ++y) {
     for (int x = 0; x < shown.width(); ++x) EXPECT_EQ(shown.pixel(x, y), shown.pixel(0, 0));
