@@ -19,13 +19,13 @@ namespace zarvo::bench {
 namespace {
 
 constexpr int kArchives = 20000;
-constexpr std::string_view kRomFolder = R"(C:\Roms)";
+constexpr char kRomFolder[] = R"(C:\Roms)";
 
 // The disk without the wait for its flush: what remains is the work of the program.
 class UnflushedWorld : public DosWorld {
  public:
   using DosWorld::DosWorld;
-  Status ReplaceFile(std::string_view path, std::string_view temporary,
+  Status ReplaceFile(const DosPath& path, const DosPath& temporary,
                      std::string_view bytes) override {
     Status written = WriteFile(temporary, bytes);
     if (!written) return written;

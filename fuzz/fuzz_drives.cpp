@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return 0;
   }
   for (const auto& [letter, folder] : *drives) {
-    const bool absolute = folder.starts_with('/') && folder.find('\0') == std::string::npos;
+    const bool absolute = folder.is_absolute() && folder.native().find('\0') == std::string::npos;
     if (letter < 'A' || letter > 'Z' || !absolute) std::abort();
   }
   const zarvo::DosWorld world(*drives);

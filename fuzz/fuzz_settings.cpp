@@ -40,7 +40,7 @@ void CheckValues(const Emulator& emulator, const OptionValues& values) {
 void CheckEmulator(const Emulator& emulator, const std::string& store) {
   MemoryFiles files;
   const ProgramFolders folders{R"(C:\Zarvo)"};
-  const std::string path = folders.CfgFolder() + "\\" + std::string(emulator.SettingsFile());
+  const std::string path = (folders.CfgFolder() / emulator.SettingsFile()).Text();
   files.Put(path, store);
   OptionValues values = DefaultValues(emulator, "C:\\R");
   SettingsStore stored(files, folders, emulator);

@@ -28,7 +28,8 @@ class OneEmulator {
         real_(real),
         emulator_(emulator),
         program_(emulator.start.exe_path),
-        folder_(ParentFolder(program_)),
+        folder_(program_.Folder()),
+        mark_(folder_.Text() + ".$$$"),
         roms_(emulator.start.rom_path),
         snaps_(emulator.start.snap_path) {}
 
@@ -36,7 +37,7 @@ class OneEmulator {
 
  private:
   // With all folders above it.
-  Status MakeFolder(const std::string& folder);
+  Status MakeFolder(const DosPath& folder);
   Status MakeProgram();
   Status MakeSettings();
   Status MakeConfiguration(const std::vector<std::string>& favourites);
@@ -47,29 +48,34 @@ class OneEmulator {
   const ProgramFolders& folders_;
   const RealGames& real_;
   const Emulator& emulator_;
-  std::string program_;
-  std::string folder_;
-  std::string roms_;
-  std::string snaps_;
+  DosPath program_;
+  DosPath folder_;
+  DosPath mark_;  // a file that stands beside the folder until all is made
+  DosPath roms_;
+  DosPath snaps_;
 };
 
 Status OneEmulator::Make() {
-  if (files_.FolderExists(folder_)) return Success();
-  for (const std::string& folder : {folder_, roms_, snaps_, JoinPath(folder_, "INP")}) {
+  if (files_.FolderExists(folder_) && !files_.FileExists(mark_)) return Success();
+  if (Status made = MakeFolder(folder_.Folder()); !made) return made;
+  if (Status made = files_.WriteFile(mark_, ""); !made) return made;
+  for (const DosPath& folder : {folder_, roms_, snaps_, folder_ / "INP"}) {
     if (Status made = MakeFolder(folder); !made) return made;
   }
   if (Status made = MakeSettings(); !made) return made;
   const auto games = MakeArchives();
   if (!games) return games.error();
   if (Status made = MakeProgram(); !made) return made;
-  real_.say(program_ + " is today's MAME now; archives belong into " + roms_);
-  if (files_.FileExists(JoinPath(folders_.CfgFolder(), emulator_.CfgFile()))) return Success();
-  return MakeConfiguration(*games);
+  if (!files_.FileExists(folders_.CfgFolder() / emulator_.CfgFile())) {
+    if (Status made = MakeConfiguration(*games); !made) return made;
+  }
+  real_.say(program_.Text() + " is today's MAME now; archives belong into " + roms_.Text());
+  return files_.DeleteFile(mark_);
 }
 
-Status OneEmulator::MakeFolder(const std::string& folder) {
+Status OneEmulator::MakeFolder(const DosPath& folder) {
   if (files_.FolderExists(folder)) return Success();
-  const std::string above(ParentFolder(folder));
+  const DosPath above = folder.Folder();
   if (above != folder) {
     if (Status made = MakeFolder(above); !made) return made;
   }
@@ -95,9 +101,9 @@ Status OneEmulator::MakeSettings() {
   const std::string text = real_.mame_ini +
                            "\n#\n# Zarvo: archives from its own folder and MAME's, snapshots where "
                            "Zarvo looks for them.\n# What you change below stays.\n#\nrompath \"" +
-                           *roms + ";" + others + "\"\nsnapshot_directory \"" + *snaps +
-                           "\"\nsnapname %g\nskip_gameinfo 1\n";
-  return files_.WriteFile(JoinPath(folder_, "mame.ini"), text);
+                           roms->native() + ";" + others + "\"\nsnapshot_directory \"" +
+                           snaps->native() + "\"\nsnapname %g\nskip_gameinfo 1\n";
+  return files_.WriteFile(folder_ / "mame.ini", text);
 }
 
 Result<std::vector<std::string>> OneEmulator::MakeArchives() {
@@ -115,7 +121,7 @@ Result<std::vector<std::string>> OneEmulator::MakeArchives() {
     }
   }
   for (const auto& [name, rom] : found) {
-    const std::string archive = JoinPath(roms_, rom + ".zip");
+    const DosPath archive = roms_ / FileName::Own(rom).With(".zip");
     if (Status made = files_.WriteFile(archive, kEmptyArchive); !made) return made.error();
     names.push_back(name);
   }
@@ -125,11 +131,11 @@ Result<std::vector<std::string>> OneEmulator::MakeArchives() {
 Status OneEmulator::MakeConfiguration(const std::vector<std::string>& favourites) {
   if (Status made = MakeFolder(folders_.CfgFolder()); !made) return made;
   return CfgFile(files_, folders_, emulator_)
-      .Write({.exe_path = program_,
-              .rom_path = roms_,
-              .snap_path = snaps_,
+      .Write({.exe_path = program_.Text(),
+              .rom_path = roms_.Text(),
+              .snap_path = snaps_.Text(),
               .snap_format = "GIF",
-              .emulator_folder = folder_,
+              .emulator_folder = folder_.Text(),
               .layout_word = "up",
               .favourites = {favourites.rbegin(), favourites.rend()}});
 }

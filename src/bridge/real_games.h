@@ -21,8 +21,8 @@ struct RealGames {
 // For each emulator whose folder isn't there: the folder with the bridge as its program, folders
 // for roms, snapshots and recordings, a mame.ini, the empty archives of those of its games that
 // need none, and the configuration that a player would get by choosing all this, with these games
-// as favourites. A folder or configuration that is there stays as it is. False if something
-// couldn't be made.
+// as favourites. A folder or configuration that is there stays as it is; what was cut off half
+// way is made whole. False if something couldn't be made.
 bool LayOutRealGames(DosWorld& files, const ProgramFolders& folders, const RealGames& real);
 
 }  // namespace zarvo

@@ -106,7 +106,7 @@ class Program {
   bool MayCutOff(const RunPlan& plan) {
     if (plan.lost_options.empty()) return true;
     const std::string question = LostOptions(plan);
-    const std::string game = files_.CurrentFolder() + "\r" + plan.first_word + question;
+    const std::string game = files_.CurrentFolder().Text() + "\r" + plan.first_word + question;
     if (cut_off_.contains(game)) return true;
     if (!boxes_.Ask(ProgramTitle(), question)) return false;
     cut_off_.insert(game);
@@ -115,7 +115,7 @@ class Program {
 
   // Runs the batch file of a launch; an error is what the player should know of the run.
   Status RunAndWait() {
-    const auto plan = PlanRun(files_, kBatchFile, ThisHost());
+    const auto plan = PlanRun(files_, FileName::Own(kBatchFile), ThisHost());
     if (!plan.ok()) return plan.error();
     if (!MayCutOff(*plan)) return Success();
     QElapsedTimer clock;

@@ -45,16 +45,16 @@ class FailingFiles : public DosWorld {
   void Heal() { failures_.clear(); }
 
   Status ChangeDrive(char letter) override {
-    return Try(FileStep::kChangeDrive, std::string(1, letter),
+    return Try(FileStep::kChangeDrive, DosPath(std::string(1, letter)),
                [&] { return DosWorld::ChangeDrive(letter); });
   }
-  Status ChangeFolder(std::string_view path) override {
+  Status ChangeFolder(const DosPath& path) override {
     return Try(FileStep::kChangeFolder, path, [&] { return DosWorld::ChangeFolder(path); });
   }
-  [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(std::string_view path) const override {
+  [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(const DosPath& path) const override {
     return Try(FileStep::kListFolder, path, [&] { return DosWorld::ListFolder(path); });
   }
-  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const override {
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(const DosPath& path) const override {
     return Try(FileStep::kOpen, path, [&]() -> Result<std::unique_ptr<ByteSource>> {
       if (Hit(FileStep::kRead, path) == nullptr) return DosWorld::Open(path);
       const auto whole = ReadAll(static_cast<const DosWorld&>(DosWorld(*this)), path);
@@ -62,10 +62,10 @@ class FailingFiles : public DosWorld {
       return std::unique_ptr<ByteSource>(std::make_unique<MemorySource>(*whole, true));
     });
   }
-  Status WriteFile(std::string_view path, std::string_view bytes) override {
+  Status WriteFile(const DosPath& path, std::string_view bytes) override {
     return Try(FileStep::kWrite, path, [&] { return DosWorld::WriteFile(path, bytes); });
   }
-  Status ReplaceFile(std::string_view path, std::string_view temporary,
+  Status ReplaceFile(const DosPath& path, const DosPath& temporary,
                      std::string_view bytes) override {
     return Try(FileStep::kReplace, path, [&]() -> Status {
       const Failure* const hit = Hit(FileStep::kBreakOffReplace, path);
@@ -74,16 +74,16 @@ class FailingFiles : public DosWorld {
       return Error{hit->reason};
     });
   }
-  Status CopyFile(std::string_view from, std::string_view to) override {
+  Status CopyFile(const DosPath& from, const DosPath& to) override {
     return Try(FileStep::kCopy, to, [&] { return DosWorld::CopyFile(from, to); });
   }
-  Status RenameFile(std::string_view from, std::string_view to) override {
+  Status RenameFile(const DosPath& from, const DosPath& to) override {
     return Try(FileStep::kRename, to, [&] { return DosWorld::RenameFile(from, to); });
   }
-  Status DeleteFile(std::string_view path) override {
+  Status DeleteFile(const DosPath& path) override {
     return Try(FileStep::kDelete, path, [&] { return DosWorld::DeleteFile(path); });
   }
-  Status MakeFolder(std::string_view path) override {
+  Status MakeFolder(const DosPath& path) override {
     return Try(FileStep::kMakeFolder, path, [&] { return DosWorld::MakeFolder(path); });
   }
 
@@ -95,15 +95,15 @@ class FailingFiles : public DosWorld {
     int succeed_first;
   };
 
-  const Failure* Hit(FileStep step, std::string_view path) const {
+  const Failure* Hit(FileStep step, const DosPath& path) const {
     for (Failure& failure : failures_) {
-      const bool meant = failure.name.empty() || EqualNoCase(failure.name, FileName(path));
+      const bool meant = failure.name.empty() || EqualNoCase(failure.name, path.Name());
       if (failure.step == step && meant && --failure.succeed_first < 0) return &failure;
     }
     return nullptr;
   }
   template <typename Action>
-  std::invoke_result_t<Action> Try(FileStep step, std::string_view path, Action action) const {
+  std::invoke_result_t<Action> Try(FileStep step, const DosPath& path, Action action) const {
     if (const Failure* const hit = Hit(step, path)) return Error{hit->reason};
     return action();
   }

@@ -40,68 +40,68 @@ class MemoryFiles : public DosFiles {
     if (!current_.starts_with(drive)) current_ = drive;
     return Success();
   }
-  Status ChangeFolder(std::string_view path) override {
+  Status ChangeFolder(const DosPath& path) override {
     if (!FolderExists(path)) return Error{"No such folder", true};
-    current_ = Key(path);
+    current_ = Key(path.Text());
     return Success();
   }
-  [[nodiscard]] std::string CurrentFolder() const override { return current_; }
+  [[nodiscard]] DosPath CurrentFolder() const override { return DosPath(current_); }
   [[nodiscard]] std::vector<char> Drives() const override { return {'C', 'D'}; }
 
-  [[nodiscard]] bool FileExists(std::string_view path) const override { return Has(path); }
-  [[nodiscard]] bool FolderExists(std::string_view path) const override {
-    const std::string inside = Key(path) + '\\';
+  [[nodiscard]] bool FileExists(const DosPath& path) const override { return Has(path.Text()); }
+  [[nodiscard]] bool FolderExists(const DosPath& path) const override {
+    const std::string inside = Key(path.Text()) + '\\';
     const auto next = files_.lower_bound(inside);
-    return folders_.contains(Key(path)) ||
+    return folders_.contains(Key(path.Text())) ||
            (next != files_.end() && next->first.starts_with(inside));
   }
-  [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(std::string_view path) const override {
+  [[nodiscard]] Result<std::vector<FolderEntry>> ListFolder(const DosPath& path) const override {
     ++folders_listed;
-    if (!path.empty() && !FolderExists(path)) return Error{"No such folder"};
-    const std::string inside = (path.empty() ? current_ : Key(path)) + '\\';
+    if (!path.IsEmpty() && !FolderExists(path)) return Error{"No such folder"};
+    const std::string inside = (path.IsEmpty() ? current_ : Key(path.Text())) + '\\';
     std::vector<FolderEntry> entries;
     for (const auto& [key, bytes] : files_) AddEntry(key, inside, false, entries);
     for (const std::string& key : folders_) AddEntry(key, inside, true, entries);
     return entries;
   }
 
-  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const override {
-    opened.emplace_back(path);
-    const auto found = files_.find(Key(path));
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(const DosPath& path) const override {
+    opened.emplace_back(path.Text());
+    const auto found = files_.find(Key(path.Text()));
     if (found == files_.end()) return Error{"No such file", true};
     return std::unique_ptr<ByteSource>(
-        std::make_unique<MemorySource>(found->second, path == breaks_off));
+        std::make_unique<MemorySource>(found->second, path.Text() == breaks_off));
   }
 
-  Status WriteFile(std::string_view path, std::string_view bytes) override {
+  Status WriteFile(const DosPath& path, std::string_view bytes) override {
     if (fail_writes) return Error{"The disk is full"};
-    written.push_back(Key(path));
-    Put(path, std::string(bytes));
+    written.push_back(Key(path.Text()));
+    Put(path.Text(), std::string(bytes));
     return Success();
   }
-  Status ReplaceFile(std::string_view path, std::string_view /*temporary*/,
+  Status ReplaceFile(const DosPath& path, const DosPath& /*temporary*/,
                      std::string_view bytes) override {
     return WriteFile(path, bytes);
   }
-  Status CopyFile(std::string_view from, std::string_view to) override {
-    if (!Has(from) || Has(to)) return Error{"Can't be copied"};
-    return WriteFile(to, BytesOf(from));
+  Status CopyFile(const DosPath& from, const DosPath& to) override {
+    if (!Has(from.Text()) || Has(to.Text())) return Error{"Can't be copied"};
+    return WriteFile(to, BytesOf(from.Text()));
   }
-  Status RenameFile(std::string_view from, std::string_view to) override {
+  Status RenameFile(const DosPath& from, const DosPath& to) override {
     const Status copied = CopyFile(from, to);
     return copied ? DeleteFile(from) : copied;
   }
-  Status DeleteFile(std::string_view path) override {
-    return files_.erase(Key(path)) == 1 ? Success() : Error{"No such file"};
+  Status DeleteFile(const DosPath& path) override {
+    return files_.erase(Key(path.Text())) == 1 ? Success() : Error{"No such file"};
   }
-  [[nodiscard]] Result<std::string> Identity(std::string_view path) const override {
-    return Has(path) ? Result<std::string>(BytesOf(path)) : Error{"No such file"};
+  [[nodiscard]] Result<std::string> Identity(const DosPath& path) const override {
+    return Has(path.Text()) ? Result<std::string>(BytesOf(path.Text())) : Error{"No such file"};
   }
-  Status MakeFolder(std::string_view path) override {
-    PutFolder(path);
+  Status MakeFolder(const DosPath& path) override {
+    PutFolder(path.Text());
     return Success();
   }
-  [[nodiscard]] Result<std::string> HostPath(std::string_view /*path*/) const override {
+  [[nodiscard]] Result<std::filesystem::path> HostPath(const DosPath& /*path*/) const override {
     return Error{"Not on a host"};
   }
 

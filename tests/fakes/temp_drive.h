@@ -13,7 +13,7 @@ namespace zarvo {
 // Holds C:\Zarvo, C:\Zarvo\Data, C:\Zarvo\cfg and C:\Emu; C:\Zarvo is current.
 class TempDrive {
  public:
-  TempDrive() : root_(MakeRoot()), files_({{'C', root_.string()}}) {
+  TempDrive() : root_(MakeRoot()), files_({{'C', root_}}) {
     for (const char* folder : {"Zarvo/Data", "Zarvo/cfg", "Emu"}) {
       std::filesystem::create_directories(root_ / folder);
     }
@@ -36,24 +36,24 @@ class TempDrive {
   void Write(std::string_view dos_path, std::string_view bytes) {
     const std::filesystem::path host = Host(dos_path);
     std::filesystem::create_directories(host.parent_path());
-    const Status written = files_.WriteFile(dos_path, bytes);
+    const Status written = files_.WriteFile(DosPath(dos_path), bytes);
     if (!written) throw std::runtime_error(written.error().message);
   }
   // Throws if there is no such file, so that no test takes a missing file for an empty one.
   [[nodiscard]] std::string Read(std::string_view dos_path) const {
-    auto bytes = ReadAll(files_, dos_path);
+    auto bytes = ReadAll(files_, DosPath(dos_path));
     if (!bytes) throw std::runtime_error(std::string(dos_path) + ": " + bytes.error().message);
     return *bytes;
   }
   // A file or a folder.
   [[nodiscard]] bool Exists(std::string_view dos_path) const {
-    return files_.FileExists(dos_path) || files_.FolderExists(dos_path);
+    return files_.FileExists(DosPath(dos_path)) || files_.FolderExists(DosPath(dos_path));
   }
   void MakeFolder(std::string_view dos_path) const {
     std::filesystem::create_directories(Host(dos_path));
   }
   [[nodiscard]] std::filesystem::path Host(std::string_view dos_path) const {
-    return files_.HostPath(dos_path).value();
+    return files_.HostPath(DosPath(dos_path)).value();
   }
 
  private:

@@ -36,7 +36,7 @@ struct DataFile {
 
 DataFile Load(const Emulator& emulator) {
   DataFile file;
-  const std::string path = std::string(ZARVO_DATA_FOLDER) + "/" + std::string(emulator.DataFile());
+  const std::string path = std::string(ZARVO_DATA_FOLDER) + "/" + emulator.DataFile().Text();
   for (const std::string& line : Cut(ReadBytes(path), "\r\n")) {
     EXPECT_LE(line.size(), kLongestLine);
     for (const char c : line) {

@@ -35,7 +35,7 @@ Catalogue::Catalogue(DosFiles& files, const ProgramFolders& folders, const Emula
       emulator_(emulator) {}
 
 bool Catalogue::HasDataFile() const {
-  return files_.FileExists(JoinPath(data_folder_, emulator_.DataFile()));
+  return files_.FileExists(data_folder_ / emulator_.DataFile());
 }
 
 std::optional<GameRecord> Catalogue::Find(std::string_view name) const {

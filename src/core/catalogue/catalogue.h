@@ -90,7 +90,7 @@ class Catalogue {
   // `rom_folder` can't be entered, the look-ups run in the folder cfg. kMerged counts only where
   // the emulator knows parents. Fails if the data file can't be read to its end; the old scan file
   // stays then.
-  [[nodiscard]] Result<ScanOutcome> Scan(std::string_view rom_folder, SetType sets) const;
+  [[nodiscard]] Result<ScanOutcome> Scan(const DosPath& rom_folder, SetType sets) const;
 
  private:
   [[nodiscard]] Result<RecordReader> Records() const;
@@ -99,11 +99,11 @@ class Catalogue {
   // The answers of the last scan.
   [[nodiscard]] Store ScanStore() const;
   // Goes to the rom folder, or stays in the folder cfg.
-  void EnterRomFolder(std::string_view rom_folder) const;
+  void EnterRomFolder(const DosPath& rom_folder) const;
 
   DosFiles& files_;
-  std::string data_folder_;
-  std::string cfg_folder_;
+  DosPath data_folder_;
+  DosPath cfg_folder_;
   const Emulator& emulator_;
 };
 

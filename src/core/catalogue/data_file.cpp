@@ -12,7 +12,7 @@ std::optional<std::string_view> CutField(std::string_view& rest) {
   return field;
 }
 
-Result<RecordReader> RecordReader::Open(DosFiles& files, std::string_view data_folder,
+Result<RecordReader> RecordReader::Open(DosFiles& files, const DosPath& data_folder,
                                         const Emulator& emulator) {
   auto lines = OpenDataFile(files, data_folder, emulator);
   if (!lines) return lines.error();
@@ -26,10 +26,10 @@ bool RecordReader::Next(std::string_view& line) {
   return false;
 }
 
-Result<LineReader> OpenDataFile(DosFiles& files, std::string_view data_folder,
+Result<LineReader> OpenDataFile(DosFiles& files, const DosPath& data_folder,
                                 const Emulator& emulator) {
   const auto named = [&emulator](const Error& error) {
-    return Error{std::string(emulator.DataFile()) + ": " + error.message, error.missing};
+    return Error{emulator.DataFile().Text() + ": " + error.message, error.missing};
   };
   const Status entered = EnterFolder(files, data_folder);
   if (!entered) return named(entered.error());

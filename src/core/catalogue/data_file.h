@@ -62,7 +62,7 @@ std::optional<std::string_view> CutField(std::string_view& rest);
 class RecordReader {
  public:
   // Makes `data_folder` current and opens the emulator's file by its bare name.
-  static Result<RecordReader> Open(DosFiles& files, std::string_view data_folder,
+  static Result<RecordReader> Open(DosFiles& files, const DosPath& data_folder,
                                    const Emulator& emulator);
   // The next record's line, valid until the next call; false at the end of the file.
   bool Next(std::string_view& line);
@@ -75,7 +75,7 @@ class RecordReader {
 };
 
 // As RecordReader::Open, for all lines.
-Result<LineReader> OpenDataFile(DosFiles& files, std::string_view data_folder,
+Result<LineReader> OpenDataFile(DosFiles& files, const DosPath& data_folder,
                                 const Emulator& emulator);
 
 }  // namespace zarvo

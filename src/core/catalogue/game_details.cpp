@@ -7,8 +7,6 @@
 namespace zarvo {
 namespace {
 
-constexpr std::string_view kGameListFile = "gamelist.txt";
-
 constexpr std::array<DetailRow, kFieldCount> kDetailRows = {{
     {"lblInfoName", "Name:", Field::kName},
     {"lblInfoRomFile", "Rom File:", Field::kRomFile},
@@ -52,11 +50,11 @@ std::string_view SamplesText(const GameRecord& record) {
 }
 
 std::vector<std::string> GameListText(DosFiles& files, const Emulator& emulator,
-                                      std::string_view emulator_folder, std::string_view name) {
+                                      const DosPath& emulator_folder, std::string_view name) {
   const GameListRule& rule = emulator.help.game_list;
   if (rule.read == nullptr) return {};
   Ignore(EnterFolder(files, emulator_folder));
-  auto source = files.Open(kGameListFile);
+  auto source = files.Open("gamelist.txt");
   if (!source) return {rule.no_file.begin(), rule.no_file.end()};
   LineReader lines(std::move(*source));
   std::vector<std::string> items;

@@ -30,6 +30,6 @@ std::string_view SamplesText(const GameRecord& record);
 // The items of the help list for a game, from gamelist.txt in the emulator's folder, or the texts
 // for a missing file or game. None for an emulator without such a file.
 std::vector<std::string> GameListText(DosFiles& files, const Emulator& emulator,
-                                      std::string_view emulator_folder, std::string_view name);
+                                      const DosPath& emulator_folder, std::string_view name);
 
 }  // namespace zarvo

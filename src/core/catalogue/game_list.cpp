@@ -8,7 +8,7 @@
 namespace zarvo {
 namespace {
 
-constexpr std::string_view kWorkFile = "tofilter.tmp";
+constexpr char kWorkFile[] = "tofilter.tmp";
 constexpr std::string_view kNeoGeo = "neogeo";
 
 // Drops `count` fields; false if the line has fewer. The fields are short, so a plain walk is

@@ -101,12 +101,12 @@ Store Catalogue::ScanStore() const {
   return {files_, cfg_folder_, emulator_.ScanFile(), emulator_.ScanTempFile()};
 }
 
-void Catalogue::EnterRomFolder(std::string_view rom_folder) const {
+void Catalogue::EnterRomFolder(const DosPath& rom_folder) const {
   Ignore(EnterFolder(files_, cfg_folder_));
   if (!EnterFolder(files_, rom_folder)) Ignore(EnterFolder(files_, cfg_folder_));
 }
 
-Result<ScanOutcome> Catalogue::Scan(std::string_view rom_folder, SetType sets) const {
+Result<ScanOutcome> Catalogue::Scan(const DosPath& rom_folder, SetType sets) const {
   auto records = Records();
   if (!records) return records.error();
   EnterRomFolder(rom_folder);
@@ -116,7 +116,7 @@ Result<ScanOutcome> Catalogue::Scan(std::string_view rom_folder, SetType sets) c
   outcome.found =
       LookForGames(*records, emulator_.knows_parents ? sets : SetType::kSplit, archives, text);
   if (records->Failed()) {
-    return Error{emulator_.DataFile() + ": The file could not be read to its end"};
+    return Error{emulator_.DataFile().Text() + ": The file could not be read to its end"};
   }
   outcome.written = ScanStore().Replace(text);
   EnterRomFolder(rom_folder);

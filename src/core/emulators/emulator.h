@@ -171,18 +171,18 @@ struct Emulator {
   [[nodiscard]] std::string RomWord() const { return SectionWord() + "ROM"; }
   [[nodiscard]] std::string SnapWord() const { return SectionWord() + "SNAP"; }
   [[nodiscard]] std::string SettingsWord() const { return SectionWord() + "SETTINGS"; }
-  [[nodiscard]] std::string DataFile() const { return FileName(".dat"); }  // in the folder Data
-  [[nodiscard]] std::string CfgFile() const { return FileName(".cfg"); }  // these in the folder cfg
-  [[nodiscard]] std::string CfgTempFile() const { return FileName("cfg.tmp"); }
-  [[nodiscard]] std::string SettingsFile() const { return FileName(".set"); }
-  [[nodiscard]] std::string SettingsTempFile() const { return FileName("set.tmp"); }
-  [[nodiscard]] std::string ScanFile() const { return FileName(".scn"); }
-  [[nodiscard]] std::string ScanTempFile() const { return FileName("scn.tmp"); }
+  [[nodiscard]] FileName DataFile() const { return File(".dat"); }  // in the folder Data
+  [[nodiscard]] FileName CfgFile() const { return File(".cfg"); }   // these in the folder cfg
+  [[nodiscard]] FileName CfgTempFile() const { return File("cfg.tmp"); }
+  [[nodiscard]] FileName SettingsFile() const { return File(".set"); }
+  [[nodiscard]] FileName SettingsTempFile() const { return File("set.tmp"); }
+  [[nodiscard]] FileName ScanFile() const { return File(".scn"); }
+  [[nodiscard]] FileName ScanTempFile() const { return File("scn.tmp"); }
   [[nodiscard]] std::string Logo() const;  // name of the drawing: "mame_logo"
 
  private:
-  [[nodiscard]] std::string FileName(std::string_view tail) const {
-    return std::string(word).append(tail);
+  [[nodiscard]] FileName File(std::string_view tail) const {
+    return FileName::Own(word).With(tail);
   }
 };
 

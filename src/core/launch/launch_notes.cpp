@@ -18,26 +18,26 @@ constexpr std::string_view kCopy = "copy ";
 constexpr std::string_view kArchive = ".zip";
 
 // The note is read from the disk: it may name nothing but what a start could have made.
-bool IsWorkFile(std::string_view path) {
+bool IsWorkFile(const DosPath& path) {
   constexpr std::array kNames = {kBatchFile, kHalfCopy, kRunMark};
-  return DriveLetter(path) != 0 &&
-         std::any_of(kNames.begin(), kNames.end(),
-                     [path](std::string_view name) { return EqualNoCase(FileName(path), name); });
+  return path.Drive() != 0 && std::any_of(kNames.begin(), kNames.end(), [&](std::string_view name) {
+           return EqualNoCase(path.Name(), name);
+         });
 }
 
-bool IsArchive(std::string_view path) {
-  std::string_view name = FileName(path);
-  if (DriveLetter(path) == 0 || !name.ends_with(kArchive)) return false;
+bool IsArchive(const DosPath& path) {
+  std::string_view name = path.Name();
+  if (path.Drive() == 0 || !name.ends_with(kArchive)) return false;
   name.remove_suffix(kArchive.size());
   return IsPlainName(name);
 }
 
 }  // namespace
 
-LaunchNotes::LaunchNotes(DosFiles& files, const std::string& program_folder)
+LaunchNotes::LaunchNotes(DosFiles& files, const DosPath& program_folder)
     : files_(files),
-      note_(JoinPath(program_folder, kNoteFile)),
-      temporary_(JoinPath(program_folder, kTemporary)) {
+      note_(program_folder / FileName::Own(kNoteFile)),
+      temporary_(program_folder / FileName::Own(kTemporary)) {
   Read();
 }
 
@@ -48,36 +48,37 @@ void LaunchNotes::Read() {
   std::string_view rest = *text;
   while (!rest.empty()) {
     std::string_view line = WithoutLineEnd(TakeLine(rest));
-    if (line.starts_with(kWork) && IsWorkFile(line.substr(kWork.size()))) {
-      entries_.push_back({.path = std::string(line.substr(kWork.size())), .identity = {}});
+    if (line.starts_with(kWork)) {
+      const DosPath path(line.substr(kWork.size()));
+      if (IsWorkFile(path)) entries_.push_back({.path = path, .identity = {}});
     }
     if (!line.starts_with(kCopy)) continue;
     line.remove_prefix(kCopy.size());
     const std::size_t blank = line.find(' ');
-    if (blank == 0 || blank == std::string_view::npos || !IsArchive(line.substr(blank + 1)))
-      continue;
-    entries_.push_back({.path = std::string(line.substr(blank + 1)),
-                        .identity = std::string(line.substr(0, blank))});
+    if (blank == 0 || blank == std::string_view::npos) continue;
+    const DosPath path(line.substr(blank + 1));
+    if (!IsArchive(path)) continue;
+    entries_.push_back({.path = path, .identity = std::string(line.substr(0, blank))});
   }
 }
 
 Status LaunchNotes::Write() {
   std::string text;
   for (const Entry& entry : entries_) {
-    text += entry.identity.empty() ? std::string(kWork) + entry.path
-                                   : std::string(kCopy) + entry.identity + " " + entry.path;
+    text += entry.identity.empty() ? std::string(kWork) + entry.path.Text()
+                                   : std::string(kCopy) + entry.identity + " " + entry.path.Text();
     text += "\r\n";
   }
   const Status written = files_.ReplaceFile(note_, temporary_, text);
-  return written ? written : Status(Error{note_ + ": " + written.error().message});
+  return written ? written : Status(Error{note_.Text() + ": " + written.error().message});
 }
 
-Status LaunchNotes::AddWork(std::string path) {
+Status LaunchNotes::AddWork(DosPath path) {
   entries_.push_back({.path = std::move(path), .identity = {}});
   return Write();
 }
 
-Status LaunchNotes::AddCopy(std::string path, std::string identity) {
+Status LaunchNotes::AddCopy(DosPath path, std::string identity) {
   entries_.push_back({.path = std::move(path), .identity = std::move(identity)});
   return Write();
 }
@@ -96,7 +97,7 @@ std::vector<std::string> LaunchNotes::Settle() {
   if (entries_.empty()) return failures;
   std::erase_if(entries_, [&](const Entry& entry) {
     const Status removed = Remove(entry);
-    if (!removed) failures.push_back(entry.path + ": " + removed.error().message);
+    if (!removed) failures.push_back(entry.path.Text() + ": " + removed.error().message);
     return removed.ok();
   });
   if (!entries_.empty()) {

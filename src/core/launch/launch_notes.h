@@ -22,14 +22,14 @@ inline constexpr std::string_view kHalfCopy = "zarvo.$$$";
 class LaunchNotes {
  public:
   // Takes over what a start that was cut off has left in the note.
-  LaunchNotes(DosFiles& files, const std::string& program_folder);
+  LaunchNotes(DosFiles& files, const DosPath& program_folder);
 
   // Before the file is made. Fails, with a reason that names the note, if it can't be kept; the
   // file is removed by Settle all the same.
-  Status AddWork(std::string path);
+  Status AddWork(DosPath path);
   // Before the copy, whole by now under another name, takes its own. Its identity tells it from a
   // file of the player's that stands there later.
-  Status AddCopy(std::string path, std::string identity);
+  Status AddCopy(DosPath path, std::string identity);
   // From now on the copy noted last stands there: it goes even if the run changes it.
   void CopyStands() { entries_.back().is_sure = true; }
 
@@ -39,7 +39,7 @@ class LaunchNotes {
 
  private:
   struct Entry {
-    std::string path;
+    DosPath path;
     std::string identity;  // of a copy; empty for a work file
     bool is_sure = false;  // made by this start
   };
@@ -50,8 +50,8 @@ class LaunchNotes {
   Status Remove(const Entry& entry);
 
   DosFiles& files_;
-  std::string note_;
-  std::string temporary_;
+  DosPath note_;
+  DosPath temporary_;
   std::vector<Entry> entries_;
 };
 

@@ -1,5 +1,6 @@
 #include "core/launch/launcher.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -16,32 +17,31 @@ namespace {
 // The set of shared roms; alone it starts no game.
 constexpr std::string_view kNeoGeo = "neogeo";
 
-std::string RomFolderOf(const Emulator& emulator, std::string_view emulator_folder) {
-  if (emulator.rom_sub_folder.empty()) return std::string(emulator_folder);
-  return JoinPath(emulator_folder, emulator.rom_sub_folder.substr(1));
+DosPath RomFolderOf(const Emulator& emulator, const DosPath& emulator_folder) {
+  if (emulator.rom_sub_folder.empty()) return emulator_folder;
+  return emulator_folder / FileName::Own(emulator.rom_sub_folder.substr(1));
 }
 
-bool SamePath(std::string_view left, std::string_view right) {
-  const auto left_parts = PathComponents(left);
-  const auto right_parts = PathComponents(right);
-  if (DriveLetter(left) != DriveLetter(right) || left_parts.size() != right_parts.size()) {
-    return false;
-  }
-  for (std::size_t i = 0; i < left_parts.size(); ++i) {
-    if (!EqualNoCase(left_parts[i], right_parts[i])) return false;
-  }
-  return true;
+bool SamePath(const DosPath& left, const DosPath& right) {
+  return left.Drive() == right.Drive() &&
+         std::ranges::equal(left.Components(), right.Components(), EqualNoCase);
 }
 
 // Also by another drive, or through a link of the host.
-bool SameFolder(const DosFiles& files, std::string_view left, std::string_view right) {
+bool SameFolder(const DosFiles& files, const DosPath& left, const DosPath& right) {
   if (SamePath(left, right)) return true;
-  if (left.empty()) return false;  // no folder at all, not the current one
+  if (left.IsEmpty()) return false;  // no folder at all, not the current one
   const auto left_host = files.HostPath(left);
   const auto right_host = files.HostPath(right);
   std::error_code no_such_folder;
   return left_host && right_host &&
          std::filesystem::equivalent(*left_host, *right_host, no_such_folder);
+}
+
+// The archive of a set, if its name is one that can't lead elsewhere.
+std::optional<FileName> ArchiveOf(const std::string& rom) {
+  const std::optional<FileName> set = FileName::Plain(rom);
+  return set ? std::optional(set->With(".zip")) : std::nullopt;
 }
 
 class OneLaunch {
@@ -55,6 +55,7 @@ class OneLaunch {
         emulator_folder_(request.emulator_folder),
         game_(request.game),
         input_(request.command),
+        given_folder_(request.command.options.rom_folder),
         notes_(tools.files, tools.folders.ProgramFolder) {
     notes_.Settle();  // of a start that was cut off
   }
@@ -95,12 +96,13 @@ class OneLaunch {
   const LaunchCalls& calls_;
   const LaunchTools& tools_;
   DosFiles& files_;
-  std::string emulator_folder_;
+  DosPath emulator_folder_;
   std::string game_;
   CommandInput input_;
+  DosPath given_folder_;  // of the game's record
   std::string rom_;
   std::string parent_;  // empty: none
-  std::string own_rom_folder_;
+  DosPath own_rom_folder_;
   bool is_own_folder_ = false;
   std::string failure_;
   LaunchNotes notes_;
@@ -122,8 +124,8 @@ OneLaunch::Ended OneLaunch::FirstSteps() {
 }
 
 OneLaunch::Ended OneLaunch::TestEmulator() {
-  const std::string& path = input_.emulator_path;
-  if (!path.empty() && files_.FileExists(path)) return std::nullopt;
+  const DosPath path(input_.emulator_path);
+  if (!path.IsEmpty() && files_.FileExists(path)) return std::nullopt;
   tools_.boxes.Warn(TitleOr(emulator_.launch.no_emulator_title), MsgNoEmulator);
   calls_.show_emulator_picker();
   return LaunchEnd::kNoEmulator;
@@ -138,11 +140,11 @@ OneLaunch::Ended OneLaunch::FindRom() {
 }
 
 OneLaunch::Ended OneLaunch::FindFolders() {
-  if (DriveLetter(emulator_folder_) == 0) {
+  if (emulator_folder_.Drive() == 0) {
     return Fail("The emulator's folder isn't known.\rPlease choose the emulator in section CONF");
   }
   own_rom_folder_ = RomFolderOf(emulator_, emulator_folder_);
-  is_own_folder_ = SameFolder(files_, input_.options.rom_folder, own_rom_folder_);
+  is_own_folder_ = SameFolder(files_, given_folder_, own_rom_folder_);
   return std::nullopt;
 }
 
@@ -184,18 +186,19 @@ OneLaunch::Ended OneLaunch::BringInAlone() {
 
 // The archive takes its name when it is whole, and only if nothing has it by then.
 OneLaunch::Ended OneLaunch::CopyIn(const std::string& rom) {
-  const std::string archive = rom + ".zip";
-  const std::string copy = JoinPath(own_rom_folder_, archive);
-  const std::string half = JoinPath(own_rom_folder_, kHalfCopy);
+  const std::optional<FileName> archive = ArchiveOf(rom);
+  if (!archive) return NoRom();
+  const DosPath copy = own_rom_folder_ / *archive;
+  const DosPath half = own_rom_folder_ / FileName::Own(kHalfCopy);
   if (Status noted = notes_.AddWork(half); !noted) return Fail(noted.error().message);
   if (files_.FileExists(half)) Ignore(files_.DeleteFile(half));
-  Status done = files_.CopyFile(JoinPath(input_.options.rom_folder, archive), half);
-  if (!done) return Fail(copy + ": " + done.error().message);
+  Status done = files_.CopyFile(given_folder_ / *archive, half);
+  if (!done) return Fail(copy.Text() + ": " + done.error().message);
   const auto identity = files_.Identity(half);
-  if (!identity) return Fail(half + ": " + identity.error().message);
+  if (!identity) return Fail(half.Text() + ": " + identity.error().message);
   if (Status noted = notes_.AddCopy(copy, *identity); !noted) return Fail(noted.error().message);
   done = files_.RenameFile(half, copy);
-  if (!done) return Fail(copy + ": " + done.error().message);
+  if (!done) return Fail(copy.Text() + ": " + done.error().message);
   notes_.CopyStands();
   return std::nullopt;
 }
@@ -208,22 +211,22 @@ OneLaunch::Ended OneLaunch::AskToUse(const std::string& rom) {
 // Both questions speak of overwriting; what is done to the archive is told below them.
 OneLaunch::Ended OneLaunch::Ask(const std::string& question) {
   const bool agreed = tools_.boxes.Ask(
-      ProgramTitle(), question + "\r\rYes runs the archive that stands in " + own_rom_folder_ +
-                          ". Zarvo overwrites and deletes nothing there.");
+      ProgramTitle(), question + "\r\rYes runs the archive that stands in " +
+                          own_rom_folder_.Text() + ". Zarvo overwrites and deletes nothing there.");
   return agreed ? Ended() : LaunchEnd::kRefused;
 }
 
 LaunchEnd OneLaunch::RunBatch() {
-  const std::string& folder = emulator_folder_;
+  const DosPath& folder = emulator_folder_;
   const Status entered = EnterFolder(files_, folder);
-  if (!entered) return Fail(folder + ": " + entered.error().message);
-  std::string batch = JoinPath(folder, kBatchFile);
+  if (!entered) return Fail(folder.Text() + ": " + entered.error().message);
+  const FileName batch = FileName::Own(kBatchFile);
   // A note that can't be kept is no reason not to play: a batch file left over does no harm.
-  Ignore(notes_.AddWork(batch));
-  Ignore(notes_.AddWork(JoinPath(folder, kRunMark)));
-  const Status written = files_.WriteFile(kBatchFile, CommandLine(emulator_, input_) + "\r\n");
-  if (!written) return Fail(batch + ": " + written.error().message);
-  const Status run = tools_.run("command.com /c " + std::string(kBatchFile));
+  Ignore(notes_.AddWork(folder / batch));
+  Ignore(notes_.AddWork(folder / FileName::Own(kRunMark)));
+  const Status written = files_.WriteFile(batch, CommandLine(emulator_, input_) + "\r\n");
+  if (!written) return Fail((folder / batch).Text() + ": " + written.error().message);
+  const Status run = tools_.run("command.com /c " + batch.Text());
   return run ? LaunchEnd::kRan : Fail(run.error().message);
 }
 
@@ -243,13 +246,13 @@ std::string OneLaunch::TitleOr(std::string_view title) const {
 }
 
 bool OneLaunch::IsGiven(const std::string& rom) const {
-  const std::string& folder = input_.options.rom_folder;
-  return !rom.empty() && DriveLetter(folder) != 0 &&
-         files_.FileExists(JoinPath(folder, rom + ".zip"));
+  const std::optional<FileName> archive = ArchiveOf(rom);
+  return archive && given_folder_.Drive() != 0 && files_.FileExists(given_folder_ / *archive);
 }
 
 bool OneLaunch::StandsInOwnFolder(const std::string& rom) const {
-  return files_.FileExists(JoinPath(own_rom_folder_, rom + ".zip"));
+  const std::optional<FileName> archive = ArchiveOf(rom);
+  return archive && files_.FileExists(own_rom_folder_ / *archive);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ namespace zarvo {
 // What to start.
 struct LaunchRequest {
   std::string game;
-  std::string emulator_folder;
+  DosPath emulator_folder;
   // The game's settings and the moment; the rom name is filled in by the launch.
   CommandInput command;
 };

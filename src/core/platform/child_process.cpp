@@ -19,8 +19,8 @@ namespace {
 
 // What a batch line says.
 struct BatchLine {
-  std::string program;  // a DOS path that exists
-  std::string tail;     // everything behind the program
+  DosPath program;   // it exists
+  std::string tail;  // everything behind the program
 };
 
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
@@ -34,9 +34,9 @@ std::vector<std::string> SplitAtBlanks(std::string_view text) {
   return words;
 }
 
-Result<BatchLine> ReadBatchLine(const DosFiles& files, std::string_view batch) {
+Result<BatchLine> ReadBatchLine(const DosFiles& files, const FileName& batch) {
   auto source = files.Open(batch);
-  if (!source) return Error{std::string(batch) + ": " + source.error().message};
+  if (!source) return Error{batch.Text() + ": " + source.error().message};
   LineReader lines(std::move(*source));
   std::string_view line;
   if (!lines.Next(line)) line = {};
@@ -44,16 +44,16 @@ Result<BatchLine> ReadBatchLine(const DosFiles& files, std::string_view batch) {
   // Paths hold blanks and have no quotes, so only the files tell where the program's name ends.
   for (std::size_t end = line.size(); end != 0 && end != std::string_view::npos;
        end = line.rfind(' ', end - 1)) {
-    const std::string_view program = line.substr(0, end);
-    if (!program.ends_with(' ') && files.FileExists(program)) {
-      return BatchLine{std::string(program), std::string(line.substr(end))};
+    const DosPath program(line.substr(0, end));
+    if (!program.Text().ends_with(' ') && files.FileExists(program)) {
+      return BatchLine{program, std::string(line.substr(end))};
     }
   }
   return Error{"There is no program " + Quoted(line.substr(0, line.find(' '))) + "."};
 }
 
 // True for what the host can run by itself.
-bool IsNative(const DosFiles& files, const std::string& program) {
+bool IsNative(const DosFiles& files, const DosPath& program) {
   auto source = files.Open(program);
   std::array<char, 4> start{};
   if (!source || (*source)->Read(start.data(), start.size()) < 2) return false;
@@ -70,7 +70,7 @@ Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line) {
   auto folder = files.HostPath("");
   if (!folder) return folder.error();
   if (access(program->c_str(), X_OK) != 0) {
-    return Error{"The program " + Quoted(line.program) +
+    return Error{"The program " + Quoted(line.program.Text()) +
                  " may not be run. Please make the file executable."};
   }
   HostCommand command{*program, {}, *folder};
@@ -83,10 +83,10 @@ Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line) {
 }
 
 // The sentence for the first component that DOS can't name, or success.
-Status CheckDosNames(std::string_view path) {
-  for (const std::string& component : PathComponents(path)) {
+Status CheckDosNames(const DosPath& path) {
+  for (const std::string& component : path.Components()) {
     if (IsDosName(component)) continue;
-    return Error{"DOS can't name " + Quoted(component) + " in " + Quoted(path) +
+    return Error{"DOS can't name " + Quoted(component) + " in " + Quoted(path.Text()) +
                  ". Please rename it: at most eight letters or digits, then perhaps a dot and at "
                  "most three, and no blank."};
   }
@@ -94,12 +94,13 @@ Status CheckDosNames(std::string_view path) {
 }
 
 // A name that nobody can foresee, in the folder for files of one session.
-std::string NewConfigurationPath() {
+std::filesystem::path NewConfigurationPath() {
   const char* const session = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
   const bool has_session = session != nullptr && *session == '/' && access(session, W_OK) == 0;
   std::random_device random;
   const std::uint64_t number = (std::uint64_t{random()} << 32) | random();
-  return JoinHostPath(has_session ? session : "/tmp", "zarvo-" + std::to_string(number) + ".conf");
+  return std::filesystem::path(has_session ? session : "/tmp") /
+         ("zarvo-" + std::to_string(number) + ".conf");
 }
 
 // A command line as far as DOS hands it on, and what it has to leave out.
@@ -141,14 +142,14 @@ constexpr std::string_view kMarkFailed = "failed";
 
 // DOSBox runs these lines behind the player's own. The drive is the folder that DOSBox is started
 // in: so no host path, whatever characters it holds, stands where DOSBox would take it apart.
-std::string DosBoxConfiguration(const std::string& dos_folder, const std::string& call) {
-  const std::string drive = dos_folder.substr(0, 1);
-  const std::string mark = JoinPath(dos_folder, kRunMark);
+std::string DosBoxConfiguration(const DosPath& dos_folder, const std::string& call) {
+  const std::string drive(1, dos_folder.Drive());
+  const std::string mark = (dos_folder / FileName::Own(kRunMark)).Text();
   std::string text = "[autoexec]\n@echo off\n";
   text += "mount -u " + drive + " >nul\n";
   text += "mount " + drive + " . >nul\n";
   text += drive + ":\n";
-  text += "cd " + dos_folder.substr(2) + "\n";
+  text += "cd " + dos_folder.Text().substr(2) + "\n";
   text.append("echo ").append(kMarkRunning).append(">" + mark + "\n");
   text += call + "\n";
   // An error level is known in here alone.
@@ -161,18 +162,18 @@ std::string DosBoxConfiguration(const std::string& dos_folder, const std::string
   return text;
 }
 
-Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, std::string_view batch,
+Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, const FileName& batch,
                            const HostPrograms& host) {
-  const std::string folder = files.CurrentFolder();
+  const DosPath folder = files.CurrentFolder();
   const Status folder_named = CheckDosNames(folder);
   if (!folder_named) return folder_named.error();
   const Status program_named = CheckDosNames(line.program);
   if (!program_named) return program_named.error();
-  const char drive = DriveLetter(folder);
+  const char drive = folder.Drive();
   if (drive == 'Z') return Error{"DOSBox keeps drive Z for itself. Please use another letter."};
-  if (DriveLetter(line.program) != 0 && DriveLetter(line.program) != drive) {
-    return Error{"The program " + Quoted(line.program) + " isn't on the drive of its folder " +
-                 Quoted(folder) + "."};
+  if (line.program.Drive() != 0 && line.program.Drive() != drive) {
+    return Error{"The program " + Quoted(line.program.Text()) +
+                 " isn't on the drive of its folder " + Quoted(folder.Text()) + "."};
   }
   const auto dosbox = host.find("dosbox");
   if (!dosbox) {
@@ -180,43 +181,39 @@ Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, std::st
         "DOSBox isn't installed, and DOS programs run in it. Please install the package "
         "dosbox and try again."};
   }
-  const auto drive_folder = files.HostPath(folder.substr(0, 2) + "\\");
+  const auto drive_folder = files.HostPath(DosPath::Root(drive));
   if (!drive_folder) return drive_folder.error();
 
   CutLine cut = CutForDos(line.tail);
   const std::string call =
-      "call " + (cut.lost.empty() ? std::string(batch) : line.program + cut.kept);
+      "call " + (cut.lost.empty() ? batch.Text() : line.program.Text() + cut.kept);
   RunPlan plan;
   plan.configuration_path = NewConfigurationPath();
   plan.configuration = DosBoxConfiguration(folder, call);
-  const auto mark = files.HostPath(kRunMark);
+  const auto mark = files.HostPath(FileName::Own(kRunMark));
   if (!mark) return mark.error();
   plan.run_mark = *mark;
   plan.lost_options = std::move(cut.lost);
   const std::string_view words = TrimBlanks(line.tail);
   plan.first_word = words.substr(0, words.find(' '));
-  plan.command = {*dosbox, {"-userconf", "-conf", plan.configuration_path}, *drive_folder};
+  plan.command = {*dosbox, {"-userconf", "-conf", plan.configuration_path.native()}, *drive_folder};
   return plan;
 }
 
 // Deletes a file when it goes.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(std::string path) : path_(std::move(path)) {}
+  explicit TemporaryFile(std::filesystem::path path) : path_(std::move(path)) {}
   ~TemporaryFile() { unlink(path_.c_str()); }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
  private:
-  std::string path_;
+  std::filesystem::path path_;
 };
 
-}  // namespace
-
-namespace {
-
 // The first bytes of a file of the host; nothing if it isn't there.
-std::string StartOf(const std::string& path) {
+std::string StartOf(const std::filesystem::path& path) {
   const auto file = OpenPlainFile(path);
   if (!file) return {};
   std::array<char, 16> bytes{};
@@ -246,14 +243,14 @@ std::string LastLines(std::string_view output) {
 }  // namespace
 
 HostPrograms ThisHost() {
-  const auto find = [](std::string_view name) -> std::optional<std::string> {
+  const auto find = [](std::string_view name) -> std::optional<std::filesystem::path> {
     const char* const path = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
     std::string_view folders = path == nullptr ? "/usr/local/bin:/usr/bin:/bin" : path;
     while (!folders.empty()) {
-      const std::string folder(folders.substr(0, folders.find(':')));
-      folders.remove_prefix(std::min(folders.size(), folder.size() + 1));
-      if (!folder.starts_with('/')) continue;  // never a program of the current folder
-      std::string program = JoinHostPath(folder, name);
+      const std::filesystem::path folder(folders.substr(0, folders.find(':')));
+      folders.remove_prefix(std::min(folders.size(), folder.native().size() + 1));
+      if (!folder.is_absolute()) continue;  // never a program of the current folder
+      std::filesystem::path program = folder / name;
       struct stat state {};
       if (stat(program.c_str(), &state) == 0 && S_ISREG(state.st_mode) &&
           access(program.c_str(), X_OK) == 0) {
@@ -265,7 +262,7 @@ HostPrograms ThisHost() {
   return {find};
 }
 
-Result<RunPlan> PlanRun(const DosFiles& files, std::string_view batch, const HostPrograms& host) {
+Result<RunPlan> PlanRun(const DosFiles& files, const FileName& batch, const HostPrograms& host) {
   const auto line = ReadBatchLine(files, batch);
   if (!line) return line.error();
   if (IsNative(files, line->program)) return PlanNative(files, *line);

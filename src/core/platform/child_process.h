@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -15,9 +16,9 @@ namespace zarvo {
 
 // A program of the host with its arguments, in the host's bytes.
 struct HostCommand {
-  std::string program;
+  std::filesystem::path program;
   std::vector<std::string> arguments;
-  std::string folder;  // working folder
+  std::filesystem::path folder;  // working folder
 };
 
 // How the host ran a command.
@@ -52,7 +53,7 @@ class ChildRunner {
 // What the planner asks of the host: tests answer by hand.
 struct HostPrograms {
   // Absolute path of a program that the search path holds, or nothing.
-  std::function<std::optional<std::string>(std::string_view name)> find;
+  std::function<std::optional<std::filesystem::path>(std::string_view name)> find;
 };
 
 // The programs of this host, in the folders of $PATH that are full paths.
@@ -61,12 +62,12 @@ HostPrograms ThisHost();
 // How one batch line is to be run.
 struct RunPlan {
   HostCommand command;
-  // Text of the DOSBox configuration to write to `configuration_path` (host path) before the run
-  // and to delete after it; both empty for a native program.
+  // Text of the DOSBox configuration to write to `configuration_path` before the run and to delete
+  // after it; both empty for a native program.
   std::string configuration;
-  std::string configuration_path;
-  // Host path of kRunMark; empty for a native program.
-  std::string run_mark{};
+  std::filesystem::path configuration_path;
+  // That of kRunMark; empty for a native program.
+  std::filesystem::path run_mark{};
   // Options, each with its values, that the program won't get: DOS hands on kLongestTail
   // characters, and the line that DOSBox runs ends in front of the first option that isn't among
   // them whole.
@@ -81,7 +82,7 @@ struct RunPlan {
 // of the current folder mounted, the current folder current, and an end when the program ends.
 // Fails with a sentence for the player: DOSBox missing, a folder or program that DOS can't name (a
 // component longer than 8.3, a blank), no such program.
-Result<RunPlan> PlanRun(const DosFiles& files, std::string_view batch, const HostPrograms& host);
+Result<RunPlan> PlanRun(const DosFiles& files, const FileName& batch, const HostPrograms& host);
 
 // Carries a plan out: writes its configuration, runs it, deletes the configuration and the mark.
 Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner);

@@ -10,7 +10,7 @@ constexpr std::size_t kFirstPiece = std::size_t{64} * 1024;
 
 }  // namespace
 
-Result<std::string> ReadAll(const DosFiles& files, std::string_view path) {
+Result<std::string> ReadAll(const DosFiles& files, const DosPath& path) {
   auto source = files.Open(path);
   if (!source) return source.error();
   std::string bytes;

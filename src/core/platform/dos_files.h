@@ -1,17 +1,19 @@
 // The files of the DOS world, as every routine of the program reaches them.
 //
-// Paths are DOS paths in Windows-1252: "C:\Zarvo\cfg\Mame.cfg", or a bare name in the current
-// folder of the current drive. Names match without regard to case in every component. This is a
+// A path is full, "C:\Zarvo\cfg\Mame.cfg", or a bare name in the current folder of the current
+// drive. Names match without regard to case in every component. This is a
 // seam: DosWorld serves it from folders of the host, tests make single steps of it fail.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/platform/dos_path.h"
 #include "core/platform/result.h"
 
 namespace zarvo {
@@ -41,54 +43,52 @@ class DosFiles {
   virtual Status ChangeDrive(char letter) = 0;
   // The current folder of the drive that `path` names, or of the current drive. Every drive keeps
   // its own current folder, and changing it doesn't change the current drive.
-  virtual Status ChangeFolder(std::string_view path) = 0;
+  virtual Status ChangeFolder(const DosPath& path) = 0;
   // Full path of the current folder of the current drive, "C:\" or "C:\Zarvo".
-  [[nodiscard]] virtual std::string CurrentFolder() const = 0;
+  [[nodiscard]] virtual DosPath CurrentFolder() const = 0;
   // The letters of all drives in alphabetical order, upper case.
   [[nodiscard]] virtual std::vector<char> Drives() const = 0;
 
   // True for a plain file, also behind a link; false for folders.
-  [[nodiscard]] virtual bool FileExists(std::string_view path) const = 0;
-  [[nodiscard]] virtual bool FolderExists(std::string_view path) const = 0;
+  [[nodiscard]] virtual bool FileExists(const DosPath& path) const = 0;
+  [[nodiscard]] virtual bool FolderExists(const DosPath& path) const = 0;
   // The files and folders in it, in no order, without "." and "..". Names that a path can't say (a
-  // character outside Windows-1252, a control character, one of \ / : * ? " < > |) aren't listed.
-  // "" is the current folder.
-  [[nodiscard]] virtual Result<std::vector<FolderEntry>> ListFolder(
-      std::string_view path) const = 0;
+  // character outside Windows-1252, or no FileName) aren't listed. "" is the current folder.
+  [[nodiscard]] virtual Result<std::vector<FolderEntry>> ListFolder(const DosPath& path) const = 0;
 
   // Plain files alone. The error tells if there is no such file; a link that leads nowhere is there
   // and can't be read.
-  [[nodiscard]] virtual Result<std::unique_ptr<ByteSource>> Open(std::string_view path) const = 0;
+  [[nodiscard]] virtual Result<std::unique_ptr<ByteSource>> Open(const DosPath& path) const = 0;
 
   // All that write or delete refuse a file that the player made read-only.
 
   // Makes a file anew, for work files: one of this name, or a link, is removed first, so that
   // nothing is ever written through it. A file that couldn't be written whole is removed.
-  virtual Status WriteFile(std::string_view path, std::string_view bytes) = 0;
+  virtual Status WriteFile(const DosPath& path, std::string_view bytes) = 0;
   // Gives `path` the new content or leaves it as it was: the bytes go to `temporary`, are flushed
   // to the disk and take the name in one rename. A file that couldn't be replaced keeps its old
   // content, and no temporary file stays behind. A link to a plain file stays, and that file is
   // replaced; what is or leads to anything else is refused.
-  virtual Status ReplaceFile(std::string_view path, std::string_view temporary,
+  virtual Status ReplaceFile(const DosPath& path, const DosPath& temporary,
                              std::string_view bytes) = 0;
   // Never overwrites: fails if `to` exists. A copy that breaks off is removed.
-  virtual Status CopyFile(std::string_view from, std::string_view to) = 0;
+  virtual Status CopyFile(const DosPath& from, const DosPath& to) = 0;
   // Fails if `to` exists, but for the same file in other letters.
-  virtual Status RenameFile(std::string_view from, std::string_view to) = 0;
-  virtual Status DeleteFile(std::string_view path) = 0;
+  virtual Status RenameFile(const DosPath& from, const DosPath& to) = 0;
+  virtual Status DeleteFile(const DosPath& path) = 0;
   // A word that no other file of this computer has: it stays the same when the file is renamed, and
   // changes when the file is written or another one takes its place.
-  [[nodiscard]] virtual Result<std::string> Identity(std::string_view path) const = 0;
+  [[nodiscard]] virtual Result<std::string> Identity(const DosPath& path) const = 0;
   // One folder; its parent must exist. An existing folder is no failure.
-  virtual Status MakeFolder(std::string_view path) = 0;
+  virtual Status MakeFolder(const DosPath& path) = 0;
 
-  // The host's path of a file or folder, in the host's bytes; a component that doesn't exist keeps
+  // The host's path of a file or folder; a component that doesn't exist keeps
   // the spelling given. Fails if there is no such drive.
-  [[nodiscard]] virtual Result<std::string> HostPath(std::string_view path) const = 0;
+  [[nodiscard]] virtual Result<std::filesystem::path> HostPath(const DosPath& path) const = 0;
 };
 
 // The whole content of a file. Fails like Open, for a read error, and for a file of more than
 // 64 MiB before it is read.
-Result<std::string> ReadAll(const DosFiles& files, std::string_view path);
+Result<std::string> ReadAll(const DosFiles& files, const DosPath& path);
 
 }  // namespace zarvo

@@ -64,30 +64,38 @@ bool MatchesOne(std::string_view name, std::string_view pattern) {
 
 }  // namespace
 
-std::string JoinPath(std::string_view folder, std::string_view name) {
-  std::string path(folder);
-  if (!path.empty() && path.back() != '\\') path += '\\';
-  path += name;
-  return path;
+std::optional<FileName> FileName::Of(std::string_view name) {
+  constexpr std::string_view kRefused = "\\/:*?\"<>|\x7F";
+  const bool sayable = !name.empty() && std::none_of(name.begin(), name.end(), [&](char c) {
+    return static_cast<unsigned char>(c) < ' ' || kRefused.find(c) != std::string_view::npos;
+  });
+  return sayable ? std::optional(Own(name)) : std::nullopt;
 }
 
-std::string_view ParentFolder(std::string_view path) {
-  const std::size_t last = path.rfind('\\');
-  if (last == std::string_view::npos) return {};
-  const bool in_root = last == 0 || (last == 2 && DriveLetter(path) != 0);
-  return path.substr(0, in_root ? last + 1 : last);
+std::optional<FileName> FileName::Plain(std::string_view name) {
+  return IsPlainName(name) ? std::optional(Own(name)) : std::nullopt;
 }
 
-std::string_view FileName(std::string_view path) { return path.substr(path.rfind('\\') + 1); }
-
-char DriveLetter(std::string_view path) {
-  if (path.size() < 2 || path[1] != ':' || !IsLetter(path[0])) return 0;
-  return static_cast<char>(path[0] & ~0x20);
+char DosPath::Drive() const {
+  if (text_.size() < 2 || text_[1] != ':' || !IsLetter(text_[0])) return 0;
+  return static_cast<char>(text_[0] & ~0x20);
 }
 
-std::vector<std::string> PathComponents(std::string_view path) {
+DosPath DosPath::Folder() const {
+  const std::size_t last = text_.rfind('\\');
+  if (last == std::string::npos) return {};
+  const bool in_root = last == 0 || (last == 2 && Drive() != 0);
+  return DosPath(std::string_view(text_).substr(0, in_root ? last + 1 : last));
+}
+
+std::string_view DosPath::Name() const {
+  return std::string_view(text_).substr(text_.rfind('\\') + 1);
+}
+
+std::vector<std::string> DosPath::Components() const {
   std::vector<std::string> components;
-  if (DriveLetter(path) != 0) path.remove_prefix(2);
+  std::string_view path = text_;
+  if (Drive() != 0) path.remove_prefix(2);
   while (!path.empty()) {
     const std::string_view component = path.substr(0, path.find_first_of(kSeparators));
     path.remove_prefix(std::min(path.size(), component.size() + 1));
@@ -99,6 +107,12 @@ std::vector<std::string> PathComponents(std::string_view path) {
     }
   }
   return components;
+}
+
+DosPath operator/(const DosPath& folder, const FileName& name) {
+  std::string path = folder.Text();
+  if (!path.empty() && path.back() != '\\') path += '\\';
+  return DosPath(path + name.Text());
 }
 
 bool IsDosName(std::string_view component) {

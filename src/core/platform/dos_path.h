@@ -1,27 +1,75 @@
-// Taking DOS paths apart: a drive letter, a colon, components between backslashes.
+// DOS paths: a drive letter, a colon, components between backslashes.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zarvo {
 
-// `folder` and `name` with one backslash in between, also for a root ("C:\" and "a" give "C:\a").
-std::string JoinPath(std::string_view folder, std::string_view name);
+// The name of a file or folder, without the way to it.
+class FileName {
+ public:
+  // The program's own names: a literal says what it is, all else is called so.
+  template <std::size_t kSize>
+  FileName(const char (&name)[kSize]) : text_(name) {}  // NOLINT(google-explicit-constructor)
+  static FileName Own(std::string_view name) { return FileName(std::string(name)); }
+  // Nothing if it can't be a component of a path: empty, a control character, one of \ / : * ? " <
+  // > |.
+  static std::optional<FileName> Of(std::string_view name);
+  // A name that a stranger gave; nothing unless IsPlainName.
+  static std::optional<FileName> Plain(std::string_view name);
 
-// The part in front of the last backslash; "C:\" for a file in a root; empty without a backslash.
-std::string_view ParentFolder(std::string_view path);
+  [[nodiscard]] const std::string& Text() const { return text_; }
+  // With more behind it: "pengo" and ".zip".
+  [[nodiscard]] FileName With(std::string_view ending) const {
+    return FileName(text_ + std::string(ending));
+  }
 
-// The part behind the last backslash.
-std::string_view FileName(std::string_view path);
+  friend bool operator==(const FileName&, const FileName&) = default;
 
-// The upper-case drive letter that opens a path ("c:\emu" gives 'C'), or 0 if none does.
-char DriveLetter(std::string_view path);
+ private:
+  explicit FileName(std::string name) : text_(std::move(name)) {}
 
-// The components behind the drive, without empty ones, "." or what ".." takes back; ".." at the
-// root is dropped. A slash separates as a backslash does.
-std::vector<std::string> PathComponents(std::string_view path);
+  std::string text_;
+};
+
+// A path of the DOS world in Windows-1252, full or from the current folder. Paths of the host are
+// std::filesystem::path; neither becomes the other but through DosFiles.
+class DosPath {
+ public:
+  DosPath() = default;  // the current folder, or none
+  template <std::size_t kSize>
+  DosPath(const char (&path)[kSize]) : text_(path) {}    // NOLINT(google-explicit-constructor)
+  DosPath(const FileName& name) : text_(name.Text()) {}  // NOLINT(google-explicit-constructor)
+  explicit DosPath(std::string_view path) : text_(path) {}
+  // The root of a drive, "C:\".
+  static DosPath Root(char letter) { return DosPath(std::string(1, letter) + ":\\"); }
+
+  // As it was given.
+  [[nodiscard]] const std::string& Text() const { return text_; }
+  [[nodiscard]] bool IsEmpty() const { return text_.empty(); }
+  // The upper-case drive letter that opens it ("c:\emu" gives 'C'), or 0 if none does.
+  [[nodiscard]] char Drive() const;
+  // The part in front of the last backslash; "C:\" for a file in a root; empty without a backslash.
+  [[nodiscard]] DosPath Folder() const;
+  // The part behind the last backslash.
+  [[nodiscard]] std::string_view Name() const;
+  // The components behind the drive, without empty ones, "." or what ".." takes back; ".." at the
+  // root is dropped. A slash separates as a backslash does.
+  [[nodiscard]] std::vector<std::string> Components() const;
+
+  friend bool operator==(const DosPath&, const DosPath&) = default;
+
+ private:
+  std::string text_;
+};
+
+// With one backslash in between, also for a root ("C:\" and "a" give "C:\a").
+DosPath operator/(const DosPath& folder, const FileName& name);
 
 // True for what every DOS can name in a batch file: one to eight characters, then perhaps a dot and
 // one to three; ASCII only, since DOS has another code page, no blank, "%" or character that DOS

@@ -41,16 +41,8 @@ class HostSource : public ByteSource {
   bool failed_ = false;
 };
 
-// What a component of a path may hold. All else would read as something other than a name.
-bool IsSayable(std::string_view name) {
-  constexpr std::string_view kRefused = "\\/:*?\"<>|\x7F";
-  return !name.empty() && std::none_of(name.begin(), name.end(), [&](char c) {
-    return static_cast<unsigned char>(c) < ' ' || kRefused.find(c) != std::string_view::npos;
-  });
-}
-
 // Also true for a link that leads nowhere: the name is taken.
-bool IsTaken(const std::string& host_path) {
+bool IsTaken(const std::filesystem::path& host_path) {
   struct stat state {};
   return lstat(host_path.c_str(), &state) == 0;
 }
@@ -60,7 +52,8 @@ struct CloseFolder {
 };
 
 // Calls `visit` for each entry until it returns false. False if the folder can't be read.
-bool WalkFolder(const std::string& host_folder, const std::function<bool(const dirent&)>& visit) {
+bool WalkFolder(const std::filesystem::path& host_folder,
+                const std::function<bool(const dirent&)>& visit) {
   const std::unique_ptr<DIR, CloseFolder> folder(opendir(host_folder.c_str()));
   if (folder == nullptr) return false;
   errno = 0;
@@ -76,7 +69,7 @@ bool WalkFolder(const std::string& host_folder, const std::function<bool(const d
 // The host's spelling of a name that stands there in other letters. Of several the first in the
 // order of bytes, so that the answer doesn't depend on the order of the folder. A folder that is
 // closed to the player holds none; one that can't be read for another reason leaves it open.
-Result<std::optional<std::string>> FindNoCase(const std::string& host_folder,
+Result<std::optional<std::string>> FindNoCase(const std::filesystem::path& host_folder,
                                               std::string_view name) {
   std::optional<std::string> found;
   const bool read = WalkFolder(host_folder, [&](const dirent& entry) {
@@ -107,54 +100,54 @@ Error NoDrive(char letter) { return Error{std::string("There is no drive ") + le
 }  // namespace
 
 DosWorld::DosWorld(DriveTable drives) : drives_(std::move(drives)) {
-  for (const auto& [letter, folder] : drives_) folders_[letter] = std::string(1, letter) + ":\\";
+  for (const auto& [letter, folder] : drives_) folders_[letter] = DosPath::Root(letter);
   if (!drives_.empty() && !drives_.contains(drive_)) drive_ = drives_.begin()->first;
 }
 
-Result<std::string> DosWorld::DriveFolder(char letter) const {
+Result<std::filesystem::path> DosWorld::DriveFolder(char letter) const {
   const auto drive = drives_.find(letter);
   if (drive == drives_.end()) return NoDrive(letter);
   return drive->second;
 }
 
-std::string DosWorld::FullPath(std::string_view path) const {
-  const char named = DriveLetter(path);
+DosPath DosWorld::FullPath(const DosPath& path) const {
+  const char named = path.Drive();
   const char letter = named != 0 ? named : drive_;
-  const std::string_view rest = named != 0 ? path.substr(2) : path;
-  const bool from_root = !rest.empty() && (rest.front() == '\\' || rest.front() == '/');
+  const std::string rest = path.Text().substr(named != 0 ? 2 : 0);
+  const bool from_root = rest.starts_with('\\') || rest.starts_with('/');
   const auto folder = folders_.find(letter);
   std::string start;
-  if (!from_root && folder != folders_.end()) start = folder->second;
+  if (!from_root && folder != folders_.end()) start = folder->second.Text();
 
-  std::string full = std::string(1, letter) + ":\\";
-  for (const std::string& component : PathComponents(start + "\\" + std::string(rest))) {
-    full = JoinPath(full, component);
+  DosPath full = DosPath::Root(letter);
+  for (const std::string& component : DosPath(start + "\\" + rest).Components()) {
+    full = full / FileName::Own(component);
   }
   return full;
 }
 
-Result<std::string> DosWorld::HostPath(std::string_view path) const {
-  const std::string full = FullPath(path);
-  const auto drive = drives_.find(full.front());
-  if (drive == drives_.end()) return NoDrive(full.front());
+Result<std::filesystem::path> DosWorld::HostPath(const DosPath& path) const {
+  const DosPath full = FullPath(path);
+  const auto drive = drives_.find(full.Drive());
+  if (drive == drives_.end()) return NoDrive(full.Text().front());
 
-  const std::vector<std::string> components = PathComponents(full);
+  const std::vector<std::string> components = full.Components();
+  std::filesystem::path exact = drive->second;
   for (const std::string& component : components) {
-    if (!IsSayable(component)) return Error{'"' + component + "\" can't be the name of a file"};
+    if (!FileName::Of(component)) return Error{'"' + component + "\" can't be the name of a file"};
+    exact /= ToUtf8(component);
   }
-  std::string exact = drive->second;
-  for (const std::string& component : components) exact = JoinHostPath(exact, ToUtf8(component));
   if (IsTaken(exact)) return exact;
 
-  std::string host = drive->second;
+  std::filesystem::path host = drive->second;
   bool exists = true;
   for (const std::string& component : components) {
-    std::string next = JoinHostPath(host, ToUtf8(component));
+    std::filesystem::path next = host / ToUtf8(component);
     if (exists && !IsTaken(next)) {
       const auto spelling = FindNoCase(host, component);
       if (!spelling) return spelling.error();
       exists = spelling->has_value();
-      if (exists) next = JoinHostPath(host, **spelling);
+      if (exists) next = host / **spelling;
     }
     host = std::move(next);
   }
@@ -168,7 +161,7 @@ Status DosWorld::ChangeDrive(char letter) {
   return Success();
 }
 
-Status DosWorld::ChangeFolder(std::string_view path) {
+Status DosWorld::ChangeFolder(const DosPath& path) {
   const auto host = HostPath(path);
   if (!host) return host.error();
   const mode_t mode = ModeOf(*host);
@@ -176,18 +169,19 @@ Status DosWorld::ChangeFolder(std::string_view path) {
   if (!S_ISDIR(mode)) return SystemError(ENOTDIR);
 
   // With the host's spelling, so that later names are found at the first try.
-  const char letter = FullPath(path).front();
-  std::string folder = std::string(1, letter) + ":\\";
-  for (const std::string& component : PathComponents(host->substr(drives_.at(letter).size()))) {
-    folder = JoinPath(folder, FromUtf8(component).value_or(component));
+  const char letter = FullPath(path).Drive();
+  DosPath folder = DosPath::Root(letter);
+  for (const std::filesystem::path& component : host->lexically_relative(drives_.at(letter))) {
+    if (component == ".") continue;  // the drive's own folder
+    folder = folder / FileName::Own(FromUtf8(component.native()).value_or(component));
   }
   folders_[letter] = folder;
   return Success();
 }
 
-std::string DosWorld::CurrentFolder() const {
+DosPath DosWorld::CurrentFolder() const {
   const auto folder = folders_.find(drive_);
-  return folder == folders_.end() ? std::string() : folder->second;
+  return folder == folders_.end() ? DosPath() : folder->second;
 }
 
 std::vector<char> DosWorld::Drives() const {
@@ -197,25 +191,25 @@ std::vector<char> DosWorld::Drives() const {
   return letters;
 }
 
-bool DosWorld::FileExists(std::string_view path) const {
+bool DosWorld::FileExists(const DosPath& path) const {
   const auto host = HostPath(path);
   return host && S_ISREG(ModeOf(*host));
 }
 
-bool DosWorld::FolderExists(std::string_view path) const {
+bool DosWorld::FolderExists(const DosPath& path) const {
   const auto host = HostPath(path);
   return host && S_ISDIR(ModeOf(*host));
 }
 
-Result<std::vector<FolderEntry>> DosWorld::ListFolder(std::string_view path) const {
+Result<std::vector<FolderEntry>> DosWorld::ListFolder(const DosPath& path) const {
   const auto host = HostPath(path);
   if (!host) return host.error();
   std::vector<FolderEntry> entries;
   const bool read = WalkFolder(*host, [&](const dirent& entry) {
     auto name = FromUtf8(entry.d_name);
-    if (!name || !IsSayable(*name)) return true;
+    if (!name || !FileName::Of(*name)) return true;
     const bool known = entry.d_type == DT_REG || entry.d_type == DT_DIR;
-    const mode_t mode = known ? DTTOIF(entry.d_type) : ModeOf(JoinHostPath(*host, entry.d_name));
+    const mode_t mode = known ? DTTOIF(entry.d_type) : ModeOf(*host / entry.d_name);
     if (S_ISREG(mode) || S_ISDIR(mode)) entries.push_back({std::move(*name), S_ISDIR(mode)});
     return true;
   });
@@ -223,7 +217,7 @@ Result<std::vector<FolderEntry>> DosWorld::ListFolder(std::string_view path) con
   return entries;
 }
 
-Result<std::unique_ptr<ByteSource>> DosWorld::Open(std::string_view path) const {
+Result<std::unique_ptr<ByteSource>> DosWorld::Open(const DosPath& path) const {
   const auto host = HostPath(path);
   if (!host) return host.error();
   auto file = OpenPlainFile(*host);
@@ -231,13 +225,13 @@ Result<std::unique_ptr<ByteSource>> DosWorld::Open(std::string_view path) const 
   return std::unique_ptr<ByteSource>(std::make_unique<HostSource>(std::move(*file)));
 }
 
-Status DosWorld::WriteFile(std::string_view path, std::string_view bytes) {
+Status DosWorld::WriteFile(const DosPath& path, std::string_view bytes) {
   const auto host = HostPath(path);
   if (!host) return host.error();
   return MakeFileAnew(*host, bytes);
 }
 
-Status DosWorld::ReplaceFile(std::string_view path, std::string_view temporary,
+Status DosWorld::ReplaceFile(const DosPath& path, const DosPath& temporary,
                              std::string_view bytes) {
   const auto host = HostPath(path);
   const auto beside = HostPath(temporary);
@@ -246,7 +240,7 @@ Status DosWorld::ReplaceFile(std::string_view path, std::string_view temporary,
   return ReplacePlainFile(*host, *beside, bytes);
 }
 
-Status DosWorld::CopyFile(std::string_view from, std::string_view to) {
+Status DosWorld::CopyFile(const DosPath& from, const DosPath& to) {
   const auto source = HostPath(from);
   const auto target = HostPath(to);
   if (!source) return source.error();
@@ -262,21 +256,21 @@ Status DosWorld::CopyFile(std::string_view from, std::string_view to) {
   return done;
 }
 
-Status DosWorld::RenameFile(std::string_view from, std::string_view to) {
+Status DosWorld::RenameFile(const DosPath& from, const DosPath& to) {
   const auto source = HostPath(from);
   const auto found = HostPath(to);
   if (!source) return source.error();
   if (!found) return found.error();
   if (*found != *source && IsTaken(*found)) return SystemError(EEXIST);
-  const std::vector<std::string> components = PathComponents(FullPath(to));
+  const std::vector<std::string> components = FullPath(to).Components();
   if (components.empty()) return SystemError(EISDIR);
-  const std::string target = JoinHostPath(HostFolder(*found), ToUtf8(components.back()));
+  const std::filesystem::path target = found->parent_path() / ToUtf8(components.back());
   if (std::rename(source->c_str(), target.c_str()) != 0) return LastError();
-  FlushFolder(HostFolder(target));
+  FlushFolder(target.parent_path());
   return Success();
 }
 
-Status DosWorld::DeleteFile(std::string_view path) {
+Status DosWorld::DeleteFile(const DosPath& path) {
   const auto host = HostPath(path);
   if (!host) return host.error();
   Status writable = CheckWritable(*host);
@@ -284,7 +278,7 @@ Status DosWorld::DeleteFile(std::string_view path) {
   return unlink(host->c_str()) == 0 ? Success() : Status(LastError());
 }
 
-Result<std::string> DosWorld::Identity(std::string_view path) const {
+Result<std::string> DosWorld::Identity(const DosPath& path) const {
   const auto host = HostPath(path);
   if (!host) return host.error();
   struct stat state {};
@@ -299,7 +293,7 @@ Result<std::string> DosWorld::Identity(std::string_view path) const {
   return word;
 }
 
-Status DosWorld::MakeFolder(std::string_view path) {
+Status DosWorld::MakeFolder(const DosPath& path) {
   const auto host = HostPath(path);
   if (!host) return host.error();
   if (mkdir(host->c_str(), 0777) == 0) return Success();

@@ -29,26 +29,24 @@ std::string LineText(int line, const std::string& what) {
 }
 
 // Absolute, without ".", ".." and a slash at the end.
-std::string Normal(const std::filesystem::path& path) {
-  std::string text = path.lexically_normal().string();
-  if (text.size() > 1 && text.ends_with('/')) text.pop_back();
-  return text;
+std::filesystem::path Normal(const std::filesystem::path& path) {
+  const std::filesystem::path normal = path.lexically_normal();
+  return normal.has_filename() || normal == normal.root_path() ? normal : normal.parent_path();
 }
 
 // The same with all links followed; the path itself where the host can't tell.
-std::string Real(const std::string& path) {
+std::filesystem::path Real(const std::filesystem::path& path) {
   std::error_code failure;
   const auto real = std::filesystem::weakly_canonical(path, failure);
   return failure ? path : Normal(real);
 }
 
-// What of `path` lies below `folder`, "" for the folder itself.
-std::optional<std::string_view> Below(std::string_view folder, std::string_view path) {
-  if (folder == "/") folder = {};
-  if (!path.starts_with(folder)) return std::nullopt;
-  path.remove_prefix(folder.size());
-  if (!path.empty() && path.front() != '/') return std::nullopt;
-  return path;
+// What of `path` lies below `folder`, "." for the folder itself.
+std::optional<std::filesystem::path> Below(const std::filesystem::path& folder,
+                                           const std::filesystem::path& path) {
+  std::filesystem::path below = path.lexically_relative(folder);
+  if (below.empty() || *below.begin() == "..") return std::nullopt;
+  return below;
 }
 
 // Letter and folder of one line, without a comment.
@@ -57,7 +55,7 @@ std::optional<std::pair<char, std::string_view>> ParseDrive(std::string_view lin
   if (equals == std::string_view::npos) return std::nullopt;
   const std::string_view name = Trim(line.substr(0, equals));
   const std::string_view folder = Trim(line.substr(equals + 1));
-  const char letter = name.size() == 1 ? DriveLetter(std::string(name) + ":") : '\0';
+  const char letter = name.size() == 1 ? DosPath(std::string(name) + ":").Drive() : '\0';
   if (letter == 0 || folder.empty() || folder.find('\0') != std::string_view::npos) {
     return std::nullopt;
   }
@@ -66,25 +64,25 @@ std::optional<std::pair<char, std::string_view>> ParseDrive(std::string_view lin
 
 // The folder of a line: absolute, below the player's home folder ("~", "~/dos"), or below the
 // program's.
-std::string FolderOf(std::string_view said, const std::string& program_folder) {
+std::filesystem::path FolderOf(std::string_view said, const std::filesystem::path& program_folder) {
   const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
   const bool at_home = said == "~" || said.starts_with("~/");
-  if (!at_home || home == nullptr) return Normal(std::filesystem::path(program_folder) / said);
+  if (!at_home || home == nullptr) return Normal(program_folder / said);
   return Normal(std::string(home) + "/" + std::string(said.substr(1)));
 }
 
-bool IsFolder(const std::string& path) {
+bool IsFolder(const std::filesystem::path& path) {
   std::error_code failure;
   return std::filesystem::is_directory(path, failure);
 }
 
-Result<DosWorld::DriveTable> ReadDrives(const std::string& program_folder,
+Result<DosWorld::DriveTable> ReadDrives(const std::filesystem::path& program_folder,
                                         std::vector<std::string>& missing) {
   const DosWorld here({{'C', program_folder}});
-  if (!here.FileExists(kDrivesFile)) {
-    return DosWorld::DriveTable{{'C', HostFolder(program_folder)}, {'H', "/"}};
+  if (!here.FileExists(FileName::Own(kDrivesFile))) {
+    return DosWorld::DriveTable{{'C', program_folder.parent_path()}, {'H', "/"}};
   }
-  const auto text = ReadAll(here, kDrivesFile);
+  const auto text = ReadAll(here, FileName::Own(kDrivesFile));
   if (!text) {
     return Error{std::string(kDrivesFile) + " can't be read: " + text.error().message};
   }
@@ -104,7 +102,7 @@ std::string Listed(const std::vector<std::string>& sentences) {
 }  // namespace
 
 Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
-                                                   const std::string& program_folder,
+                                                   const std::filesystem::path& program_folder,
                                                    std::vector<std::string>& missing) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
@@ -122,21 +120,21 @@ Result<DosWorld::DriveTable> DosWorld::ParseDrives(std::string_view text,
                                         "folder, like C = /home/me/dos")};
     }
     const auto [letter, folder] = *drive;
-    const std::string absolute = FolderOf(folder, program_folder);
+    const std::filesystem::path absolute = FolderOf(folder, program_folder);
     if (!drives.emplace(letter, absolute).second) {
       return Error{LineText(number, std::string("gives drive ") + letter + " a second folder.")};
     }
     if (!IsFolder(absolute)) {
-      missing.push_back(
-          LineText(number, "names the folder " + Quoted(absolute) + ", which isn't there."));
+      missing.push_back(LineText(
+          number, "names the folder " + Quoted(absolute.native()) + ", which isn't there."));
     }
   }
   if (drives.empty()) return Error{std::string(kDrivesFile) + " names no drive."};
   return drives;
 }
 
-Result<DosWorld> DosWorld::ForProgramFolder(const std::string& program_folder) {
-  const std::string folder = Normal(program_folder);
+Result<DosWorld> DosWorld::ForProgramFolder(const std::filesystem::path& program_folder) {
+  const std::filesystem::path folder = Normal(program_folder);
   std::vector<std::string> missing;
   auto drives = ReadDrives(folder, missing);
   if (!drives) return drives.error();
@@ -147,31 +145,33 @@ Result<DosWorld> DosWorld::ForProgramFolder(const std::string& program_folder) {
     return Error{world.missing_folders_ + path.error().message + " Give a drive for it in " +
                  std::string(kDrivesFile) + "."};
   }
-  Ignore(world.ChangeDrive(path->front()));
+  Ignore(world.ChangeDrive(path->Drive()));
   const Status changed = world.ChangeFolder(*path);
-  if (!changed) return Error{ForMessage(folder) + ": " + changed.error().message};
+  if (!changed) return Error{ForMessage(folder.native()) + ": " + changed.error().message};
   return world;
 }
 
-Result<std::string> DosWorld::DosPathOf(const std::string& host_path) const {
-  const std::string path = Normal(host_path);
-  if (!path.starts_with('/')) return Error{Quoted(path) + " isn't a full path."};
-  const std::string real_path = Real(path);
-  std::optional<std::string> best;
+Result<DosPath> DosWorld::DosPathOf(const std::filesystem::path& host_path) const {
+  const std::filesystem::path path = Normal(host_path);
+  if (!path.is_absolute()) return Error{Quoted(path.native()) + " isn't a full path."};
+  const std::filesystem::path real_path = Real(path);
+  std::optional<DosPath> best;
   std::size_t longest = 0;
   for (const auto& [letter, folder] : drives_) {
     // The way that was given keeps its names; the real one is for a drive or a path behind a link.
-    const std::string real_folder = Real(folder);
+    const std::filesystem::path real_folder = Real(folder);
     auto below = Below(folder, path);
     if (!below) below = Below(real_folder, real_path);
-    if (!below || (best && real_folder.size() <= longest)) continue;
-    const auto said = FromUtf8(*below);
+    if (!below || (best && real_folder.native().size() <= longest)) continue;
+    const auto said = FromUtf8(below->native());
     if (!said || said->find('\\') != std::string::npos) continue;
-    longest = real_folder.size();
-    best = std::string(1, letter) + ":\\";
-    for (const std::string& component : PathComponents(*said)) *best = JoinPath(*best, component);
+    longest = real_folder.native().size();
+    best = DosPath::Root(letter);
+    for (const std::string& component : DosPath(*said).Components()) {
+      *best = *best / FileName::Own(component);
+    }
   }
-  if (!best) return Error{"No drive reaches " + Quoted(path) + "."};
+  if (!best) return Error{"No drive reaches " + Quoted(path.native()) + "."};
   return *best;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr unsigned kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 
-bool IsLink(const std::string& path) {
+bool IsLink(const std::filesystem::path& path) {
   struct stat state {};
   return lstat(path.c_str(), &state) == 0 && S_ISLNK(state.st_mode);
 }
@@ -23,16 +23,16 @@ bool IsLink(const std::string& path) {
 Error LeadsNowhere() { return Error{"It is a link that leads nowhere"}; }
 
 // Where a link leads; other paths as they are.
-Result<std::string> BehindLinks(const std::string& path) {
+Result<std::filesystem::path> BehindLinks(const std::filesystem::path& path) {
   if (!IsLink(path)) return path;
   const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr),
                                                          &std::free);
   if (real == nullptr) return errno == ENOENT ? LeadsNowhere() : LastError();
-  return std::string(real.get());
+  return std::filesystem::path(real.get());
 }
 
 // A name that is free from now on.
-Status RemoveOld(const std::string& path) {
+Status RemoveOld(const std::filesystem::path& path) {
   if (unlink(path.c_str()) != 0 && errno != ENOENT) return LastError();
   return Success();
 }
@@ -63,12 +63,12 @@ Status FileHandle::Close() {
   return Success();
 }
 
-mode_t ModeOf(const std::string& path) {
+mode_t ModeOf(const std::filesystem::path& path) {
   struct stat state {};
   return stat(path.c_str(), &state) == 0 ? state.st_mode : 0;
 }
 
-Status CheckWritable(const std::string& path) {
+Status CheckWritable(const std::filesystem::path& path) {
   const mode_t mode = ModeOf(path);
   if (mode == 0) return Success();
   if (S_ISDIR(mode)) return SystemError(EISDIR);
@@ -77,7 +77,7 @@ Status CheckWritable(const std::string& path) {
   return Success();
 }
 
-Result<FileHandle> OpenPlainFile(const std::string& path) {
+Result<FileHandle> OpenPlainFile(const std::filesystem::path& path) {
   FileHandle file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.ok() && errno == ENOENT && IsLink(path)) return LeadsNowhere();
   struct stat state {};
@@ -105,7 +105,8 @@ Status WriteAll(int descriptor, std::string_view bytes) {
   return Success();
 }
 
-Status CreateFile(const std::string& path, std::string_view bytes, unsigned mode, bool flush) {
+Status CreateFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode,
+                  bool flush) {
   FileHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
   if (!file.ok()) return LastError();
   Status done = WriteAll(file.get(), bytes);
@@ -115,18 +116,18 @@ Status CreateFile(const std::string& path, std::string_view bytes, unsigned mode
   return done;
 }
 
-Status MakeFileAnew(const std::string& path, std::string_view bytes) {
+Status MakeFileAnew(const std::filesystem::path& path, std::string_view bytes) {
   Status done = IsLink(path) ? Success() : CheckWritable(path);
   if (done) done = RemoveOld(path);
   return done ? CreateFile(path, bytes, kNewFileMode, false) : done;
 }
 
-Status ReplacePlainFile(const std::string& path, const std::string& temporary,
+Status ReplacePlainFile(const std::filesystem::path& path, const std::filesystem::path& temporary,
                         std::string_view bytes) {
   const auto target = BehindLinks(path);
   if (!target) return target.error();
-  const std::string fresh =
-      *target == path ? temporary : JoinHostPath(HostFolder(*target), HostName(temporary));
+  const std::filesystem::path fresh =
+      *target == path ? temporary : target->parent_path() / temporary.filename();
   Status done = CheckWritable(*target);
   const mode_t old_mode = ModeOf(*target);
   if (done && old_mode != 0 && !S_ISREG(old_mode)) done = Error{"It isn't a plain file"};
@@ -139,28 +140,14 @@ Status ReplacePlainFile(const std::string& path, const std::string& temporary,
     unlink(fresh.c_str());
     return error;
   }
-  FlushFolder(HostFolder(*target));
+  FlushFolder(target->parent_path());
   return done;
 }
 
-void FlushFolder(const std::string& folder) {
+void FlushFolder(const std::filesystem::path& folder) {
   const FileHandle handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   // Some file systems can't flush a folder; the rename has happened all the same.
   if (handle.ok()) TheHostCalls().fsync(handle.get());
-}
-
-std::string HostFolder(const std::string& path) {
-  const std::size_t last = path.rfind('/');
-  return path.substr(0, last == 0 ? 1 : last);
-}
-
-std::string HostName(const std::string& path) { return path.substr(path.rfind('/') + 1); }
-
-std::string JoinHostPath(const std::string& folder, std::string_view name) {
-  std::string path = folder;
-  if (!path.ends_with('/')) path += '/';
-  path += name;
-  return path;
 }
 
 }  // namespace zarvo

@@ -1,11 +1,10 @@
 // The host's files behind the DOS world: descriptors that close themselves, and whole writes.
-//
-// Paths here are paths of the host, in the host's bytes.
 #pragma once
 
 #include <sys/types.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -53,14 +52,14 @@ class FileHandle {
 inline constexpr unsigned kNewFileMode = 0666;
 
 // The kind and rights of a file, behind a link, or 0 with errno if it can't be told.
-mode_t ModeOf(const std::string& path);
+mode_t ModeOf(const std::filesystem::path& path);
 
 // DOS refuses to write or delete a folder and a file without a write bit, also where the host would
 // do it: root may write anything, and a rename asks only for the folder.
-Status CheckWritable(const std::string& path);
+Status CheckWritable(const std::filesystem::path& path);
 
 // Opens a plain file for reading; nothing else, since a pipe would never end.
-Result<FileHandle> OpenPlainFile(const std::string& path);
+Result<FileHandle> OpenPlainFile(const std::filesystem::path& path);
 
 // Up to `size` bytes, 0 at the end of the file, -1 on an error.
 long ReadSome(int descriptor, char* buffer, std::size_t size);
@@ -69,25 +68,19 @@ Status WriteAll(int descriptor, std::string_view bytes);
 
 // Creates `path`, which must not exist, with the bytes, and flushes them to the disk if `flush`. A
 // file that couldn't be written whole is removed.
-Status CreateFile(const std::string& path, std::string_view bytes, unsigned mode, bool flush);
+Status CreateFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode,
+                  bool flush);
 
 // Removes what has the name, if it is a plain file or a link, and creates the file with the bytes.
-Status MakeFileAnew(const std::string& path, std::string_view bytes);
+Status MakeFileAnew(const std::filesystem::path& path, std::string_view bytes);
 
 // Gives `path` the bytes, or leaves it as it was: they go to `temporary`, are flushed to the disk
 // and take the name in one rename. Where `path` is a link, the plain file that it leads to is
 // replaced, and the temporary file stands beside that. Both paths are absolute.
-Status ReplacePlainFile(const std::string& path, const std::string& temporary,
+Status ReplacePlainFile(const std::filesystem::path& path, const std::filesystem::path& temporary,
                         std::string_view bytes);
 
 // Makes a rename in `folder` last.
-void FlushFolder(const std::string& folder);
-
-// What comes before and behind the last slash of an absolute path.
-std::string HostFolder(const std::string& path);
-std::string HostName(const std::string& path);
-
-// `folder` and `name` with one slash in between.
-std::string JoinHostPath(const std::string& folder, std::string_view name);
+void FlushFolder(const std::filesystem::path& folder);
 
 }  // namespace zarvo

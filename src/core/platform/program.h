@@ -17,12 +17,12 @@ inline std::string ProgramTitle() {
   return std::string(ProgramName).append(" ").append(ProgramVersion);
 }
 
-// DOS paths, without a trailing backslash unless a root.
+// Without a trailing backslash unless a root.
 struct ProgramFolders {
-  std::string ProgramFolder;
+  DosPath ProgramFolder;
 
-  [[nodiscard]] std::string DataFolder() const { return JoinPath(ProgramFolder, "Data"); }
-  [[nodiscard]] std::string CfgFolder() const { return JoinPath(ProgramFolder, "cfg"); }
+  [[nodiscard]] DosPath DataFolder() const { return ProgramFolder / "Data"; }
+  [[nodiscard]] DosPath CfgFolder() const { return ProgramFolder / "cfg"; }
 };
 
 }  // namespace zarvo

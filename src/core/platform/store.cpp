@@ -41,12 +41,12 @@ Status Store::Overwrite(std::string_view text) {
 }
 
 void Store::Refuse(const Error& reason) {
-  usable_ = Error{reason.message + "\r" + name_ +
+  usable_ = Error{reason.message + "\r" + name_.Text() +
                   " stays as it is, and what you change isn't saved in it until it can be read."};
 }
 
 Error Store::Named(const Error& error) const {
-  return Error{name_ + ": " + error.message, error.missing};
+  return Error{name_.Text() + ": " + error.message, error.missing};
 }
 
 Status Store::Write(std::string_view text) {

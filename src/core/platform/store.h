@@ -17,7 +17,7 @@ namespace zarvo {
 class Store {
  public:
   // `folder` is a full path; the temporary file stands beside the store.
-  Store(DosFiles& files, std::string folder, std::string name, std::string temporary)
+  Store(DosFiles& files, DosPath folder, FileName name, FileName temporary)
       : files_(files),
         folder_(std::move(folder)),
         name_(std::move(name)),
@@ -50,9 +50,9 @@ class Store {
   Status MayChange();
 
   DosFiles& files_;
-  std::string folder_;
-  std::string name_;
-  std::string temporary_;
+  DosPath folder_;
+  FileName name_;
+  FileName temporary_;
   Status usable_ = Success();
   bool missed_ = false;  // by the last Load
 };

@@ -63,7 +63,7 @@ void EmulatorPanel::Enter() {
     if (games->lstRom != nullptr) games->lstRom->SetListIndex(0);
   }
   games->ShowCount();
-  if (!tools_.files.FileExists(JoinPath(tools_.folders.CfgFolder(), emulator_.CfgFile()))) {
+  if (!tools_.files.FileExists(tools_.folders.CfgFolder() / emulator_.CfgFile())) {
     tools_.boxes.Inform(ProgramTitle(), MsgNoCfgFile);
     pages->ShowConfiguration();
   }

@@ -11,7 +11,7 @@ void GameStart::Start(const std::string& name) {
   game_.Borrow(name);
   const LaunchRequest request{
       .game = name,
-      .emulator_folder = paths_.lblOptHide,
+      .emulator_folder = DosPath(paths_.lblOptHide),
       .command = {.emulator_path = paths_.EmulatorPath(),
                   .rom_name = {},
                   .options = pages_.picSettings->Values(),

@@ -24,8 +24,7 @@ void PutZero(TextBox* box) {
 }  // namespace
 
 RecordingRules::RecordingRules(const Emulator& emulator, const SettingsPage& page,
-                               const PanelTools& tools,
-                               std::function<std::string()> emulator_folder)
+                               const PanelTools& tools, std::function<DosPath()> emulator_folder)
     : emulator_(emulator),
       chkRecord_(page.Option(emulator.recording->record).check),
       chkPlayback_(page.Option(emulator.recording->playback).check),
@@ -49,10 +48,10 @@ void RecordingRules::OnPlayback() {
   if (chkPlayback_->Value() == 0) return;
   FilePicker picker(tools_.files, tools_.panels, tools_.boxes, ProgramTitle());
   picker.lblSelExeHide = emulator_.SectionWord();
-  const std::string folder = JoinPath(emulator_folder_(), "INP");
+  const DosPath folder = emulator_folder_() / "INP";
   if (!picker.ChooseRecording(folder)) {
     tools_.boxes.Warn(ProgramTitle(),
-                      "There is no folder with recordings:\r" + folder +
+                      "There is no folder with recordings:\r" + folder.Text() +
                           "\rRecord a game first, or make this folder and put recordings in it.");
     chkPlayback_->SetValue(0);
     return;

@@ -14,7 +14,7 @@ class RecordingRules {
  public:
   // `emulator_folder` gives the emulator's own folder, in which INP holds the recordings.
   RecordingRules(const Emulator& emulator, const SettingsPage& page, const PanelTools& tools,
-                 std::function<std::string()> emulator_folder);
+                 std::function<DosPath()> emulator_folder);
 
   void ClearPlayback();
 
@@ -29,7 +29,7 @@ class RecordingRules {
   CheckBox* chkRecord_;
   CheckBox* chkPlayback_;
   const PanelTools& tools_;
-  std::function<std::string()> emulator_folder_;
+  std::function<DosPath()> emulator_folder_;
 };
 
 // A box that takes a whole number: never empty, and only digits and minus can be typed.

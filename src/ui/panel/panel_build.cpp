@@ -49,7 +49,7 @@ void EmulatorPanel::BuildBehaviour() {
                                        ControlsOfGame());
   paths =
       std::make_unique<PanelPaths>(emulator_, tools_, state_, *pages, *game, *favourites, *sizes);
-  const auto emulator_folder = [this] { return paths->lblOptHide; };
+  const auto emulator_folder = [this] { return DosPath(paths->lblOptHide); };
   pages->emulator_folder = emulator_folder;
   pages->Connect(*game, state_, *favourites, *games);
   if (emulator_.recording) {

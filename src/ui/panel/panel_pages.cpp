@@ -209,7 +209,8 @@ void PanelPages::ShowSnapshotOf(const std::string& name, const ListBox* list) {
 }
 
 bool PanelPages::ShowPictureOfRom() {
-  return picSnap->ShowPicture(tools_.files, SnapPath, game_->RomFile + picConf->SnapExtension());
+  return picSnap->ShowPicture(tools_.files, DosPath(SnapPath),
+                              game_->RomFile + picConf->SnapExtension());
 }
 
 void PanelPages::ShowInfo() {

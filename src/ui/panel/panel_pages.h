@@ -52,7 +52,7 @@ class PanelPages {
 
   std::string SnapPath;
   // The emulator's own folder, which the help page reads.
-  std::function<std::string()> emulator_folder;
+  std::function<DosPath()> emulator_folder;
 
  private:
   void BuildButtons(QWidget* panel);

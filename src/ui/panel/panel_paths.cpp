@@ -109,7 +109,7 @@ void PanelPaths::PickGameRom() {
   picker.lblSelDirHide = emulator_.SettingsWord();
   picker.SetCaption("Search Rom for " + game + " (" + pattern + ")");
   picker.SetPattern(pattern);
-  picker.OpenAt(0, settings_.txtRomPath->Text());
+  picker.OpenAt(0, DosPath(settings_.txtRomPath->Text()));
   picker.ShowModal();
 }
 
@@ -117,7 +117,7 @@ void PanelPaths::BrowseExecutable() {
   const std::string path = EmulatorPath();
   FilePicker picker(tools_.files, tools_.panels, tools_.boxes, ProgramTitle());
   picker.lblSelExeHide = emulator_.SectionWord();
-  picker.OpenAt(DriveOf(path), ParentFolder(path));
+  picker.OpenAt(DriveOf(path), DosPath(path).Folder());
   picker.ShowModal();
 }
 
@@ -127,8 +127,8 @@ void PanelPaths::BrowseRomFolder() {
       emulator_.panel.rom_drive_from_rom_path ? rom_path : EmulatorPath();
   FolderPicker picker(tools_.files, tools_.panels);
   picker.lblSelDirHide = emulator_.RomWord();
-  if (!picker.OpenAt(DriveOf(drive_path), rom_path) && emulator_.panel.second_rom_folder) {
-    picker.OpenAt(0, lblOptHide + std::string(emulator_.rom_sub_folder));
+  if (!picker.OpenAt(DriveOf(drive_path), DosPath(rom_path)) && emulator_.panel.second_rom_folder) {
+    picker.OpenAt(0, DosPath(lblOptHide + std::string(emulator_.rom_sub_folder)));
   }
   picker.ShowModal();
 }
@@ -140,7 +140,7 @@ void PanelPaths::BrowseSnapFolder() {
   picker.SetPattern(extension.empty() ? "" : "*" + extension);
   picker.lblSelDirHide = emulator_.SnapWord();
   picker.OpenAt(DriveOf(emulator_.panel.snap_drive_from_emulator ? lblOptHide : snap_path),
-                snap_path);
+                DosPath(snap_path));
   picker.ShowModal();
 }
 
@@ -153,7 +153,7 @@ void PanelPaths::Scan() {
   const std::string folder = conf_.txtOptRomPath->Text();
   const bool merged = conf_.optMerged != nullptr && conf_.optMerged->Value();
   const Result<ScanOutcome> scan =
-      game_.Games().Scan(folder, merged ? SetType::kMerged : SetType::kSplit);
+      game_.Games().Scan(DosPath(folder), merged ? SetType::kMerged : SetType::kSplit);
   if (!scan.ok()) {
     tools_.boxes.Warn(ProgramTitle(), scan.error().message);
     return;
@@ -162,35 +162,36 @@ void PanelPaths::Scan() {
   Report(tools_, scan->written);
 }
 
-bool PanelPaths::CanKeepFolder(std::string_view folder) {
+bool PanelPaths::CanKeepFolder(const DosPath& folder) {
   constexpr std::size_t kLongestFolder = 90;
-  if (folder.find_first_of(",~\"") == std::string_view::npos && folder.size() <= kLongestFolder) {
+  const std::string& text = folder.Text();
+  if (text.find_first_of(",~\"") == std::string::npos && text.size() <= kLongestFolder) {
     return true;
   }
   tools_.boxes.Warn(ProgramTitle(),
-                    std::string(folder) +
+                    text +
                         "\rThis folder can't be kept in the settings of a game. Please choose one "
                         "without comma, tilde and quotation mark, of at most 90 characters.");
   return false;
 }
 
-void PanelPaths::TakeRomFolder(std::string_view folder) {
-  if (CanKeepFolder(folder)) conf_.txtOptRomPath->SetText(folder);
+void PanelPaths::TakeRomFolder(const DosPath& folder) {
+  if (CanKeepFolder(folder)) conf_.txtOptRomPath->SetText(folder.Text());
 }
 
 // The folder that was chosen after a start found no archive is kept at once, so that the next start
 // finds it.
-void PanelPaths::TakeGameRomFolder(std::string_view folder) {
+void PanelPaths::TakeGameRomFolder(const DosPath& folder) {
   if (!CanKeepFolder(folder)) return;
-  settings_.txtRomPath->SetText(folder);
+  settings_.txtRomPath->SetText(folder.Text());
   if (keeps_rom_folder_) game_.KeepRomFolder();
 }
 
-void PanelPaths::TakeSnapFolder(std::string_view folder) { conf_.txtOptSnap->SetText(folder); }
+void PanelPaths::TakeSnapFolder(const DosPath& folder) { conf_.txtOptSnap->SetText(folder.Text()); }
 
-void PanelPaths::TakeEmulator(std::string_view exe_path, std::string_view folder) {
-  conf_.txtOptExePath->SetText(exe_path);
-  lblOptHide = folder;
+void PanelPaths::TakeEmulator(const DosPath& exe_path, const DosPath& folder) {
+  conf_.txtOptExePath->SetText(exe_path.Text());
+  lblOptHide = folder.Text();
 }
 
 }  // namespace zarvo

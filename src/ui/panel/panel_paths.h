@@ -36,10 +36,10 @@ class PanelPaths {
   void PickMissingRom();
 
   // What the pickers write.
-  void TakeRomFolder(std::string_view folder);
-  void TakeGameRomFolder(std::string_view folder);
-  void TakeSnapFolder(std::string_view folder);
-  void TakeEmulator(std::string_view exe_path, std::string_view folder);
+  void TakeRomFolder(const DosPath& folder);
+  void TakeGameRomFolder(const DosPath& folder);
+  void TakeSnapFolder(const DosPath& folder);
+  void TakeEmulator(const DosPath& exe_path, const DosPath& folder);
 
   std::string lblOptHide;  // the emulator's own folder
 
@@ -51,7 +51,7 @@ class PanelPaths {
   void PickGameRom();
   void TakeDefaultRomFolder();
   void Scan();
-  bool CanKeepFolder(std::string_view folder);
+  bool CanKeepFolder(const DosPath& folder);
 
   const Emulator& emulator_;
   const PanelTools& tools_;

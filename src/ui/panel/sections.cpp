@@ -97,25 +97,27 @@ void Sections::ResetClearLabels() {
   }
 }
 
-void Sections::SetRomFolder(const Emulator& emulator, std::string_view folder) {
+void Sections::SetRomFolder(const Emulator& emulator, const DosPath& folder) {
   Panel(emulator).paths->TakeRomFolder(folder);
 }
 
-void Sections::SetSnapFolder(const Emulator& emulator, std::string_view folder) {
+void Sections::SetSnapFolder(const Emulator& emulator, const DosPath& folder) {
   Panel(emulator).paths->TakeSnapFolder(folder);
 }
 
-void Sections::SetGameRomFolder(const Emulator& emulator, std::string_view folder) {
+void Sections::SetGameRomFolder(const Emulator& emulator, const DosPath& folder) {
   Panel(emulator).paths->TakeGameRomFolder(folder);
 }
 
-void Sections::SetEmulator(const Emulator& emulator, std::string_view exe_path,
-                           std::string_view folder) {
+void Sections::SetEmulator(const Emulator& emulator, const DosPath& exe_path,
+                           const DosPath& folder) {
   Panel(emulator).paths->TakeEmulator(exe_path, folder);
 }
 
-void Sections::SetRecording(const Emulator& emulator, std::string_view file) {
-  if (RecordingRules* const rules = Panel(emulator).recording.get()) rules->lblHideInp = file;
+void Sections::SetRecording(const Emulator& emulator, const FileName& file) {
+  if (RecordingRules* const rules = Panel(emulator).recording.get()) {
+    rules->lblHideInp = file.Text();
+  }
 }
 
 void Sections::ClearPlayback(const Emulator& emulator) {

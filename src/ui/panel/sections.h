@@ -35,12 +35,12 @@ class Sections : public SectionHost, public PickerPanels {
   void SetPanelPlace(const Emulator& emulator, const TwipRect& place) override;
   void ResetClearLabels() override;
 
-  void SetRomFolder(const Emulator& emulator, std::string_view folder) override;
-  void SetSnapFolder(const Emulator& emulator, std::string_view folder) override;
-  void SetGameRomFolder(const Emulator& emulator, std::string_view folder) override;
-  void SetEmulator(const Emulator& emulator, std::string_view exe_path,
-                   std::string_view folder) override;
-  void SetRecording(const Emulator& emulator, std::string_view file) override;
+  void SetRomFolder(const Emulator& emulator, const DosPath& folder) override;
+  void SetSnapFolder(const Emulator& emulator, const DosPath& folder) override;
+  void SetGameRomFolder(const Emulator& emulator, const DosPath& folder) override;
+  void SetEmulator(const Emulator& emulator, const DosPath& exe_path,
+                   const DosPath& folder) override;
+  void SetRecording(const Emulator& emulator, const FileName& file) override;
   void ClearPlayback(const Emulator& emulator) override;
   void SaveCfg(const Emulator& emulator) override;
 

@@ -60,15 +60,16 @@ void SnapshotPage::ShowLabels(bool visible) {
   }
 }
 
-bool SnapshotPage::ShowPicture(const DosFiles& files, std::string_view folder,
+bool SnapshotPage::ShowPicture(const DosFiles& files, const DosPath& folder,
                                std::string_view file) {
-  const bool plain = file.find_first_of("\\/:") == std::string_view::npos;
-  const auto from_file = [&](std::string_view name) {
-    return plain ? Picture::FromFile(files, JoinPath(folder, name), kLongestSide)
-                 : Result<Picture>(Error{"not a plain file name"});
+  const auto from_file = [&](std::string_view text) -> Result<Picture> {
+    const std::optional<FileName> name = FileName::Of(text);
+    if (!name) return Error{"not a plain file name"};
+    return Picture::FromFile(files, folder / *name, kLongestSide);
   };
+  const std::optional<FileName> name = FileName::Of(file);
   Result<Picture> picture = from_file(file);
-  if (!picture.ok() && plain && !files.FileExists(JoinPath(folder, file))) {
+  if (!picture.ok() && name && !files.FileExists(folder / *name)) {
     picture = from_file(std::string(file.substr(0, file.rfind('.'))) + ".png");
   }
   if (picture.ok()) {
@@ -77,7 +78,7 @@ bool SnapshotPage::ShowPicture(const DosFiles& files, std::string_view folder,
   }
   imgSnap->SetPicture({});
   lblNoAvail->SetCaption("No ScreenShot Available");
-  lblNoSnapFound->SetCaption(folder);
+  lblNoSnapFound->SetCaption(folder.Text());
   lblLookedFor->SetCaption(file);
   ShowLabels(true);
   return false;

@@ -21,7 +21,7 @@ class SnapshotPage : public PictureBox {
   // Shows the picture `folder` + "\" + `file`, or, where there is no such file, one of the same
   // name with ".png", which today's emulators take; if it can't be loaded, empties the image, shows
   // the labels with folder and file, and returns false.
-  bool ShowPicture(const DosFiles& files, std::string_view folder, std::string_view file);
+  bool ShowPicture(const DosFiles& files, const DosPath& folder, std::string_view file);
 
   // Its visibility tells whether the snapshot page is the current one.
   ImageBox* imgSnap;

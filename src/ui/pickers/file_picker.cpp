@@ -28,7 +28,7 @@ FilePicker::FilePicker(DosFiles& files, PickerPanels& panels, MessageBoxes& boxe
   SetPattern(kPrograms);
 }
 
-bool FilePicker::OpenAt(char drive, std::string_view folder) {
+bool FilePicker::OpenAt(char drive, const DosPath& folder) {
   return browser_->OpenAt(drive, folder);
 }
 
@@ -38,7 +38,7 @@ void FilePicker::SetPattern(std::string_view pattern) {
   filSelExe->SetPattern(pattern);
 }
 
-bool FilePicker::ChooseRecording(std::string_view folder) {
+bool FilePicker::ChooseRecording(const DosPath& folder) {
   if (!dirSelExe->SetPath(folder).ok()) return false;
   SetPattern(kRecordings);
   SetCaption("Choose the INP file");
@@ -92,18 +92,18 @@ void FilePicker::Accept() {
     return;
   }
   const Emulator* emulator = FindEmulator(lblSelExeHide);
-  if (emulator != nullptr) WriteFile(*emulator, file);
+  if (emulator != nullptr) WriteFile(*emulator, FileName::Own(file));
   accepted_ = true;
   UnloadWindow();
 }
 
-void FilePicker::WriteFile(const Emulator& emulator, const std::string& file) {
+void FilePicker::WriteFile(const Emulator& emulator, const FileName& file) {
   if (IsForRecording(emulator)) {
     panels_.SetRecording(emulator, file);
     return;
   }
-  const std::string folder = filSelExe->Path();
-  panels_.SetEmulator(emulator, JoinPath(folder, file), folder);
+  const DosPath folder = filSelExe->Path();
+  panels_.SetEmulator(emulator, folder / file, folder);
   panels_.SaveCfg(emulator);
 }
 

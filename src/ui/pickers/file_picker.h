@@ -27,11 +27,11 @@ class FilePicker : public Window {
   std::string lblSelExeHide;
 
   // As FolderPicker::OpenAt.
-  bool OpenAt(char drive, std::string_view folder);
+  bool OpenAt(char drive, const DosPath& folder);
   void SetPattern(std::string_view pattern);
   // The recordings of one folder: pattern, caption, and drive and folder locked. False, with
   // nothing changed, if the folder can't be opened.
-  bool ChooseRecording(std::string_view folder);
+  bool ChooseRecording(const DosPath& folder);
 
   DriveList* drvSelExe;
   FolderList* dirSelExe;
@@ -45,7 +45,7 @@ class FilePicker : public Window {
   void Wire();
   void Accept();
   [[nodiscard]] bool IsForRecording(const Emulator& emulator) const;
-  void WriteFile(const Emulator& emulator, const std::string& file);
+  void WriteFile(const Emulator& emulator, const FileName& file);
 
   PickerPanels& panels_;
   MessageBoxes& boxes_;

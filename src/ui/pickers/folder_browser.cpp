@@ -13,9 +13,9 @@ constexpr int kLineHeight = ToTwips(15);
 constexpr int kButtonWidth = ToTwips(81);
 constexpr int kButtonHeight = ToTwips(24);
 
-void ShowPath(Label& label, const std::string& path) {
-  label.SetCaption(path);
-  label.SetAccessibleName("Open folder: " + path);
+void ShowPath(Label& label, const DosPath& path) {
+  label.SetCaption(path.Text());
+  label.SetAccessibleName("Open folder: " + path.Text());
 }
 
 }  // namespace
@@ -45,7 +45,7 @@ FolderBrowser::FolderBrowser(DriveList& drives, FolderList& folders, FileList& f
   FollowFolder();
 }
 
-bool FolderBrowser::OpenAt(char drive, std::string_view folder) {
+bool FolderBrowser::OpenAt(char drive, const DosPath& folder) {
   const bool drive_is_there = drive == 0 || drives_.SetDrive(drive).ok();
   if (drive_is_there && folders_.SetPath(folder).ok()) return true;
   Ignore(folders_.SetPath(""));
@@ -56,17 +56,17 @@ bool FolderBrowser::OpenAt(char drive, std::string_view folder) {
 // folder, there is nothing left to open.
 void FolderBrowser::OpenDrive() {
   const char letter = drives_.Drive();
-  if (letter == DriveLetter(folders_.Path())) return;
-  if (folders_.SetPath(std::string{letter, ':'}).ok()) return;
-  Ignore(drives_.SetDrive(DriveLetter(folders_.Path())));
+  if (letter == folders_.Path().Drive()) return;
+  if (folders_.SetPath(DosPath(std::string{letter, ':'})).ok()) return;
+  Ignore(drives_.SetDrive(folders_.Path().Drive()));
   files_.Refresh();
   Changed.Raise();
 }
 
 void FolderBrowser::FollowFolder() {
-  const std::string folder = folders_.Path();
+  const DosPath folder = folders_.Path();
   files_.SetPath(folder);
-  Ignore(drives_.SetDrive(DriveLetter(folder)));
+  Ignore(drives_.SetDrive(folder.Drive()));
   ShowPath(path_, folder);
   Changed.Raise();
 }

@@ -33,7 +33,7 @@ class FolderBrowser {
 
   // Opens `folder` on `drive` (0: leave the drive); if either can't be had, the current folder.
   // Returns whether it could.
-  bool OpenAt(char drive, std::string_view folder);
+  bool OpenAt(char drive, const DosPath& folder);
 
   // After the file list was brought up to date.
   Event<> Changed;

@@ -15,7 +15,7 @@ constexpr std::string_view kZipFiles = "*.zip";
 // Which control of a panel a state word means.
 struct Destination {
   std::string (Emulator::*word)() const;
-  void (PickerPanels::*set_folder)(const Emulator& emulator, std::string_view folder);
+  void (PickerPanels::*set_folder)(const Emulator& emulator, const DosPath& folder);
 };
 
 constexpr std::array<Destination, 3> kDestinations = {{
@@ -24,7 +24,7 @@ constexpr std::array<Destination, 3> kDestinations = {{
     {&Emulator::SettingsWord, &PickerPanels::SetGameRomFolder},
 }};
 
-void WriteFolder(PickerPanels& panels, std::string_view word, std::string_view folder) {
+void WriteFolder(PickerPanels& panels, std::string_view word, const DosPath& folder) {
   for (const Emulator& emulator : Emulators()) {
     for (const Destination& destination : kDestinations) {
       if ((emulator.*destination.word)() != word) continue;
@@ -46,7 +46,7 @@ FolderPicker::FolderPicker(DosFiles& files, PickerPanels& panels)
   SetPattern(kZipFiles);
 }
 
-bool FolderPicker::OpenAt(char drive, std::string_view folder) {
+bool FolderPicker::OpenAt(char drive, const DosPath& folder) {
   return browser_->OpenAt(drive, folder);
 }
 

@@ -27,7 +27,7 @@ class FolderPicker : public Window {
 
   // Opens `folder` on `drive` (0: leave the drive); if either can't be had, the current folder.
   // Returns whether it could.
-  bool OpenAt(char drive, std::string_view folder);
+  bool OpenAt(char drive, const DosPath& folder);
   // Pattern in txtPattern and filSelDir.
   void SetPattern(std::string_view pattern);
 

@@ -1,8 +1,6 @@
 // Where the pickers write their results: the controls of the emulators' panels.
 #pragma once
 
-#include <string_view>
-
 #include "core/emulators/emulator.h"
 
 namespace zarvo {
@@ -12,15 +10,15 @@ class PickerPanels {
   virtual ~PickerPanels() = default;
 
   virtual void SetRomFolder(const Emulator& emulator,
-                            std::string_view folder) = 0;  // txtOpt<Emu>RomPath
+                            const DosPath& folder) = 0;  // txtOpt<Emu>RomPath
   virtual void SetSnapFolder(const Emulator& emulator,
-                             std::string_view folder) = 0;  // txtOpt<Emu>Snap
+                             const DosPath& folder) = 0;  // txtOpt<Emu>Snap
   virtual void SetGameRomFolder(const Emulator& emulator,
-                                std::string_view folder) = 0;  // txt<Emu>RomPath
+                                const DosPath& folder) = 0;  // txt<Emu>RomPath
   // txtOpt<Emu>ExePath and lblOpt<Emu>Hide.
-  virtual void SetEmulator(const Emulator& emulator, std::string_view exe_path,
-                           std::string_view folder) = 0;
-  virtual void SetRecording(const Emulator& emulator, std::string_view file) = 0;  // lblHideInp
+  virtual void SetEmulator(const Emulator& emulator, const DosPath& exe_path,
+                           const DosPath& folder) = 0;
+  virtual void SetRecording(const Emulator& emulator, const FileName& file) = 0;  // lblHideInp
   virtual void ClearPlayback(const Emulator& emulator) = 0;  // chk<Emu>Playback goes off
   virtual void SaveCfg(const Emulator& emulator) = 0;
 };

@@ -12,7 +12,7 @@ namespace {
 constexpr int kTickerInterval = 10000;  // milliseconds
 
 // Whether the folder holds a plain file.
-bool HoldsFile(const DosFiles& files, std::string_view folder) {
+bool HoldsFile(const DosFiles& files, const DosPath& folder) {
   const auto entries = files.ListFolder(folder);
   return entries.ok() && std::any_of(entries->begin(), entries->end(),
                                      [](const FolderEntry& entry) { return !entry.is_folder; });
@@ -45,7 +45,7 @@ void MainWindow::StartUp() {
   folders_.ProgramFolder = files_.CurrentFolder();
   lblVersion->SetCaption(ProgramVersion);
   facts.front()->SetCaption(ProgramTitle());
-  if (!HoldsFile(files_, JoinPath(folders_.ProgramFolder, "Cfg"))) {
+  if (!HoldsFile(files_, folders_.ProgramFolder / "Cfg")) {
     boxes_.Inform(ProgramTitle(), WelcomeMessage());
   }
   Ignore(files_.MakeFolder("Cfg"));

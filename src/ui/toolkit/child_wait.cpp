@@ -22,9 +22,9 @@ QStringList ToArguments(const std::vector<std::string>& arguments) {
 
 RunOutcome WaitingRunner::Run(const HostCommand& command) {
   QProcess child;
-  child.setProgram(QFile::decodeName(QByteArray::fromStdString(command.program)));
+  child.setProgram(QFile::decodeName(QByteArray::fromStdString(command.program.native())));
   child.setArguments(ToArguments(command.arguments));
-  child.setWorkingDirectory(QFile::decodeName(QByteArray::fromStdString(command.folder)));
+  child.setWorkingDirectory(QFile::decodeName(QByteArray::fromStdString(command.folder.native())));
   child.setProcessChannelMode(QProcess::MergedChannels);
   child.setInputChannelMode(QProcess::ManagedInputChannel);
   child.setStandardInputFile(QProcess::nullDevice());

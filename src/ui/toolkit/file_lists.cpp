@@ -23,7 +23,7 @@ std::string Indented(std::size_t steps, std::string_view name) {
 DriveList::DriveList(QWidget* parent, DosFiles& files)
     : ComboBox(parent), files_(files), letters_(files.Drives()) {
   for (const char letter : letters_) AddItem(DriveText(letter));
-  Ignore(SetDrive(DriveLetter(files_.CurrentFolder())));
+  Ignore(SetDrive(files_.CurrentFolder().Drive()));
   Click.Connect([this] { Change.Raise(); });
 }
 
@@ -52,35 +52,35 @@ FolderList::FolderList(QWidget* parent, DosFiles& files) : ListBox(parent), file
 }
 
 // The full path of what the player or a file calls a folder: "", "C:", "..", "games\\snap".
-std::string FolderList::FullPath(std::string_view path) {
-  const std::string current = files_.CurrentFolder();
-  const char letter = DriveLetter(path);
-  const std::string_view rest = letter == 0 ? path : path.substr(2);
-  const std::string drive(1, letter == 0 ? current.front() : path.front());
-  if (rest.starts_with('\\') || rest.starts_with('/')) return drive + ":" + std::string(rest);
-  std::string base = current;
+DosPath FolderList::FullPath(const DosPath& path) {
+  const DosPath current = files_.CurrentFolder();
+  const char letter = path.Drive();
+  const std::string rest = path.Text().substr(letter == 0 ? 0 : 2);
+  const std::string drive(1, letter == 0 ? current.Drive() : path.Text().front());
+  if (rest.starts_with('\\') || rest.starts_with('/')) return DosPath(drive + ":" + rest);
+  DosPath base = current;
   // The current folder of a drive is known only to the drive itself.
   if (letter != 0 && files_.ChangeDrive(letter)) {
     base = files_.CurrentFolder();
-    Ignore(files_.ChangeDrive(current.front()));
+    Ignore(files_.ChangeDrive(current.Drive()));
   } else if (letter != 0) {
-    base = drive + ":\\";
+    base = DosPath::Root(drive.front());
   }
-  return JoinPath(base, rest);
+  return DosPath(base.Text() + "\\" + rest);
 }
 
-Status FolderList::SetPath(std::string_view path) {
-  const std::string wanted = FullPath(path);
+Status FolderList::SetPath(const DosPath& path) {
+  const DosPath wanted = FullPath(path);
   const auto entries = files_.ListFolder(wanted);
   if (!entries.ok()) return entries.error();
 
   NameList names;
   targets_.clear();
-  std::string above = std::string(1, wanted.front()) + ":\\";
-  names.Append(above);
+  DosPath above = DosPath::Root(wanted.Text().front());
+  names.Append(above.Text());
   targets_.push_back(above);
-  for (const std::string& component : PathComponents(wanted)) {
-    above = JoinPath(above, component);
+  for (const std::string& component : wanted.Components()) {
+    above = above / FileName::Own(component);
     names.Append(Indented(targets_.size(), component));
     targets_.push_back(above);
   }
@@ -93,7 +93,7 @@ Status FolderList::SetPath(std::string_view path) {
   const std::size_t steps = targets_.size();
   for (const std::string& folder : folders) {
     names.Append(Indented(steps, folder));
-    targets_.push_back(JoinPath(above, folder));
+    targets_.push_back(above / FileName::Own(folder));
   }
   const bool changed = path_ != above;
   path_ = above;
@@ -105,7 +105,7 @@ Status FolderList::SetPath(std::string_view path) {
 
 void FolderList::OpenEntry(int index) {
   if (index < 0) return;
-  const std::string target = targets_[static_cast<std::size_t>(index)];
+  const DosPath target = targets_[static_cast<std::size_t>(index)];
   if (target != path_) Ignore(SetPath(target));
 }
 
@@ -113,7 +113,7 @@ FileList::FileList(QWidget* parent, DosFiles& files) : ListBox(parent), files_(f
   SetSorted(true);
 }
 
-void FileList::SetPath(std::string_view path) {
+void FileList::SetPath(const DosPath& path) {
   path_ = path;
   Refresh();
 }

@@ -31,27 +31,27 @@ class DriveList : public ComboBox {
 class FolderList : public ListBox {
  public:
   FolderList(QWidget* parent, DosFiles& files);
-  [[nodiscard]] std::string Path() const { return path_; }
+  [[nodiscard]] DosPath Path() const { return path_; }
   // Opens a folder and raises Change if it is another one; "" and "C:" are the current folder of
   // the current drive and of that drive, and other paths may start there too. Fails if it can't be
   // read.
-  Status SetPath(std::string_view path);
+  Status SetPath(const DosPath& path);
   Event<> Change;
 
  private:
-  [[nodiscard]] std::string FullPath(std::string_view path);
+  [[nodiscard]] DosPath FullPath(const DosPath& path);
   void OpenEntry(int index);
   DosFiles& files_;
-  std::string path_;
-  std::vector<std::string> targets_;  // full path of each entry
+  DosPath path_;
+  std::vector<DosPath> targets_;  // full path of each entry
 };
 
 // The plain files of a folder under a pattern, sorted.
 class FileList : public ListBox {
  public:
   FileList(QWidget* parent, DosFiles& files);
-  [[nodiscard]] std::string Path() const { return path_; }
-  void SetPath(std::string_view path);
+  [[nodiscard]] DosPath Path() const { return path_; }
+  void SetPath(const DosPath& path);
   [[nodiscard]] std::string Pattern() const { return pattern_; }
   // Patterns separated by ";", "*.zip" or "puckman.zip;pacman.zip".
   void SetPattern(std::string_view pattern);
@@ -60,7 +60,7 @@ class FileList : public ListBox {
 
  private:
   DosFiles& files_;
-  std::string path_;
+  DosPath path_;
   std::string pattern_;
 };
 

@@ -16,15 +16,15 @@ constexpr qint64 kMostPixels = 64'000'000;
 constexpr std::size_t kLargestFile = 64U << 20U;
 
 // What the content says it is; the file's name matters for PNG alone. "" for anything else.
-QByteArray FormatOf(const std::string& bytes, std::string_view path) {
+QByteArray FormatOf(const std::string& bytes, const DosPath& path) {
   if (bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a")) return "gif";
   if (bytes.starts_with("\xFF\xD8\xFF")) return "jpeg";
   if (bytes.starts_with("BM")) return "bmp";
-  if (bytes.starts_with("\x89PNG") && path.ends_with(".png")) return "png";
+  if (bytes.starts_with("\x89PNG") && path.Name().ends_with(".png")) return "png";
   return {};
 }
 
-Result<std::string> ReadPictureFile(const DosFiles& files, std::string_view path) {
+Result<std::string> ReadPictureFile(const DosFiles& files, const DosPath& path) {
   auto source = files.Open(path);
   if (!source.ok()) return source.error();
   std::string bytes;
@@ -51,7 +51,7 @@ Picture Picture::FromResource(const char* name) {
   return picture;
 }
 
-Result<Picture> Picture::FromFile(const DosFiles& files, std::string_view path, int longest_side) {
+Result<Picture> Picture::FromFile(const DosFiles& files, const DosPath& path, int longest_side) {
   auto bytes = ReadPictureFile(files, path);
   if (!bytes.ok()) return bytes.error();
   QByteArray content =

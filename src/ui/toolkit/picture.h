@@ -25,7 +25,7 @@ class Picture {
   // A GIF, JPEG or BMP file, its first frame. Fails for what isn't such a picture, and for one of
   // more than 64 million pixels. Large pictures are brought down while they are read, to at most
   // `longest_side` pixels, so that they neither stall nor bloat the program.
-  static Result<Picture> FromFile(const DosFiles& files, std::string_view path, int longest_side);
+  static Result<Picture> FromFile(const DosFiles& files, const DosPath& path, int longest_side);
 
   [[nodiscard]] bool IsEmpty() const { return !drawing_ && image_.isNull(); }
   // In pixels: what the drawing was made for, or the size of the image.

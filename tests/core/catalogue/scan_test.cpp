@@ -9,12 +9,12 @@ namespace {
 class Scan : public CatalogueTest {
  protected:
   // The number found, or -1 if the scan failed, and the scan file.
-  std::string Run(SetType sets, std::string_view folder = R"(C:\Roms)",
+  std::string Run(SetType sets, const DosPath& folder = R"(C:\Roms)",
                   const Emulator& emulator = kMame) {
     const auto outcome = Catalogue(files_, folders_, emulator).Scan(folder, sets);
     written_ = outcome && outcome->written;
     return std::to_string(outcome ? outcome->found : -1) + " " +
-           files_.BytesOf(R"(C:\Zarvo\cfg\)" + std::string(emulator.ScanFile()));
+           files_.BytesOf(R"(C:\Zarvo\cfg\)" + emulator.ScanFile().Text());
   }
   void PutRoms(const std::vector<std::string>& names) {
     for (const std::string& name : names) files_.Put(R"(C:\Roms\)" + name, "zip");
@@ -69,7 +69,7 @@ TEST_F(Scan, AFolderThatCantBeEnteredIsLookedForInCfg) {
   PutData("A;a;\r\nB;b;\r\n");
   files_.Put(R"(C:\Zarvo\cfg\b.zip)", "");
   for (const auto* folder : {"", R"(C:\Gone)", R"(D:\Gone)", R"(Q:\Roms)"}) {
-    EXPECT_EQ(Run(SetType::kSplit, folder), Bytes("1 'A;N'|'B;Y'|")) << folder;
+    EXPECT_EQ(Run(SetType::kSplit, DosPath(folder)), Bytes("1 'A;N'|'B;Y'|")) << folder;
   }
 }
 

@@ -35,7 +35,7 @@ struct ScriptedPanel {
 
   [[nodiscard]] LaunchRequest Request() const {
     return {.game = "Street Fighter II",
-            .emulator_folder = emulator_folder,
+            .emulator_folder = DosPath(emulator_folder),
             .command = {.emulator_path = emulator_path,
                         .rom_name = "",
                         .options = options,
@@ -81,7 +81,7 @@ class LauncherTest : public testing::Test {
          {std::tuple("C:\\Mine", mine, "mine"), {own_.c_str(), own, "own"}}) {
       drive_.MakeFolder(folder);
       std::istringstream words(names);
-      for (std::string name; words >> name;) drive_.Write(JoinPath(folder, name + ".ZIP"), bytes);
+      for (std::string name; words >> name;) drive_.Write(folder + ("\\" + name) + ".ZIP", bytes);
     }
   }
   void UseMame(const std::string& mine, const std::string& own = "") { Use(kMame, mine, own); }
@@ -97,7 +97,8 @@ class LauncherTest : public testing::Test {
     std::string found;
     const auto run = [&](std::string_view line) {
       EXPECT_EQ(line, "command.com /c lancia.bat");
-      EXPECT_TRUE(EqualNoCase(files.CurrentFolder(), folder_)) << files.CurrentFolder();
+      EXPECT_TRUE(EqualNoCase(files.CurrentFolder().Text(), folder_))
+          << files.CurrentFolder().Text();
       batch_ = drive_.Read(folder_ + "\\lancia.bat");
       found = " with" + Archives();
       return run_result_;
@@ -126,10 +127,10 @@ class LauncherTest : public testing::Test {
 
   [[nodiscard]] std::string Archives() const {
     std::string archives;
-    const auto entries = drive_.files().ListFolder(own_);
+    const auto entries = drive_.files().ListFolder(DosPath(own_));
     for (const FolderEntry& entry : entries ? *entries : std::vector<FolderEntry>()) {
       if (!MatchesPattern(entry.name, "*.zip")) continue;
-      archives += " " + entry.name + "=" + drive_.Read(JoinPath(own_, entry.name));
+      archives += " " + entry.name + "=" + drive_.Read(own_ + "\\" + entry.name);
     }
     return archives;
   }
@@ -221,7 +222,7 @@ TEST_F(LauncherTest, OtherSpellingsOfTheOwnFolderAreTheOwnFolder) {
 TEST_F(LauncherTest, AnArchiveThatAppearsDuringTheCopyIsLeftAlone) {
   struct Appearing : FailingFiles {
     using FailingFiles::FailingFiles;
-    Status RenameFile(std::string_view from, std::string_view to) override {
+    Status RenameFile(const DosPath& from, const DosPath& to) override {
       Ignore(DosWorld::WriteFile(to, "the player's"));
       return FailingFiles::RenameFile(from, to);
     }
@@ -330,13 +331,13 @@ TEST_F(LauncherTest, WhatCannotBeRemovedAfterTheRunIsTold) {
 TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
   UseMame("sf2");
   drive_.MakeFolder(own_);
-  const std::string copy = JoinPath(own_, "sf2.zip");
-  const std::string half = JoinPath(own_, "zarvo.$$$");
+  const DosPath copy(own_ + "\\sf2.zip");
+  const DosPath half(own_ + "\\zarvo.$$$");
   for (int steps = 1; steps <= 5; ++steps) {
     {
       LaunchNotes cut_off(drive_.files(), folders_.ProgramFolder);
       ASSERT_TRUE(cut_off.AddWork(half).ok());
-      if (steps >= 2) drive_.Write(half, "ha");
+      if (steps >= 2) drive_.Write(half.Text(), "ha");
       if (steps >= 3) {
         ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(half).value()).ok());
       }
@@ -344,22 +345,22 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
         ASSERT_TRUE(drive_.files().RenameFile(half, copy).ok());
       }
       if (steps >= 5) {
-        ASSERT_TRUE(cut_off.AddWork(folder_ + "\\lancia.bat").ok());
+        ASSERT_TRUE(cut_off.AddWork(DosPath(folder_ + "\\lancia.bat")).ok());
         drive_.Write(folder_ + "\\lancia.bat", "half");
       }
     }
-    if (steps == 3) drive_.Write(copy, "of the player");
+    if (steps == 3) drive_.Write(copy.Text(), "of the player");
     const std::string stays = steps == 3 ? " sf2.zip=of the player" : "";
     LaunchNotes(drive_.files(), folders_.ProgramFolder).Settle();
     EXPECT_EQ(Archives(), stays) << steps;
-    EXPECT_FALSE(drive_.Exists(half) || drive_.Exists(folder_ + "\\lancia.bat")) << steps;
+    EXPECT_FALSE(drive_.Exists(half.Text()) || drive_.Exists(folder_ + "\\lancia.bat")) << steps;
     EXPECT_FALSE(drive_.Exists("C:\\Zarvo\\running.dat")) << steps;
-    std::filesystem::remove(drive_.Host(copy));
+    std::filesystem::remove(drive_.Host(copy.Text()));
   }
   // The next start of the game takes the copy for what it is.
   {
     LaunchNotes cut_off(drive_.files(), folders_.ProgramFolder);
-    drive_.Write(copy, "mine");
+    drive_.Write(copy.Text(), "mine");
     ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(copy).value()).ok());
   }
   const std::string before = Archives();

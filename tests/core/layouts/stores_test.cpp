@@ -176,7 +176,7 @@ TEST(Stores, AreWrittenFlushedAndRenamedAndAnyStepMayFail) {
           }
           EXPECT_EQ(site.Text(), before) << kind.file << step;
           EXPECT_EQ(saved.error().message,
-                    std::string(FileName(kind.file)) + ": " + std::string(reason));
+                    std::string(DosPath(kind.file).Name()) + ": " + std::string(reason));
           HostFault::at = 0;
           EXPECT_TRUE(hands.save()) << "a failed save can be tried again";
         }
@@ -255,9 +255,10 @@ TEST(Stores, WhatCouldNotBeReadIsNotOverwrittenUntilItWasRead) {
       for (int twice = 0; twice < 2; ++twice) {
         const Status saved = hands.save();
         ASSERT_FALSE(saved) << kind.file << trouble.name;
-        EXPECT_THAT(saved.error().message,
-                    testing::AllOf(testing::StartsWith(std::string(FileName(kind.file)) + ": "),
-                                   testing::HasSubstr("stays as it is")));
+        EXPECT_THAT(
+            saved.error().message,
+            testing::AllOf(testing::StartsWith(std::string(DosPath(kind.file).Name()) + ": "),
+                           testing::HasSubstr("stays as it is")));
         ASSERT_EQ(site.Text(), kOld) << trouble.name;
       }
       EXPECT_TRUE(hands.load()) << kind.file << trouble.name;

@@ -21,10 +21,10 @@ const char* const kDosProgram = "MZ a program of DOS";
 
 // A host that has the programs of these names, each at "/bin/".
 HostPrograms Host(const std::string& programs) {
-  const auto find = [programs](std::string_view name) -> std::optional<std::string> {
+  const auto find = [programs](std::string_view name) -> std::optional<std::filesystem::path> {
     const bool has =
         (" " + programs + " ").find(" " + std::string(name) + " ") != std::string::npos;
-    return has ? std::optional("/bin/" + std::string(name)) : std::nullopt;
+    return has ? std::optional(std::filesystem::path("/bin") / name) : std::nullopt;
   };
   return {find};
 }
@@ -34,7 +34,7 @@ class RunTest : public testing::Test {
  protected:
   void Batch(const std::string& folder, const std::string& line) {
     drive_.Write(folder + "\\lancia.bat", line + "\r\n");
-    ASSERT_TRUE(drive_.files().ChangeFolder(folder).ok());
+    ASSERT_TRUE(drive_.files().ChangeFolder(DosPath(folder)).ok());
   }
   void Native(const std::string& path, std::string_view text) {
     drive_.Write(path, text);
@@ -105,7 +105,7 @@ TEST_F(RunTest, ANativeProgramRunsWithoutAShellAndSeesItsWordsAndItsFolder) {
   Batch("C:\\Emu\\My Mame", "C:\\Emu\\My Mame\\run.sh  caf\xE9 $(reboot);  * -x ");
   Native("C:\\Emu\\My Mame\\run.sh", "#!/bin/sh\nprintf '%s|' \"$@\" > out\nexit 7\n");
   const auto plan = Plan(Host(""));
-  EXPECT_EQ(plan->configuration + plan->configuration_path, "");
+  EXPECT_EQ(plan->configuration + plan->configuration_path.native(), "");
   const auto outcome = CarryOut(*plan, runner_);
   EXPECT_TRUE(outcome->started);
   EXPECT_EQ(outcome->exit_code, 7);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <filesystem>
+#include <type_traits>
 
 namespace zarvo {
 namespace {
@@ -12,12 +14,11 @@ using namespace std::string_view_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(DosPath, IsPutTogetherAndTakenApart) {
-  EXPECT_EQ(JoinPath("C:\\", "a"), "C:\\a");
-  EXPECT_EQ(JoinPath("C:\\Emu", "a"), "C:\\Emu\\a");
-  EXPECT_EQ(JoinPath("C:", "a"), "C:\\a");
-  EXPECT_EQ(JoinPath("", "a"), "a");
-  const std::array<const char*, 3> cases[] = {
+TEST(DosPathTest, IsPutTogetherAndTakenApart) {
+  const std::pair<DosPath, const char*> folders[] = {
+      {"C:\\", "C:\\a"}, {"C:\\Emu", "C:\\Emu\\a"}, {"C:", "C:\\a"}, {"", "a"}};
+  for (const auto& [folder, path] : folders) EXPECT_EQ((folder / "a").Text(), path);
+  const std::array<std::string, 3> cases[] = {
       {"C:\\Emu\\Mame.exe", "C:\\Emu", "Mame.exe"},
       {"C:\\Mame.exe", "C:\\", "Mame.exe"},
       {"\\Mame.exe", "\\", "Mame.exe"},
@@ -27,29 +28,50 @@ TEST(DosPath, IsPutTogetherAndTakenApart) {
       {"", "", ""},
   };
   for (const auto& [path, folder, name] : cases) {
-    EXPECT_EQ(ParentFolder(path), folder) << path;
-    EXPECT_EQ(FileName(path), name) << path;
+    EXPECT_EQ(DosPath(path).Folder().Text(), folder) << path;
+    EXPECT_EQ(DosPath(path).Name(), name) << path;
   }
 }
 
-TEST(DosPath, ADriveIsALetterAndAColon) {
-  EXPECT_EQ(DriveLetter("c:\\emu"), 'C');
-  EXPECT_EQ(DriveLetter("Z:"), 'Z');
-  for (const char* path : {"", "C", "\\C:", "1:\\", "[:", "\xE9:\\"}) {
-    EXPECT_EQ(DriveLetter(path), 0) << path;
+TEST(DosPathTest, ADriveIsALetterAndAColon) {
+  EXPECT_EQ(DosPath("c:\\emu").Drive(), 'C');
+  EXPECT_EQ(DosPath("Z:").Drive(), 'Z');
+  for (const std::string path : {"", "C", "\\C:", "1:\\", "[:", "\xE9:\\"}) {
+    EXPECT_EQ(DosPath(path).Drive(), 0) << path;
   }
 }
 
-TEST(DosPath, ComponentsNeverClimbAboveTheRoot) {
-  EXPECT_THAT(PathComponents("C:\\Emu\\\\Mame\\.\\roms\\"), ElementsAre("Emu", "Mame", "roms"));
-  EXPECT_THAT(PathComponents("Emu/Mame"), ElementsAre("Emu", "Mame"));
-  EXPECT_THAT(PathComponents("C:\\Emu\\..\\Zarvo"), ElementsAre("Zarvo"));
-  EXPECT_THAT(PathComponents("C:\\..\\..\\etc\\..\\..\\a"), ElementsAre("a"));
-  EXPECT_THAT(PathComponents("C:\\..\\/..\\"), IsEmpty());
-  EXPECT_THAT(PathComponents("...\\.. "), ElementsAre("...", ".. "));
+TEST(DosPathTest, ComponentsNeverClimbAboveTheRoot) {
+  const auto parts = [](const DosPath& path) { return path.Components(); };
+  EXPECT_THAT(parts("C:\\Emu\\\\Mame\\.\\roms\\"), ElementsAre("Emu", "Mame", "roms"));
+  EXPECT_THAT(parts("Emu/Mame"), ElementsAre("Emu", "Mame"));
+  EXPECT_THAT(parts("C:\\Emu\\..\\Zarvo"), ElementsAre("Zarvo"));
+  EXPECT_THAT(parts("C:\\..\\..\\etc\\..\\..\\a"), ElementsAre("a"));
+  EXPECT_THAT(parts("C:\\..\\/..\\"), IsEmpty());
+  EXPECT_THAT(parts("...\\.. "), ElementsAre("...", ".. "));
 }
 
-TEST(DosPath, KnowsWhatDosCanName) {
+// A path of DOS, one of the host and a bare name are never taken for each other.
+TEST(DosPathTest, TheKindsOfPathsStayApart) {
+  using Host = std::filesystem::path;
+  static_assert(!std::is_convertible_v<Host, DosPath> && !std::is_convertible_v<DosPath, Host>);
+  static_assert(!std::is_convertible_v<std::string, DosPath>);
+  static_assert(!std::is_convertible_v<std::string, FileName>);
+  static_assert(!std::is_convertible_v<DosPath, FileName>);
+  static_assert(!std::is_convertible_v<DosPath, std::string>);
+  for (const std::string name : {"a.zip", "My game (set 1).zip", "\xC9lan", ".."}) {
+    EXPECT_TRUE(FileName::Of(name)) << name;
+  }
+  for (const std::string name :
+       {"", "a\\b", "a/b", "C:a", "a*", "a?", "a\"", "<", ">", "|", "\n"}) {
+    EXPECT_FALSE(FileName::Of(name)) << name;
+    EXPECT_FALSE(FileName::Plain(name)) << name;
+  }
+  EXPECT_FALSE(FileName::Plain(".."));
+  EXPECT_EQ(FileName::Plain("sf2")->With(".zip").Text(), "sf2.zip");
+}
+
+TEST(DosPathTest, KnowsWhatDosCanName) {
   for (const char* name : {"A", "MAME.EXE", "12345678.123", "m72", "PUCKMA~1.ZIP", "a_b-c!.$&#"}) {
     EXPECT_TRUE(IsDosName(name)) << name;
   }
@@ -62,7 +84,7 @@ TEST(DosPath, KnowsWhatDosCanName) {
   }
 }
 
-TEST(DosPath, KnowsNamesThatCannotLeadElsewhere) {
+TEST(DosPathTest, KnowsNamesThatCannotLeadElsewhere) {
   for (const char* name : {"puckman", "1942", "neo-geo", "a.b.c", "street_fighter_2", "com", "com0",
                            "contra", "caf\xE9", ".hidden", "a~1", "a+b#"}) {
     EXPECT_TRUE(IsPlainName(name)) << name;
@@ -75,7 +97,7 @@ TEST(DosPath, KnowsNamesThatCannotLeadElsewhere) {
   }
 }
 
-TEST(DosPath, PatternsMatchAsInAFileList) {
+TEST(DosPathTest, PatternsMatchAsInAFileList) {
   const auto matches = [](std::string_view both) {  // the name, a colon, the patterns
     const std::size_t colon = both.find(':');
     return MatchesPattern(both.substr(0, colon), both.substr(colon + 1));
@@ -91,7 +113,7 @@ TEST(DosPath, PatternsMatchAsInAFileList) {
   }
 }
 
-TEST(DosPath, APatternOfManyStarsEndsSoon) {
+TEST(DosPathTest, APatternOfManyStarsEndsSoon) {
   std::string pattern;
   for (int count = 0; count < 200; ++count) pattern += "*a";
   EXPECT_FALSE(MatchesPattern(std::string(20000, 'a') + "b", pattern));

@@ -46,7 +46,7 @@ struct HugeFiles : DosWorld {
     }
   };
   using DosWorld::DosWorld;
-  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(std::string_view /*path*/) const override {
+  [[nodiscard]] Result<std::unique_ptr<ByteSource>> Open(const DosPath& /*path*/) const override {
     return std::unique_ptr<ByteSource>(std::make_unique<Source>());
   }
 };
@@ -54,7 +54,7 @@ struct HugeFiles : DosWorld {
 class DosWorldTest : public testing::Test {
  protected:
   // The names in a folder as DOS has them, a folder's with a backslash.
-  std::set<std::string> List(std::string_view path) {
+  std::set<std::string> List(const DosPath& path) {
     std::set<std::string> names;
     for (const FolderEntry& entry : files_.ListFolder(path).value()) {
       names.insert(entry.name + (entry.is_folder ? "\\" : ""));
@@ -69,7 +69,7 @@ class DosWorldTest : public testing::Test {
     }
     return names;
   }
-  std::string Replace(std::string_view path, std::string_view temporary, std::string_view bytes) {
+  std::string Replace(const DosPath& path, const DosPath& temporary, std::string_view bytes) {
     const Status done = files_.ReplaceFile(path, temporary, bytes);
     return done ? "done" : done.error().message;
   }
@@ -85,27 +85,28 @@ TEST_F(DosWorldTest, EveryDriveKeepsItsOwnFolder) {
   drive_.MakeFolder("C:\\Emu\\Mame\\roms");
   ASSERT_TRUE(world.ChangeFolder("c:\\zarvo\\DATA").ok());
   ASSERT_TRUE(world.ChangeFolder("D:mame").ok());
-  EXPECT_EQ(world.CurrentFolder(), "C:\\Zarvo\\Data") << "another drive's folder moved the drive";
+  EXPECT_EQ(world.CurrentFolder().Text(), "C:\\Zarvo\\Data")
+      << "another drive's folder moved the drive";
   EXPECT_EQ(world.HostPath("D:x").value(), drive_.Host("C:\\Emu\\Mame\\x"));
   EXPECT_EQ(world.HostPath("D:\\x").value(), drive_.Host("C:\\Emu\\x"));
 
   ASSERT_TRUE(world.ChangeDrive('d').ok());
   ASSERT_TRUE(world.ChangeFolder("roms").ok());
-  EXPECT_EQ(world.CurrentFolder(), "D:\\Mame\\roms");
+  EXPECT_EQ(world.CurrentFolder().Text(), "D:\\Mame\\roms");
   ASSERT_TRUE(world.ChangeFolder("..\\..").ok());
-  EXPECT_EQ(world.CurrentFolder(), "D:\\");
+  EXPECT_EQ(world.CurrentFolder().Text(), "D:\\");
   EXPECT_EQ(world.HostPath("C:x").value(), drive_.Host("C:\\Zarvo\\Data\\x"));
 }
 
 TEST_F(DosWorldTest, AChangeThatFailsChangesNothing) {
   drive_.Write("C:\\Zarvo\\file", "");
   for (const char* path : {"file", "nowhere", "Q:\\", "Data\\nowhere", "D*"}) {
-    EXPECT_FALSE(files_.ChangeFolder(path).ok()) << path;
+    EXPECT_FALSE(files_.ChangeFolder(DosPath(path)).ok()) << path;
   }
   EXPECT_EQ(files_.ChangeDrive('q').error().message, "There is no drive Q:");
   EXPECT_FALSE(files_.ChangeDrive('\0').ok());
   EXPECT_TRUE(files_.ChangeFolder("").ok());
-  EXPECT_EQ(files_.CurrentFolder(), "C:\\Zarvo");
+  EXPECT_EQ(files_.CurrentFolder().Text(), "C:\\Zarvo");
 }
 
 TEST_F(DosWorldTest, NamesMatchInAnyCaseInEveryComponent) {
@@ -114,7 +115,7 @@ TEST_F(DosWorldTest, NamesMatchInAnyCaseInEveryComponent) {
   WriteHost(root_ / "eMu/MÄME/Größ.ZIP", "found");
   EXPECT_TRUE(files_.FolderExists("c:/emu/M\xC4ME/"));
   const std::string file = "C:\\EMU\\m\xE4me\\GR\xD6\xDF.zip";
-  EXPECT_FALSE(files_.FolderExists(file));
+  EXPECT_FALSE(files_.FolderExists(DosPath(file)));
   EXPECT_EQ(drive_.Read(file), "found");
   EXPECT_FALSE(files_.FileExists("C:\\emu\\m\xE4me\\gr\xF6ss.zip"));
   EXPECT_FALSE(files_.FileExists("C:\\emu\\m\xE4me")) << "a folder is no file";
@@ -132,11 +133,11 @@ TEST_F(DosWorldTest, NoPathLeavesItsDrive) {
   outside.Write("C:\\secret", "");
   const std::string up = "..\\..\\..\\..\\..\\..\\..\\..";
   const std::string secret = outside.root().string() + "/secret";
-  EXPECT_FALSE(files_.FileExists("C:\\" + up + secret));
-  EXPECT_FALSE(files_.FileExists("C:\\Emu/../../../../../../../../.." + secret));
+  EXPECT_FALSE(files_.FileExists(DosPath("C:\\" + up + secret)));
+  EXPECT_FALSE(files_.FileExists(DosPath("C:\\Emu/../../../../../../../../.." + secret)));
   EXPECT_EQ(drive_.Host("C:\\" + up), root_);
   // The host would end such a name at the zero, and climb.
-  EXPECT_FALSE(files_.HostPath(std::string_view("C:\\..\0x", 7)).ok());
+  EXPECT_FALSE(files_.HostPath(DosPath(std::string_view("C:\\..\0x", 7))).ok());
 }
 
 TEST_F(DosWorldTest, WhatAPathCannotSayIsNeitherListedNorMade) {
@@ -200,8 +201,8 @@ TEST_F(DosWorldTest, ReplaceFileKeepsTheHostsNameModeAndLink) {
 }
 
 TEST_F(DosWorldTest, AReplacementThatFailsKeepsTheOldFileAndNoTemporaryOne) {
-  const std::string_view cfg = "cfg\\Mame.cfg";
-  drive_.Write(cfg, "old");
+  const DosPath cfg = "cfg\\Mame.cfg";
+  drive_.Write(cfg.Text(), "old");
   const std::string text(5000, 'n');
   EXPECT_EQ(OnFullDisk(1000, [&] { return files_.ReplaceFile(cfg, "cfg\\Mame.tmp", text); }),
             "File too large");
@@ -210,7 +211,7 @@ TEST_F(DosWorldTest, AReplacementThatFailsKeepsTheOldFileAndNoTemporaryOne) {
   drive_.MakeFolder("cfg\\Raine.cfg");
   EXPECT_EQ(Replace("cfg\\Raine.cfg", "cfg\\Raine.tmp", text), "Is a directory");
   EXPECT_THAT(List("cfg"), ElementsAre("Mame.cfg", "Raine.cfg\\"));
-  EXPECT_EQ(drive_.Read(cfg), "old");
+  EXPECT_EQ(drive_.Read(cfg.Text()), "old");
 }
 
 TEST_F(DosWorldTest, NothingIsWrittenThroughALink) {

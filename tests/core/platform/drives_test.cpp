@@ -53,7 +53,7 @@ TEST(ProgramFolder, ItsTableSaysWhatTheDrivesAre) {
   const std::string folder = (drive.root() / "Zarvo/").string();
   const auto bare = DosWorld::ForProgramFolder(folder);
   ASSERT_TRUE(bare.ok()) << bare.error().message;
-  EXPECT_EQ(bare->CurrentFolder(), "C:\\Zarvo");
+  EXPECT_EQ(bare->CurrentFolder().Text(), "C:\\Zarvo");
   EXPECT_THAT(bare->Drives(), ElementsAre('C', 'H'));
   EXPECT_EQ(bare->HostPath("\\emu").value(), drive.Host("C:\\Emu"));
   EXPECT_EQ(bare->DriveFolder('H').value(), "/");
@@ -61,7 +61,7 @@ TEST(ProgramFolder, ItsTableSaysWhatTheDrivesAre) {
   drive.Write("C:\\Zarvo\\Drives.INI", "D = ..\nE = ../Emu\n");
   const auto world = DosWorld::ForProgramFolder(folder);
   ASSERT_TRUE(world.ok()) << world.error().message;
-  EXPECT_EQ(world->CurrentFolder(), "D:\\Zarvo");
+  EXPECT_EQ(world->CurrentFolder().Text(), "D:\\Zarvo");
   EXPECT_EQ(world->HostPath("E:\\a").value(), drive.Host("C:\\Emu\\a"));
 
   for (const auto& [table, message] : {std::pair("C = /\n?\n", "Line 2"),
@@ -118,7 +118,7 @@ TEST(DosPathOf, TheLongestMatchingFolderTellsTheDrive) {
       {"/", "H:\\"},
       {"/home/me/caf\xC3\xA9", "E:\\caf\xE9"},
   };
-  for (const auto& [host, dos] : cases) EXPECT_EQ(world.DosPathOf(host).value(), dos) << host;
+  for (const auto& [host, dos] : cases) EXPECT_EQ(world.DosPathOf(host).value().Text(), dos) << host;
 
   const DosWorld one({{'C', "/home/me"}});
   for (const char* path :
@@ -132,8 +132,8 @@ TEST(DosPathOf, ADriveBehindALinkIsRecognised) {
   TempDrive drive;
   std::filesystem::create_directory_symlink(drive.root() / "Emu", drive.root() / "link");
   const DosWorld world({{'C', (drive.root() / "link").string()}, {'H', "/"}});
-  EXPECT_EQ(world.DosPathOf((drive.root() / "Emu/Mame").string()).value(), "C:\\Mame");
-  EXPECT_EQ(world.DosPathOf((drive.root() / "link/Mame").string()).value(), "C:\\Mame");
+  EXPECT_EQ(world.DosPathOf((drive.root() / "Emu/Mame").string()).value().Text(), "C:\\Mame");
+  EXPECT_EQ(world.DosPathOf((drive.root() / "link/Mame").string()).value().Text(), "C:\\Mame");
 }
 
 }  // namespace

@@ -198,7 +198,7 @@ class PanelTest : public testing::Test {
   Status Run(std::string_view command_line) {
     EXPECT_EQ(command_line, "command.com /c lancia.bat");
     const auto batch = ReadAll(files_, "lancia.bat");
-    runs_.push_back(files_.CurrentFolder() + "> " + (batch ? *batch : "(no batch file)"));
+    runs_.push_back(files_.CurrentFolder().Text() + "> " + (batch ? *batch : "(no batch file)"));
     if (during_run_) during_run_();
     return Success();
   }

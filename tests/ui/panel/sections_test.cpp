@@ -50,7 +50,7 @@ TEST_F(SectionsTest, ASectionOpensOnItsFirstFavouriteOrItsFirstGame) {
 TEST_F(SectionsTest, WithoutADataFileNothingOpens) {
   for (const Emulator& emulator : kTested) {
     SCOPED_TRACE(emulator.word);
-    std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + std::string(emulator.DataFile())));
+    std::filesystem::remove(drive_.Host(R"(C:\Zarvo\Data\)" + emulator.DataFile().Text()));
     sections_.OpenSection(emulator);
     EXPECT_THAT(TakeBoxes(),
                 ElementsAre("! Warning! It could not be found the data-file in the directory "

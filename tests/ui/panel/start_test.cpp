@@ -171,7 +171,8 @@ TEST_F(StartTest, WhatIsMissingLeadsToItsPicker) {
     sections_.CloseOpenPanels();
     PutEmulator(emulator, "other");
     const ModalPlay<FolderPicker> play([&](FolderPicker& picker) {
-      shown = picker.lblSelDirHide + " " + picker.Caption() + " at " + picker.dirSelDir->Path();
+      shown =
+          picker.lblSelDirHide + " " + picker.Caption() + " at " + picker.dirSelDir->Path().Text();
       EXPECT_THAT(picker.Caption(), testing::HasSubstr("(" + picker.txtPattern->Text() + ")"));
       picker.OpenAt('C', R"(C:\Found)");
       picker.cmdSeleziona->click();
@@ -240,11 +241,11 @@ TEST_F(StartTest, ThePickersOfTheConfigurationPage) {
   for (const Case& at : cases) {
     drive_.Write(CfgPath(at.emulator), Lines(Split(at.cfg, "|")));
     EmulatorPanel& panel = Open(at.emulator);
-    const std::string current = files_.CurrentFolder();
+    const std::string current = files_.CurrentFolder().Text();
     std::string shown;
     const auto show = [&](const std::string& word, const TextBox* pattern,
                           const FolderList* folders) {
-      const std::string folder = folders->Path();
+      const std::string folder = folders->Path().Text();
       shown = word + " " + pattern->Text() + " " + (folder == current ? "here" : folder);
     };
     if (at.button == exe) {
@@ -278,8 +279,8 @@ TEST_F(StartTest, WhatThePickersWrite) {
   EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\G)");
   const std::string odd[] = {R"(C:\a,b)", R"(C:\a~b)", R"(C:\)" + std::string(88, 'x')};
   for (const std::string& folder : odd) {
-    sections_.SetRomFolder(kCallus, folder);
-    sections_.SetGameRomFolder(kCallus, folder);
+    sections_.SetRomFolder(kCallus, DosPath(folder));
+    sections_.SetGameRomFolder(kCallus, DosPath(folder));
     EXPECT_EQ(TakeBoxes(), std::vector(2, "! " + folder +
                                               "|This folder can't be kept in the settings of a "
                                               "game. Please choose one without comma, tilde and "
@@ -288,7 +289,7 @@ TEST_F(StartTest, WhatThePickersWrite) {
     EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), R"(C:\G)");
   }
   const std::string longest = R"(C:\)" + std::string(87, 'x');
-  sections_.SetGameRomFolder(kCallus, longest);
+  sections_.SetGameRomFolder(kCallus, DosPath(longest));
   EXPECT_EQ(panel.pages->picSettings->txtRomPath->Text(), longest);
 }
 

@@ -15,21 +15,21 @@ namespace {
 // Panels that write down what a picker tells them.
 class RecordingPanels : public PickerPanels {
  public:
-  void SetRomFolder(const Emulator& emulator, std::string_view folder) override {
-    Note("rom", emulator, folder);
+  void SetRomFolder(const Emulator& emulator, const DosPath& folder) override {
+    Note("rom", emulator, folder.Text());
   }
-  void SetSnapFolder(const Emulator& emulator, std::string_view folder) override {
-    Note("snap", emulator, folder);
+  void SetSnapFolder(const Emulator& emulator, const DosPath& folder) override {
+    Note("snap", emulator, folder.Text());
   }
-  void SetGameRomFolder(const Emulator& emulator, std::string_view folder) override {
-    Note("game", emulator, folder);
+  void SetGameRomFolder(const Emulator& emulator, const DosPath& folder) override {
+    Note("game", emulator, folder.Text());
   }
-  void SetEmulator(const Emulator& emulator, std::string_view exe_path,
-                   std::string_view folder) override {
-    Note("exe", emulator, std::string(exe_path) + " in " + std::string(folder));
+  void SetEmulator(const Emulator& emulator, const DosPath& exe_path,
+                   const DosPath& folder) override {
+    Note("exe", emulator, exe_path.Text() + " in " + folder.Text());
   }
-  void SetRecording(const Emulator& emulator, std::string_view file) override {
-    Note("recording", emulator, file);
+  void SetRecording(const Emulator& emulator, const FileName& file) override {
+    Note("recording", emulator, file.Text());
   }
   void ClearPlayback(const Emulator& emulator) override { Note("playback", emulator, "off"); }
   void SaveCfg(const Emulator& emulator) override { Note("save", emulator, "."); }
@@ -151,7 +151,7 @@ TEST_F(FilePickerTest, GivingUpTurnsPlaybackOffOnlyForRecordings) {
 TEST_F(FolderPickerTest, FilesAndCountFollowFolderAndPattern) {
   FolderPicker picker(drive_.files(), panels_);
   const auto state = [&] {
-    return picker.drvSelDir->Drive() + (" " + picker.dirSelDir->Path()) + " " +
+    return picker.drvSelDir->Drive() + (" " + picker.dirSelDir->Path().Text()) + " " +
            picker.txtPattern->Text() + " " + picker.lblCount->Caption();
   };
   EXPECT_EQ(picker.Caption(), "Choose Directory");
@@ -244,7 +244,7 @@ TEST_F(FolderPickerTest, ALongPathIsToldWhole) {
   const std::string deep = R"(C:\Emu\)" + std::string(60, 'd') + R"(\roms)";
   drive_.MakeFolder(deep);
   FolderPicker picker(drive_.files(), panels_);
-  ASSERT_TRUE(picker.OpenAt(0, deep));
+  ASSERT_TRUE(picker.OpenAt(0, DosPath(deep)));
   const auto* path = dynamic_cast<Label*>(picker.findChild<QWidget*>(QStringLiteral("lblPath")));
   ASSERT_NE(path, nullptr);
   EXPECT_EQ(path->Caption(), deep);

@@ -26,9 +26,9 @@ class FileListsTest : public testing::Test {
 
 TEST_F(FileListsTest, AFolderListShowsTheWayAndWhatLiesBelow) {
   FolderList folders(&stage, drive.files());
-  EXPECT_EQ(folders.Path(), R"(C:\Zarvo)") << "the current folder at first";
+  EXPECT_EQ(folders.Path().Text(), R"(C:\Zarvo)") << "the current folder at first";
   std::string log;
-  folders.Change.Connect([&] { log += folders.Path() + " "; });
+  folders.Change.Connect([&] { log += folders.Path().Text() + " "; });
   EXPECT_TRUE(folders.SetPath(R"(C:\Emu)").ok());
   EXPECT_EQ(EntriesOf(folders), R"(C:\|[  Emu]|    Callus|    mame|)");
   EXPECT_TRUE(folders.SetPath(R"(C:\Emu\)").ok());
@@ -37,13 +37,13 @@ TEST_F(FileListsTest, AFolderListShowsTheWayAndWhatLiesBelow) {
   EXPECT_EQ(EntriesOf(folders), R"([C:\]|  Emu|  Zarvo|)");
   log.clear();
   for (const char* path : {R"(C:\nowhere)", R"(C:\Emu\mame\pacman.zip)", "Q:", R"(Q:\)", "no"}) {
-    EXPECT_FALSE(folders.SetPath(path).ok()) << path;
+    EXPECT_FALSE(folders.SetPath(DosPath(path)).ok()) << path;
   }
-  EXPECT_EQ(folders.Path() + log, R"(C:\)") << "it stays where it is";
+  EXPECT_EQ(folders.Path().Text() + log, R"(C:\)") << "it stays where it is";
 }
 
 TEST_F(FileListsTest, PathsMayStartAtTheCurrentFolderOfADrive) {
-  DosWorld world({{'C', drive.root().string()}, {'D', (drive.root() / "Emu").string()}});
+  DosWorld world({{'C', drive.root()}, {'D', drive.root() / "Emu"}});
   ASSERT_TRUE(world.ChangeFolder(R"(D:\mame)").ok());
   ASSERT_TRUE(world.ChangeFolder(R"(C:\Zarvo)").ok());
   FolderList folders(&stage, world);
@@ -54,9 +54,9 @@ TEST_F(FileListsTest, PathsMayStartAtTheCurrentFolderOfADrive) {
   };
   for (const auto& [path, full] : cases) {
     EXPECT_TRUE(folders.SetPath(R"(C:\)").ok());
-    EXPECT_TRUE(folders.SetPath(path).ok()) << path;
-    EXPECT_EQ(folders.Path(), full) << path;
-    EXPECT_EQ(world.CurrentFolder(), R"(C:\Zarvo)") << "nothing moves the current folder";
+    EXPECT_TRUE(folders.SetPath(DosPath(path)).ok()) << path;
+    EXPECT_EQ(folders.Path().Text(), full) << path;
+    EXPECT_EQ(world.CurrentFolder().Text(), R"(C:\Zarvo)") << "nothing moves the current folder";
   }
 }
 
@@ -99,7 +99,7 @@ TEST_F(FileListsTest, ADriveListFollowsALetterAndTellsAChange) {
   EXPECT_FALSE(drives.SetDrive('X').ok());
   drives.SetListIndex(1);
   EXPECT_EQ(changes, "CH");
-  EXPECT_EQ(world.CurrentFolder(), R"(H:\)") << "it only shows";
+  EXPECT_EQ(world.CurrentFolder().Text(), R"(H:\)") << "it only shows";
 }
 
 }  // namespace
