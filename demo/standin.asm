@@ -1,6 +1,7 @@
 ; The stand-in emulator of the demo drive: a DOS program that shows what an emulator would have
-; been started with. It writes its command tail into CMDLINE.TXT in the current folder, draws a
-; screen, and ends on a key, after four seconds, or after one frame if QUICK.TXT lies there.
+; been started with. It writes its command line into CMDLINE.TXT in the current folder, draws a
+; screen, and ends on a key, after four seconds, or after one frame if QUICK.TXT lies there. It takes
+; a long line as programs built with DJGPP do, and says so by the mark of their loader.
 ;
 ; Assemble with exactly one of -DMAME -DCALLUS -DRAINE -DSYSTEM16 -DM72:
 ;   nasm -f bin -DMAME -o Mame.exe standin.asm
@@ -141,9 +142,13 @@ header:
         dw 0x1c, 0
         times 32 - ($ - header) db 0
 
+        jmp     start
+        db      'go32stub'
+
 start:
         cld
-        call    write_command_tail
+        call    find_line
+        call    write_line
         mov     ax, 0x13
         int     0x10
         call    set_palette
@@ -164,17 +169,62 @@ start:
 
 ; --- files --------------------------------------------------------------------------------------
 
-; The tail goes out byte for byte, without its length and without the carriage return behind it.
-write_command_tail:
+; The command line behind the program's name, with the blank that it begins with: the tail of the
+; PSP, or, where its length is 127, what stands in the variable CMDLINE behind the name there.
+find_line:
+        movzx   cx, byte [0x80]
+        mov     [line_size], cx
+        mov     si, 0x81
+        mov     di, line_text
+        cmp     cx, 127
+        je      .long
+        rep movsb
+        ret
+.long:  mov     ds, [0x2c]
+        xor     si, si
+.variable:
+        cmp     byte [si], 0
+        je      .done               ; no such variable: an empty line
+        mov     di, line_name
+        mov     cx, line_name_end - line_name
+        repe cmpsb
+        je      .name
+        dec     si                  ; the byte that differs may be the end
+.skip:  lodsb
+        test    al, al
+        jnz     .skip
+        jmp     .variable
+.name:  lodsb
+        test    al, al
+        jz      .done
+        cmp     al, ' '
+        jne     .name
+        dec     si
+        mov     di, line_text
+.copy:  lodsb
+        test    al, al
+        jz      .done
+        stosb
+        jmp     .copy
+.done:  push    cs
+        pop     ds
+        sub     di, line_text
+        jns     .sized              ; nothing was copied: DI stands in front
+        xor     di, di
+.sized: mov     [line_size], di
+        ret
+
+; The line goes out byte for byte, without its length and without the carriage return behind it.
+write_line:
         mov     ah, 0x3c
         xor     cx, cx
-        mov     dx, tail_file
+        mov     dx, line_file
         int     0x21
         jc      .done
         mov     bx, ax
-        movzx   cx, byte [0x80]
+        mov     cx, [line_size]
         jcxz    .close              ; a write of no bytes would be fine too, but says nothing
-        mov     dx, 0x81
+        mov     dx, line_text
         mov     ah, 0x40
         int     0x21
 .close: mov     ah, 0x3e
@@ -445,8 +495,8 @@ draw_command_line:
         mov     byte [pen_colour], C_TEXT
         call    draw_press_key
 
-        mov     si, 0x81
-        movzx   dx, byte [0x80]     ; bytes left
+        mov     si, line_text
+        mov     dx, [line_size]     ; bytes left
         mov     word [pen_y], PANEL_Y + 19
         mov     bp, LINES
 .line:  call    skip_blanks
@@ -633,7 +683,10 @@ ticks:  push    es
 
 ; --- data ---------------------------------------------------------------------------------------
 
-tail_file:  db 'CMDLINE.TXT', 0
+line_file:  db 'CMDLINE.TXT', 0
+line_name:  db 'CMDLINE='
+line_name_end:
+line_size:  dw 0
 quick_file: db 'QUICK.TXT', 0
 title:      db NAME
 title_end:
@@ -683,3 +736,4 @@ pen_shaded:  db 0                   ; 1: every row of pixels takes the next colo
 letter:      db 0
 letter_rows: times 8 db 0
 image_end:
+line_text:                          ; in the memory behind the image

@@ -10,15 +10,6 @@ namespace {
 
 using Words = std::span<const std::string_view>;
 
-std::vector<std::string_view> SplitAtBlanks(std::string_view text) {
-  std::vector<std::string_view> words;
-  while (!(text = TrimBlanks(text)).empty()) {
-    words.push_back(text.substr(0, text.find(' ')));
-    text.remove_prefix(words.back().size());
-  }
-  return words;
-}
-
 // How many words `said` takes if `words` begin with it, else 0.
 std::size_t Beginning(Words words, std::string_view said) {
   const auto expected = SplitAtBlanks(said);
@@ -131,8 +122,7 @@ Result<std::vector<std::string>> Translate(const Emulator& emulator, Words words
     line += match.today;
     words = words.subspan(match.taken);
   }
-  const auto parts = SplitAtBlanks(line);
-  return std::vector<std::string>(parts.begin(), parts.end());
+  return SplitAtBlanks(line);
 }
 
 std::string TranslationTable() {

@@ -22,6 +22,7 @@
 #include "core/catalogue/catalogue.h"
 #include "core/launch/launch_notes.h"
 #include "core/platform/child_process.h"
+#include "core/platform/dosbox.h"
 #include "core/platform/dos_world.h"
 #include "core/platform/text.h"
 #include "ui/layouts/layout_window.h"

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/platform/child_process.h"
-#include "core/platform/dos_path.h"
+#include "core/platform/dosbox.h"
 #include "core/platform/text.h"
 #include "core/platform/text_lines.h"
 
@@ -19,7 +18,7 @@ constexpr std::string_view kArchive = ".zip";
 
 // The note is read from the disk: it may name nothing but what a start could have made.
 bool IsWorkFile(const DosPath& path) {
-  constexpr std::array kNames = {kBatchFile, kHalfCopy, kRunMark};
+  constexpr std::array kNames = {kBatchFile, kHalfCopy, kRunMark, kLongLineProgram};
   return path.Drive() != 0 && std::any_of(kNames.begin(), kNames.end(), [&](std::string_view name) {
            return EqualNoCase(path.Name(), name);
          });
@@ -73,8 +72,8 @@ Status LaunchNotes::Write() {
   return written ? written : Status(Error{note_.Text() + ": " + written.error().message});
 }
 
-Status LaunchNotes::AddWork(DosPath path) {
-  entries_.push_back({.path = std::move(path), .identity = {}});
+Status LaunchNotes::AddWork(std::initializer_list<DosPath> paths) {
+  for (const DosPath& path : paths) entries_.push_back({.path = path, .identity = {}});
   return Write();
 }
 

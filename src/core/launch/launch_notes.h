@@ -6,6 +6,7 @@
 // identity and a full DOS path an archive that was copied into an emulator's rom folder.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,9 +25,9 @@ class LaunchNotes {
   // Takes over what a start that was cut off has left in the note.
   LaunchNotes(DosFiles& files, const DosPath& program_folder);
 
-  // Before the file is made. Fails, with a reason that names the note, if it can't be kept; the
-  // file is removed by Settle all the same.
-  Status AddWork(DosPath path);
+  // Before the files are made. Fails, with a reason that names the note, if it can't be kept; the
+  // files are removed by Settle all the same.
+  Status AddWork(std::initializer_list<DosPath> paths);
   // Before the copy, whole by now under another name, takes its own. Its identity tells it from a
   // file of the player's that stands there later.
   Status AddCopy(DosPath path, std::string identity);

@@ -5,8 +5,8 @@
 #include <optional>
 #include <system_error>
 
-#include "core/platform/child_process.h"
 #include "core/platform/dos_path.h"
+#include "core/platform/dosbox.h"
 #include "core/platform/enter_folder.h"
 #include "core/platform/messages.h"
 #include "core/platform/text.h"
@@ -135,7 +135,7 @@ OneLaunch::Ended OneLaunch::FindRom() {
   const std::optional<FoundRom> found = calls_.find_rom(game_);
   if (!found) return LaunchEnd::kUnknownGame;
   rom_ = input_.rom_name = found->rom;
-  if (emulator_.knows_parents && IsPlainName(found->parent)) parent_ = found->parent;
+  if (emulator_.knows_parents) parent_ = found->parent;
   return std::nullopt;
 }
 
@@ -190,7 +190,7 @@ OneLaunch::Ended OneLaunch::CopyIn(const std::string& rom) {
   if (!archive) return NoRom();
   const DosPath copy = own_rom_folder_ / *archive;
   const DosPath half = own_rom_folder_ / FileName::Own(kHalfCopy);
-  if (Status noted = notes_.AddWork(half); !noted) return Fail(noted.error().message);
+  if (Status noted = notes_.AddWork({half}); !noted) return Fail(noted.error().message);
   if (files_.FileExists(half)) Ignore(files_.DeleteFile(half));
   Status done = files_.CopyFile(given_folder_ / *archive, half);
   if (!done) return Fail(copy.Text() + ": " + done.error().message);
@@ -222,8 +222,8 @@ LaunchEnd OneLaunch::RunBatch() {
   if (!entered) return Fail(folder.Text() + ": " + entered.error().message);
   const FileName batch = FileName::Own(kBatchFile);
   // A note that can't be kept is no reason not to play: a batch file left over does no harm.
-  Ignore(notes_.AddWork(folder / batch));
-  Ignore(notes_.AddWork(folder / FileName::Own(kRunMark)));
+  Ignore(notes_.AddWork({folder / batch, folder / FileName::Own(kRunMark),
+                         folder / FileName::Own(kLongLineProgram)}));
   const Status written = files_.WriteFile(batch, CommandLine(emulator_, input_) + "\r\n");
   if (!written) return Fail((folder / batch).Text() + ": " + written.error().message);
   const Status run = tools_.run("command.com /c " + batch.Text());

@@ -5,11 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <cstdlib>
-#include <random>
+#include <system_error>
 
-#include "core/platform/dos_path.h"
+#include "core/platform/dosbox.h"
 #include "core/platform/host_file.h"
 #include "core/platform/line_reader.h"
 #include "core/platform/text.h"
@@ -17,22 +16,7 @@
 namespace zarvo {
 namespace {
 
-// What a batch line says.
-struct BatchLine {
-  DosPath program;   // it exists
-  std::string tail;  // everything behind the program
-};
-
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
-
-std::vector<std::string> SplitAtBlanks(std::string_view text) {
-  std::vector<std::string> words;
-  while (!(text = TrimBlanks(text)).empty()) {
-    words.emplace_back(text.substr(0, text.find(' ')));
-    text.remove_prefix(words.back().size());
-  }
-  return words;
-}
 
 Result<BatchLine> ReadBatchLine(const DosFiles& files, const FileName& batch) {
   auto source = files.Open(batch);
@@ -82,134 +66,24 @@ Result<RunPlan> PlanNative(const DosFiles& files, const BatchLine& line) {
   return plan;
 }
 
-// The sentence for the first component that DOS can't name, or success.
-Status CheckDosNames(const DosPath& path) {
-  for (const std::string& component : path.Components()) {
-    if (IsDosName(component)) continue;
-    return Error{"DOS can't name " + Quoted(component) + " in " + Quoted(path.Text()) +
-                 ". Please rename it: at most eight letters or digits, then perhaps a dot and at "
-                 "most three, and no blank."};
-  }
-  return Success();
-}
-
-// A name that nobody can foresee, in the folder for files of one session.
-std::filesystem::path NewConfigurationPath() {
-  const char* const session = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
-  const bool has_session = session != nullptr && *session == '/' && access(session, W_OK) == 0;
-  std::random_device random;
-  const std::uint64_t number = (std::uint64_t{random()} << 32) | random();
-  return std::filesystem::path(has_session ? session : "/tmp") /
-         ("zarvo-" + std::to_string(number) + ".conf");
-}
-
-// A command line as far as DOS hands it on, and what it has to leave out.
-struct CutLine {
-  std::string kept;
-  std::vector<std::string> lost;  // whole options with their values
-};
-
-bool BeginsOption(std::string_view word) {
-  return word.size() > 1 && word[0] == '-' && !(word[1] >= '0' && word[1] <= '9');
-}
-
-// Cuts between options, so that none arrives without its values.
-CutLine CutForDos(const std::string& tail) {
-  CutLine cut;
-  if (tail.size() <= kLongestTail) return {tail, {}};
-  std::vector<std::string> pieces;
-  for (const std::string& word : SplitAtBlanks(tail)) {
-    if (pieces.empty() || BeginsOption(word)) {
-      pieces.push_back(word);
-    } else {
-      pieces.back() += " " + word;
-    }
-  }
-  for (std::string& piece : pieces) {
-    if (cut.lost.empty() && cut.kept.size() + 1 + piece.size() <= kLongestTail) {
-      cut.kept += " " + piece;
-    } else {
-      cut.lost.push_back(std::move(piece));
-    }
-  }
-  return cut;
-}
-
-// What stands in the mark: at first, while the program runs, and after an error level.
-constexpr std::string_view kMarkWaiting = "waiting";
-constexpr std::string_view kMarkRunning = "running";
-constexpr std::string_view kMarkFailed = "failed";
-
-// DOSBox runs these lines behind the player's own. The drive is the folder that DOSBox is started
-// in: so no host path, whatever characters it holds, stands where DOSBox would take it apart.
-std::string DosBoxConfiguration(const DosPath& dos_folder, const std::string& call) {
-  const std::string drive(1, dos_folder.Drive());
-  const std::string mark = (dos_folder / FileName::Own(kRunMark)).Text();
-  std::string text = "[autoexec]\n@echo off\n";
-  text += "mount -u " + drive + " >nul\n";
-  text += "mount " + drive + " . >nul\n";
-  text += drive + ":\n";
-  text += "cd " + dos_folder.Text().substr(2) + "\n";
-  text.append("echo ").append(kMarkRunning).append(">" + mark + "\n");
-  text += call + "\n";
-  // An error level is known in here alone.
-  text += "if errorlevel 1 goto failed\n";
-  text += "del " + mark + "\n";
-  text += "exit\n";
-  text += ":failed\n";
-  text.append("echo ").append(kMarkFailed).append(">" + mark + "\n");
-  text += "exit\n";
-  return text;
-}
-
-Result<RunPlan> PlanDosBox(const DosFiles& files, const BatchLine& line, const FileName& batch,
-                           const HostPrograms& host) {
-  const DosPath folder = files.CurrentFolder();
-  const Status folder_named = CheckDosNames(folder);
-  if (!folder_named) return folder_named.error();
-  const Status program_named = CheckDosNames(line.program);
-  if (!program_named) return program_named.error();
-  const char drive = folder.Drive();
-  if (drive == 'Z') return Error{"DOSBox keeps drive Z for itself. Please use another letter."};
-  if (line.program.Drive() != 0 && line.program.Drive() != drive) {
-    return Error{"The program " + Quoted(line.program.Text()) +
-                 " isn't on the drive of its folder " + Quoted(folder.Text()) + "."};
-  }
-  const auto dosbox = host.find("dosbox");
-  if (!dosbox) {
-    return Error{
-        "DOSBox isn't installed, and DOS programs run in it. Please install the package "
-        "dosbox and try again."};
-  }
-  const auto drive_folder = files.HostPath(DosPath::Root(drive));
-  if (!drive_folder) return drive_folder.error();
-
-  CutLine cut = CutForDos(line.tail);
-  const std::string call =
-      "call " + (cut.lost.empty() ? batch.Text() : line.program.Text() + cut.kept);
-  RunPlan plan;
-  plan.configuration_path = NewConfigurationPath();
-  plan.configuration = DosBoxConfiguration(folder, call);
-  const auto mark = files.HostPath(FileName::Own(kRunMark));
-  if (!mark) return mark.error();
-  plan.run_mark = *mark;
-  plan.lost_options = std::move(cut.lost);
-  const std::string_view words = TrimBlanks(line.tail);
-  plan.first_word = words.substr(0, words.find(' '));
-  plan.command = {*dosbox, {"-userconf", "-conf", plan.configuration_path.native()}, *drive_folder};
-  return plan;
-}
-
-// Deletes a file when it goes.
-class TemporaryFile {
+// Files that go when it goes.
+class RunFiles {
  public:
-  explicit TemporaryFile(std::filesystem::path path) : path_(std::move(path)) {}
-  ~TemporaryFile() { unlink(path_.c_str()); }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  RunFiles() = default;
+  ~RunFiles() {
+    for (const std::filesystem::path& path : made_) unlink(path.c_str());
+  }
+  RunFiles(const RunFiles&) = delete;
+  RunFiles& operator=(const RunFiles&) = delete;
+
+  Status Make(const RunFile& file, unsigned mode) {
+    Status made = CreateFile(file.path, file.bytes, mode, false);
+    if (made) made_.push_back(file.path);
+    return made;
+  }
 
  private:
-  std::filesystem::path path_;
+  std::vector<std::filesystem::path> made_;
 };
 
 // The first bytes of a file of the host; nothing if it isn't there.
@@ -219,6 +93,22 @@ std::string StartOf(const std::filesystem::path& path) {
   std::array<char, 16> bytes{};
   const long got = ReadSome(file->get(), bytes.data(), bytes.size());
   return {bytes.data(), static_cast<std::size_t>(got < 0 ? 0 : got)};
+}
+
+// DOSBox names the file after its version; it writes one with all of its defaults where there is
+// none, so it is handed over by name and never asked for.
+std::optional<std::filesystem::path> NewestDosBoxConfiguration() {
+  const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
+  std::optional<std::filesystem::path> newest;
+  if (home == nullptr) return newest;
+  std::error_code failure;
+  for (const auto& entry :
+       std::filesystem::directory_iterator(std::filesystem::path(home) / ".dosbox", failure)) {
+    const std::string name = entry.path().filename();
+    const bool is_one = name.starts_with("dosbox-") && name.ends_with(".conf");
+    if (is_one && (!newest || newest->filename() < entry.path().filename())) newest = entry.path();
+  }
+  return newest;
 }
 
 // The last lines of what a program printed, for a box: each behind a carriage return, without
@@ -259,7 +149,7 @@ HostPrograms ThisHost() {
     }
     return std::nullopt;
   };
-  return {find};
+  return {find, NewestDosBoxConfiguration};
 }
 
 Result<RunPlan> PlanRun(const DosFiles& files, const FileName& batch, const HostPrograms& host) {
@@ -270,16 +160,19 @@ Result<RunPlan> PlanRun(const DosFiles& files, const FileName& batch, const Host
 }
 
 Result<RunOutcome> CarryOut(const RunPlan& plan, ChildRunner& runner) {
-  if (plan.configuration_path.empty()) return runner.Run(plan.command);
-  const Status written = CreateFile(plan.configuration_path, plan.configuration, 0600, false);
-  if (!written) {
-    return Error{"The configuration of DOSBox can't be written: " + written.error().message};
+  if (plan.run_mark.empty()) return runner.Run(plan.command);
+  RunFiles files;
+  for (const RunFile& file : plan.session_files) {
+    const Status made = files.Make(file, 0600);
+    if (!made) {
+      return Error{"The configuration of DOSBox can't be written: " + made.error().message};
+    }
   }
-  const TemporaryFile configuration(plan.configuration_path);
-  unlink(plan.run_mark.c_str());  // of a run that was cut off
-  const Status marked = CreateFile(plan.run_mark, kMarkWaiting, 0666, false);
-  if (!marked) return Error{std::string(kRunMark) + ": " + marked.error().message};
-  const TemporaryFile run_mark(plan.run_mark);
+  for (const RunFile& file : plan.folder_files) {
+    unlink(file.path.c_str());  // of a run that was cut off
+    const Status made = files.Make(file, kNewFileMode);
+    if (!made) return Error{file.path.filename().string() + ": " + made.error().message};
+  }
   RunOutcome outcome = runner.Run(plan.command);
   const std::string mark = StartOf(plan.run_mark);
   outcome.program_failed = mark.starts_with(kMarkFailed);
@@ -296,7 +189,7 @@ Status JudgeRun(const RunPlan& plan, const RunOutcome& outcome, std::chrono::mil
         "The emulator could not be started. Please check that its program, or DOSBox, can "
         "be run."};
   }
-  const std::string words = plan.configuration_path.empty() ? LastLines(outcome.last_output) : "";
+  const std::string words = plan.run_mark.empty() ? LastLines(outcome.last_output) : "";
   if (outcome.crashed) {
     return Error{
         "The emulator was broken off from outside, or it crashed. If that happens again, "

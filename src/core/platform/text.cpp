@@ -145,4 +145,13 @@ std::string_view TrimBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::vector<std::string> SplitAtBlanks(std::string_view text) {
+  std::vector<std::string> words;
+  while (!(text = TrimBlanks(text)).empty()) {
+    words.emplace_back(text.substr(0, text.find(' ')));
+    text.remove_prefix(words.back().size());
+  }
+  return words;
+}
+
 }  // namespace zarvo

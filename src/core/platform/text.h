@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zarvo {
 
@@ -56,5 +57,8 @@ std::optional<int> ParseInt16(std::string_view text);
 
 // `text` without blanks at both ends.
 std::string_view TrimBlanks(std::string_view text);
+
+// The words between blanks.
+std::vector<std::string> SplitAtBlanks(std::string_view text);
 
 }  // namespace zarvo

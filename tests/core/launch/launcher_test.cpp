@@ -336,7 +336,7 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
   for (int steps = 1; steps <= 5; ++steps) {
     {
       LaunchNotes cut_off(drive_.files(), folders_.ProgramFolder);
-      ASSERT_TRUE(cut_off.AddWork(half).ok());
+      ASSERT_TRUE(cut_off.AddWork({half}).ok());
       if (steps >= 2) drive_.Write(half.Text(), "ha");
       if (steps >= 3) {
         ASSERT_TRUE(cut_off.AddCopy(copy, drive_.files().Identity(half).value()).ok());
@@ -345,7 +345,7 @@ TEST_F(LauncherTest, AStartThatWasCutOffIsClearedUpAndNothingOfThePlayers) {
         ASSERT_TRUE(drive_.files().RenameFile(half, copy).ok());
       }
       if (steps >= 5) {
-        ASSERT_TRUE(cut_off.AddWork(DosPath(folder_ + "\\lancia.bat")).ok());
+        ASSERT_TRUE(cut_off.AddWork({DosPath(folder_ + "\\lancia.bat")}).ok());
         drive_.Write(folder_ + "\\lancia.bat", "half");
       }
     }

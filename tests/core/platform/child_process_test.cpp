@@ -8,6 +8,7 @@
 #include <fstream>
 #include <map>
 
+#include "core/platform/dosbox.h"
 #include "fakes/posix_runner.h"
 #include "fakes/temp_drive.h"
 
@@ -26,7 +27,7 @@ HostPrograms Host(const std::string& programs) {
         (" " + programs + " ").find(" " + std::string(name) + " ") != std::string::npos;
     return has ? std::optional(std::filesystem::path("/bin") / name) : std::nullopt;
   };
-  return {find};
+  return {find, [] { return std::nullopt; }};
 }
 
 // A drive whose current folder is that of an emulator, with a batch file.
@@ -63,19 +64,19 @@ TEST_F(RunTest, ADosProgramRunsInDosBoxFromTheFolderThatIsItsDrive) {
   ASSERT_TRUE(plan.ok()) << plan.error().message;
   EXPECT_EQ(plan->command.program, "/bin/dosbox");
   EXPECT_EQ(plan->command.folder, drive_.root());
-  EXPECT_THAT(plan->command.arguments,
-              testing::ElementsAre("-userconf", "-conf", plan->configuration_path));
-  EXPECT_EQ(plan->configuration,
+  EXPECT_EQ(plan->session_files.back().bytes,
             "[autoexec]\n@echo off\nmount -u C >nul\nmount C . >nul\nC:\ncd \\Emu\\Mame\n"
             "echo running>C:\\Emu\\Mame\\ZARVO.ERR\n"
             "call lancia.bat\nif errorlevel 1 goto failed\ndel C:\\Emu\\Mame\\ZARVO.ERR\nexit\n"
             ":failed\necho failed>C:\\Emu\\Mame\\ZARVO.ERR\nexit\n");
-  EXPECT_FALSE(fs::exists(plan->configuration_path)) << "planning writes nothing";
-  EXPECT_NE(Plan()->configuration_path, plan->configuration_path);
+  for (const RunFile& file : plan->session_files) {
+    EXPECT_FALSE(fs::exists(file.path)) << "planning writes nothing";
+  }
+  EXPECT_NE(Plan()->session_files.back().path, plan->session_files.back().path);
 
   Batch("C:\\", "C:\\Mame.exe");
   drive_.Write("C:\\Mame.exe", kDosProgram);
-  EXPECT_THAT(Plan()->configuration,
+  EXPECT_THAT(Plan()->session_files.back().bytes,
               HasSubstr("\ncd \\\necho running>C:\\ZARVO.ERR\ncall lancia.bat\n"));
 }
 
@@ -97,7 +98,7 @@ TEST_F(RunTest, ALineTooLongForDosIsCutBetweenOptions) {
     for (const std::string& option : plan->lost_options) told += option + "|";
     EXPECT_EQ(told, lost) << tail;
     EXPECT_EQ(plan->first_word, "pengo");
-    EXPECT_THAT(plan->configuration, HasSubstr("\n" + call + "\n")) << tail;
+    EXPECT_THAT(plan->session_files.back().bytes, HasSubstr("\n" + call + "\n")) << tail;
   }
 }
 
@@ -105,7 +106,7 @@ TEST_F(RunTest, ANativeProgramRunsWithoutAShellAndSeesItsWordsAndItsFolder) {
   Batch("C:\\Emu\\My Mame", "C:\\Emu\\My Mame\\run.sh  caf\xE9 $(reboot);  * -x ");
   Native("C:\\Emu\\My Mame\\run.sh", "#!/bin/sh\nprintf '%s|' \"$@\" > out\nexit 7\n");
   const auto plan = Plan(Host(""));
-  EXPECT_EQ(plan->configuration + plan->configuration_path.native(), "");
+  EXPECT_TRUE(plan->session_files.empty() && plan->folder_files.empty());
   const auto outcome = CarryOut(*plan, runner_);
   EXPECT_TRUE(outcome->started);
   EXPECT_EQ(outcome->exit_code, 7);
@@ -133,7 +134,7 @@ TEST_F(RunTest, OnlyARunThatFailedIsToldAndANativeOneInItsOwnWords) {
   using std::chrono::milliseconds;
   const RunPlan native;
   RunPlan dos;
-  dos.configuration_path = "x";
+  dos.run_mark = "x";
   const auto judged = [](const RunPlan& plan, const RunOutcome& outcome, int took) {
     const Status status = JudgeRun(plan, outcome, milliseconds(took));
     return status ? std::string() : status.error().message;
@@ -201,11 +202,74 @@ TEST_F(RunTest, WhatCannotBeRunIsSaidPlainly) {
   EXPECT_THAT(Planned(), HasSubstr("executable"));
 }
 
-TEST_F(RunTest, TheConfigurationStandsForTheRunAndIsDeletedAfterIt) {
+// Each applies over the one before: what suits arcade emulators, the player's own, what lies beside
+// the emulator, the run's.
+TEST_F(RunTest, TheConfigurationsApplyInTheirOrder) {
+  Batch("C:\\Emu", "Mame.exe");
+  drive_.Write("C:\\Emu\\Mame.exe", kDosProgram);
+  HostPrograms host = Host("dosbox");
+  const auto configurations = [&] {
+    const auto plan = Plan(host);
+    std::string text;
+    for (std::size_t i = 0; i < plan->command.arguments.size(); i += 2) {
+      EXPECT_EQ(plan->command.arguments[i], "-conf");
+      std::string name = plan->command.arguments[i + 1];
+      if (name == plan->session_files[0].path) name = plan->session_files[0].bytes;
+      if (name == plan->session_files[1].path) name = "run";
+      text += name + "|";
+    }
+    return text;
+  };
+  const std::string arcade = "[dosbox]\nmemsize=63\n[cpu]\ncore=auto\ncycles=max\n|";
+  EXPECT_EQ(configurations(), arcade + "run|");
+  host.dosbox_configuration = [] { return std::optional<fs::path>("/home/me/own.conf"); };
+  drive_.Write("C:\\Emu\\DOSBOX.CONF", "");
+  EXPECT_EQ(configurations(),
+            arcade + "/home/me/own.conf|" + drive_.Host("C:\\Emu\\DOSBOX.CONF").string() + "|run|");
+}
+
+TEST_F(RunTest, TheNewestOfThePlayersConfigurationsIsTheirs) {
+  const std::string before = std::getenv("HOME");
+  setenv("HOME", drive_.root().c_str(), 1);
+  EXPECT_FALSE(ThisHost().dosbox_configuration());
+  for (const char* name : {"dosbox-0.74-2.conf", "dosbox-0.74-3.conf", "dosbox-0.74.conf", "z.conf",
+                           "dosbox-9.conf.old"}) {
+    drive_.Write(std::string("C:\\.dosbox\\") + name, "");
+  }
+  EXPECT_EQ(ThisHost().dosbox_configuration()->filename(), "dosbox-0.74.conf");
+  fs::remove(drive_.Host("C:\\.dosbox\\dosbox-0.74.conf"));
+  EXPECT_EQ(ThisHost().dosbox_configuration()->filename(), "dosbox-0.74-3.conf");
+  setenv("HOME", before.c_str(), 1);
+}
+
+// A program with DJGPP's loader gets the whole line by way of a helper, and nothing is lost.
+TEST_F(RunTest, ALongLineReachesAProgramThatKnowsHowDos7HandsItOn) {
+  const std::string tail = " pengo -" + std::string(300, 'x');
+  Batch("C:\\Emu", "C:\\Emu\\Mame.exe" + tail);
+  const std::string loader = "MZ" + std::string(510, '.') + "go32stub, v 2.02";
+  drive_.Write("C:\\Emu\\Mame.exe", loader);
+  const auto plan = Plan();
+  EXPECT_TRUE(plan->lost_options.empty());
+  EXPECT_EQ(plan->first_word, "pengo");
+  EXPECT_THAT(plan->session_files.back().bytes, HasSubstr("\ncall C:\\Emu\\ZARVO$$$.COM\n"));
+  ASSERT_EQ(plan->folder_files.size(), 2U);
+  EXPECT_EQ(plan->folder_files[1].path, drive_.Host("C:\\Emu\\ZARVO$$$.COM"));
+  EXPECT_TRUE(plan->folder_files[1].bytes.ends_with("C:\\Emu\\Mame.exe" + std::string(1, '\0') +
+                                                    tail + '\0'));
+  drive_.Write("C:\\Emu\\Mame.exe", std::string(2048, '.') + loader);
+  EXPECT_FALSE(Plan()->lost_options.empty()) << "the loader stands at the front";
+  Batch("C:\\Emu", "C:\\Emu\\Mame.exe" + tail.substr(0, kLongestTail));
+  EXPECT_EQ(Plan()->folder_files.size(), 1U);
+}
+
+TEST_F(RunTest, TheFilesOfARunStandForTheRunAndAreDeletedAfterIt) {
   const fs::path path = drive_.root() / "run.conf";
   const fs::path seen = drive_.root() / "seen";
   const fs::path mark = drive_.root() / "mark";
-  RunPlan plan = {{"/bin/cp", {"-p", path, seen}, "/"}, "[autoexec]\n", path, mark};
+  const RunPlan plan = {.command = {"/bin/cp", {"-p", path, seen}, "/"},
+                        .session_files = {{path, "[autoexec]\n"}},
+                        .folder_files = {{mark, "waiting"}},
+                        .run_mark = mark};
   std::ofstream(mark) << "failed";  // of a run that was cut off
   const auto outcome = CarryOut(plan, runner_);
   EXPECT_TRUE(outcome->started && outcome->never_began && !outcome->program_failed);
@@ -221,9 +285,30 @@ TEST_F(RunTest, TheConfigurationStandsForTheRunAndIsDeletedAfterIt) {
   EXPECT_TRUE(fs::exists(path));
 }
 
-TEST_F(RunTest, ARealDosBoxRunsTheLineAndTellsOfAnErrorLevel) {
-  const HostPrograms real = ThisHost();
-  if (!real.find("dosbox")) GTEST_SKIP() << "dosbox isn't installed";
+// A real DOSBox without a picture, with the drive's folder for the player's home.
+class DosBoxTest : public RunTest {
+ protected:
+  void SetUp() override {
+    if (!ThisHost().find("dosbox")) GTEST_SKIP() << "dosbox isn't installed";
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    setenv("HOME", drive_.root().c_str(), 1);
+  }
+  RunOutcome RunLine(DosWorld& world, const std::string& line) {
+    Ignore(world.WriteFile("lancia.bat", line + "\r\n"));
+    const auto plan = PlanRun(world, "lancia.bat", ThisHost());
+    EXPECT_TRUE(plan.ok()) << plan.error().message;
+    EXPECT_TRUE(plan->lost_options.empty());
+    const auto outcome = CarryOut(*plan, runner_);
+    EXPECT_TRUE(outcome.ok()) << outcome.error().message;
+    EXPECT_TRUE(outcome->started && !outcome->crashed && outcome->exit_code == 0) << line;
+    for (const RunFile& file : plan->session_files) EXPECT_FALSE(fs::exists(file.path));
+    for (const RunFile& file : plan->folder_files) EXPECT_FALSE(fs::exists(file.path));
+    return *outcome;
+  }
+};
+
+TEST_F(DosBoxTest, RunsTheLineAndTellsOfAnErrorLevel) {
   // A folder that DOSBox's own parsing of host paths wouldn't survive, and a player's own
   // configuration that has taken the drive already.
   const fs::path root = drive_.root() / "it's %PATH% \"é\" #1";
@@ -231,36 +316,42 @@ TEST_F(RunTest, ARealDosBoxRunsTheLineAndTellsOfAnErrorLevel) {
   fs::create_directories(drive_.root() / ".dosbox");
   std::ofstream(drive_.root() / ".dosbox/dosbox-0.74-3.conf")
       << "[autoexec]\nmount c /usr\nc:\nset MINE=of the player\n";
-  DosWorld world({{'C', root.string()}});
+  DosWorld world({{'C', root}});
   ASSERT_TRUE(world.ChangeFolder("C:\\Emu\\Mame").ok());
   ASSERT_TRUE(world.WriteFile("tail.bat", "@echo %1 %2 %3 %4 %5 %6>TAIL\r\n").ok());
   // mov ax, 4C03h; int 21h: ends with error level 3.
   ASSERT_TRUE(world.WriteFile("bad.com", "\xB8\x03\x4C\xCD\x21").ok());
-  setenv("SDL_VIDEODRIVER", "dummy", 1);
-  setenv("SDL_AUDIODRIVER", "dummy", 1);
-  setenv("HOME", drive_.root().c_str(), 1);
-
   std::ofstream(drive_.root() / ".dosbox/exit.conf") << "[autoexec]\nexit\n";
   for (const char* program : {"tail.bat", "bad.com"}) {
-    const std::string line = "C:\\Emu\\Mame\\" + std::string(program) + " pengo -s 1 %MINE%\r\n";
-    ASSERT_TRUE(world.WriteFile("lancia.bat", line).ok());
-    const auto plan = PlanRun(world, "lancia.bat", real);
-    ASSERT_TRUE(plan.ok()) << plan.error().message;
-    const auto outcome = CarryOut(*plan, runner_);
-    ASSERT_TRUE(outcome.ok()) << outcome.error().message;
-    EXPECT_TRUE(outcome->started && !outcome->crashed && outcome->exit_code == 0) << program;
-    EXPECT_EQ(outcome->program_failed, std::string_view(program) == "bad.com");
-    EXPECT_FALSE(outcome->never_began);
-    EXPECT_FALSE(world.FileExists("ZARVO.ERR"));
-    EXPECT_FALSE(fs::exists(plan->configuration_path));
+    const RunOutcome outcome =
+        RunLine(world, "C:\\Emu\\Mame\\" + std::string(program) + " pengo -s 1 %MINE%");
+    EXPECT_EQ(outcome.program_failed, std::string_view(program) == "bad.com");
+    EXPECT_FALSE(outcome.never_began);
   }
   EXPECT_EQ(ReadAll(world, "TAIL").value(), "pengo -s 1 of the player\r\n");
 
   // A player's own configuration that ends DOSBox: no game, and that is told.
   fs::rename(drive_.root() / ".dosbox/exit.conf", drive_.root() / ".dosbox/dosbox-0.74-3.conf");
-  const auto plan = PlanRun(world, "lancia.bat", real);
-  const auto outcome = CarryOut(*plan, runner_);
-  EXPECT_TRUE(outcome->started && outcome->never_began);
+  EXPECT_TRUE(RunLine(world, "C:\\Emu\\Mame\\tail.bat").never_began);
+}
+
+TEST_F(DosBoxTest, ALongLineArrivesAndTheErrorLevelComesBack) {
+  drive_.MakeFolder("C:\\Emu\\Mame");
+  DosWorld& world = drive_.files();
+  ASSERT_TRUE(world.ChangeFolder("C:\\Emu\\Mame").ok());
+  fs::copy_file(ZARVO_STAND_IN, drive_.Host("C:\\Emu\\Mame\\Mame.exe"));
+  drive_.Write("C:\\Emu\\Mame\\QUICK.TXT", "");
+  for (const std::size_t size : {126U, 127U, 342U, 900U}) {
+    std::string tail = " pengo -volume -12 caf\xE9";
+    while (tail.size() < size) tail += tail.size() % 7 == 0 ? ' ' : 'x';
+    tail.back() = 'x';
+    const RunOutcome outcome = RunLine(world, "C:\\Emu\\Mame\\Mame.exe" + tail);
+    EXPECT_FALSE(outcome.program_failed || outcome.never_began);
+    EXPECT_EQ(drive_.Read("C:\\Emu\\Mame\\CMDLINE.TXT"), tail) << size;
+  }
+  // jmp over the mark; mov ax, 4C03h; int 21h.
+  drive_.Write("C:\\Emu\\Mame\\bad.com", "\xEB\x08go32stub\xB8\x03\x4C\xCD\x21");
+  EXPECT_TRUE(RunLine(world, "C:\\Emu\\Mame\\bad.com " + std::string(200, 'x')).program_failed);
 }
 
 }  // namespace

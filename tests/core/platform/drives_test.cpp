@@ -118,7 +118,8 @@ TEST(DosPathOf, TheLongestMatchingFolderTellsTheDrive) {
       {"/", "H:\\"},
       {"/home/me/caf\xC3\xA9", "E:\\caf\xE9"},
   };
-  for (const auto& [host, dos] : cases) EXPECT_EQ(world.DosPathOf(host).value().Text(), dos) << host;
+  for (const auto& [host, dos] : cases)
+    EXPECT_EQ(world.DosPathOf(host).value().Text(), dos) << host;
 
   const DosWorld one({{'C', "/home/me"}});
   for (const char* path :
