@@ -1,19 +1,15 @@
 #include "core/platform/long_line.h"
 
-#include <array>
+#include <cstddef>
 
 namespace zarvo {
-namespace {
 
 // Assembled from long_line.asm by the build.
-constexpr auto kCode = std::to_array<unsigned char>({
-#include "long_line.inc"
-});
-
-}  // namespace
+extern const unsigned char kLongLineCode[];
+extern const std::size_t kLongLineCodeSize;
 
 std::string LongLineProgram(const BatchLine& line) {
-  std::string program(kCode.begin(), kCode.end());
+  std::string program(kLongLineCode, kLongLineCode + kLongLineCodeSize);
   for (const std::string& text : {line.program.Text(), line.tail}) program += text + '\0';
   return program;
 }
