@@ -37,7 +37,7 @@ FILTERS = {"state": (800, 4790), "genre": (2300, 4790), "manufacturer": (3800, 4
 SETTINGS = {"folder": (4970, 875), "default folder": (5450, 875), "all": (5955, 875)}
 MAME_OPTIONS = {"screen": (5400, 1185), "frames": (3400, 1185), "sound": (5400, 1950),
                 "rate": (5400, 2205), "triple buffer": (2550, 4015), "flip vertical": (3960, 4435),
-                "no stereo": (5160, 2965)}
+                "no stereo": (5160, 2965), "record": (5160, 4225), "playback": (5160, 4435)}
 LAYOUTS = {"Add": (480, 2030), "Remove": (1520, 2030), "Rename": (2500, 2030),
            "Load": (830, 2440), "Save": (2250, 2440), "autoload": (300, 3135),
            "to load": (1800, 3490), "on top": (300, 4050), "Close": (2450, 4040)}

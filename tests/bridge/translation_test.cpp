@@ -134,6 +134,19 @@ TEST_F(RealGamesTest, MakesWhatIsMissingAndChangesNothingThatIsThere) {
   EXPECT_EQ(drive_.Read(R"(C:\Emu\Mame\mame.ini)"), "mine");
 }
 
+TEST_F(RealGamesTest, WhatWasCutOffHalfWayIsMadeWhole) {
+  EXPECT_TRUE(LayOut());
+  EXPECT_FALSE(drive_.Exists(R"(C:\Emu\Mame.$$$)"));
+  std::filesystem::remove(drive_.Host(R"(C:\Emu\Mame\Mame.exe)"));
+  std::filesystem::remove(drive_.Host(R"(C:\Zarvo\cfg\Mame.cfg)"));
+  drive_.Write(R"(C:\Emu\Mame.$$$)", "");
+  EXPECT_TRUE(LayOut());
+  EXPECT_THAT(said_, testing::StartsWith("C:\\Emu\\Mame\\Mame.exe is today's MAME now"));
+  EXPECT_TRUE(drive_.Exists(R"(C:\Emu\Mame\Mame.exe)"));
+  EXPECT_TRUE(drive_.Exists(R"(C:\Zarvo\cfg\Mame.cfg)"));
+  EXPECT_FALSE(drive_.Exists(R"(C:\Emu\Mame.$$$)"));
+}
+
 TEST_F(RealGamesTest, WhatCantBeMadeIsTold) {
   drive_.Write(R"(C:\Emu\Mame)", "a file in the way");
   EXPECT_FALSE(LayOut());

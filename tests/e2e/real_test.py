@@ -9,11 +9,12 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
 from e2e import BUILD, PROJECT, wait_until
-from driven_zarvo import FAVOURITES, GAMES, PANEL, TITLE, DrivenZarvo, entry
+from driven_zarvo import FAVOURITES, MAME_OPTIONS, PANEL, PANEL_TITLES, TITLE, DrivenZarvo, entry
 from private_desktop import Desktop, Place
 
 MAME = shutil.which("mame") or shutil.which("/usr/games/mame")
@@ -49,7 +50,7 @@ class RealGame(unittest.TestCase):
                         ignore=lambda _, names: [n for n in names if not n.endswith(".dat")])
         told = subprocess.run([BUILD / "zarvo-mame", "--lay-out", self.drive / "Zarvo"],
                               check=True, capture_output=True, text=True)
-        self.assertEqual(5, len(told.stdout.splitlines()), told.stdout)
+        self.assertEqual(len(PANEL_TITLES), len(told.stdout.splitlines()), told.stdout)
         for emulator in ("Mame", "Callus"):
             # What a player writes there for an X server without a graphics card.
             with open(self.drive / "Emu" / emulator / "mame.ini", "a", encoding="utf-8") as ini:
@@ -81,6 +82,39 @@ class RealGame(unittest.TestCase):
         wait_until(lambda: self.shows_picture(place), "the game's black ground on the page")
         self.desktop.picture(BUILD / "e2e-pong-page.png")
         self.assertEqual(0, self.zarvo.quit(main))
+
+    def test_a_recording_lies_where_the_panel_looks_and_is_played_back(self):
+        recordings = self.drive / "Emu/Mame/INP"
+        main = self.zarvo.open_main()
+        panel = self.zarvo.open_panel(main, "Mame")
+        self.zarvo.click(panel, entry(FAVOURITES, 1))
+        self.zarvo.click(panel, PANEL["settings"])
+        self.zarvo.click(panel, MAME_OPTIONS["record"])
+        self.assert_plays(panel, lambda words: "-record" in words)
+        name, = (file.name for file in recordings.iterdir())
+        self.assertRegex(name, r"^pong_.*\.inp$")
+
+        self.zarvo.click(panel, MAME_OPTIONS["record"])  # off again: the two exclude each other
+        self.zarvo.click(panel, MAME_OPTIONS["playback"])
+        picker = self.desktop.wait_for("Choose the INP file", "dialog")
+        self.desktop.wait_for_focus(picker)
+        self.desktop.keys("Down", "Return")
+        self.desktop.wait_for_end(picker)
+        self.assert_plays(panel, lambda words: words[words.index("-playback") + 1] == name)
+        self.assertIsNone(self.desktop.window(TITLE, "dialog"), "a good end is silent")
+        self.assertEqual(0, self.zarvo.quit(main))
+
+    def assert_plays(self, panel, expected):
+        """Enter on the selected game brings up MAME with the words that are expected; it's ended."""
+        self.zarvo.click(panel, entry(FAVOURITES, 1))
+        self.desktop.keys("Return")
+        self.desktop.wait_for_focus(wait_until(self.window_of_mame, "the window of MAME"))
+        child, = self.zarvo.children()
+        words = Path(f"/proc/{child}/cmdline").read_text().split("\0")
+        self.assertTrue(expected(words), words)
+        self.hold("Escape", lambda: not self.zarvo.children(), "the end of the game")
+        self.zarvo.wait_for_rest()
+        time.sleep(0.8)  # an Enter sooner than that is taken for one that is still held
 
     def hold(self, key, condition, what):
         """MAME looks at the keys once in a frame, so a key is held, and again until it was seen."""
