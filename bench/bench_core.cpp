@@ -155,6 +155,19 @@ bool MeasureFilter(Site& site, BarePass& pass, int games, ValueFilter filter,
                   .reset = [&] { list = all; }});
 }
 
+// One key in the field that finds games: what is typed is a part of no name.
+bool MeasureFind(Site& site, BarePass& pass, int games) {
+  NameList all;
+  const Catalogue catalogue(site.world, site.folders, site.mame);
+  catalogue.Fill(GameState::kAllSupported, all);
+  return Measure(
+      {.name = "find, one key",
+       .games = games,
+       .target = 4,
+       .bare = [&] { pass.CountLines(site.DataFile()); },
+       .measured = [&] { Check(catalogue.Search("zzqx", all).empty(), "find nothing"); }});
+}
+
 bool MeasureScan(Site& site, BarePass& pass, int games, bool flush) {
   site.PutArchives();
   DosWorld& files = flush ? site.world : site.unflushed;
@@ -211,6 +224,7 @@ bool MeasureAll(Site& site, int games) {
                         "filter step, 1 in 8 stays");
   good &= MeasureFilter(site, pass, games, ValueFilter::kManufactor, kOnlyManufactor,
                         "filter step, all stay");
+  good &= MeasureFind(site, pass, games);
   good &= MeasureScan(site, pass, games, true);
   good &= MeasureScan(site, pass, games, false);
   good &= MeasureSave(site, pass, names);

@@ -85,6 +85,10 @@ class Catalogue {
   // can't be used the list stays as it was.
   void Filter(ValueFilter filter, std::string_view value, NameList& list) const;
 
+  // The entries of `list` that have `text` anywhere in their name, or are the game with the rom name
+  // `text`, without regard to case and accents; in the order of the list. None for an empty text.
+  [[nodiscard]] std::vector<int> Search(std::string_view text, const NameList& list) const;
+
   // Looks for the archive of every game in `rom_folder` and writes the answers to `<Emu>.scn` in
   // the folder cfg, a line `"Name;Y"` or `"Name;N"` each, in the order of the data file. If
   // `rom_folder` can't be entered, the look-ups run in the folder cfg. kMerged counts only where
@@ -94,6 +98,8 @@ class Catalogue {
 
  private:
   [[nodiscard]] Result<RecordReader> Records() const;
+  // The names of the games with a rom name, in either case.
+  [[nodiscard]] std::vector<std::string> NamesOfRom(std::string_view rom) const;
   FillResult FillFromDataFile(GameState state, NameList& list) const;
   FillResult FillFromScan(char mark, NameList& list) const;
   // The answers of the last scan.

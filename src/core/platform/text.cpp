@@ -29,6 +29,23 @@ constexpr std::array<unsigned char, 256> MakeFoldTable() {
 
 constexpr std::array<unsigned char, 256> kFold = MakeFoldTable();
 
+constexpr std::array<unsigned char, 256> MakeBareTable() {
+  // The letters from 0xE0 on; a dot for those that have no accent.
+  constexpr std::string_view kBare = "aaaaaa.ceeeeiiii.nooooo.ouuuuy.y";
+  std::array<unsigned char, 256> table = kFold;
+  for (std::size_t byte = 0; byte < table.size(); ++byte) {
+    unsigned char& letter = table[byte];
+    if (letter >= 0xE0 && kBare[letter - 0xE0U] != '.') {
+      letter = static_cast<unsigned char>(kBare[letter - 0xE0U]);
+    }
+    if (letter == 0x9A) letter = 's';
+    if (letter == 0x9E) letter = 'z';
+  }
+  return table;
+}
+
+constexpr std::array<unsigned char, 256> kBareFold = MakeBareTable();
+
 void AppendUtf8(char32_t code_point, std::string& out) {
   if (code_point < 0x80) {
     out += static_cast<char>(code_point);
@@ -50,6 +67,11 @@ std::string FoldCase(std::string_view text) {
   std::string folded(text);
   for (char& c : folded) c = static_cast<char>(kFold[static_cast<unsigned char>(c)]);
   return folded;
+}
+
+void FoldAccents(std::string_view text, std::string& folded) {
+  folded = text;
+  for (char& c : folded) c = static_cast<char>(kBareFold[static_cast<unsigned char>(c)]);
 }
 
 int CompareNoCase(std::string_view left, std::string_view right) {

@@ -17,6 +17,9 @@ unsigned char FoldCase(unsigned char character);
 
 std::string FoldCase(std::string_view text);
 
+// Lower case without accents, for what is looked for by hand: "\xC9lan" is "elan".
+void FoldAccents(std::string_view text, std::string& folded);
+
 // The one order of the program: letters folded to lower case, then compared byte by byte.
 // Less than, equal to or greater than zero, as `left` stands before, beside or behind `right`.
 int CompareNoCase(std::string_view left, std::string_view right);

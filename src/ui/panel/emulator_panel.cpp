@@ -1,5 +1,7 @@
 #include "ui/panel/emulator_panel.h"
 
+#include <QKeyEvent>
+
 #include "core/platform/messages.h"
 
 namespace zarvo {
@@ -38,6 +40,14 @@ bool EmulatorPanel::SaveAndMarkClosed() {
   tools_.main.TellSection(emulator_, false);
   closed_ = true;
   return true;
+}
+
+void EmulatorPanel::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Find)) {
+    find->Open(games->lstRom != nullptr ? games->lstRom : favourites->lstPref);
+  } else {
+    Window::keyPressEvent(event);
+  }
 }
 
 void EmulatorPanel::Exit() {

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "ui/panel/find_field.h"
 #include "ui/panel/game_start.h"
 #include "ui/panel/list_menu.h"
 #include "ui/panel/panel_pages.h"
@@ -49,9 +50,12 @@ class EmulatorPanel : public Window {
   std::unique_ptr<CurrentGame> game;
   std::unique_ptr<PanelPaths> paths;
   std::unique_ptr<RecordingRules> recording;  // nullptr where the emulator has none
+  FindField* find;                            // in the list that it was opened for
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  // Ctrl+F from wherever it wasn't taken.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   // panel_build.cpp

@@ -139,7 +139,16 @@ void GameFilters::Refresh() {
   Step(ValueFilter::kGenre, genre);
   Step(ValueFilter::kManufactor, manufactor);
   Step(ValueFilter::kYear, year);
+  TellWhyEmpty();
   lstRom->SetListIndex(0);
+}
+
+void GameFilters::TellWhyEmpty() {
+  std::string text;
+  for (const ComboBox* const combo : Combos()) {
+    if (combo->ListIndex() > 0) text += "\r" + combo->Text();
+  }
+  lstRom->SetEmptyText(text.empty() ? "" : "No game passes:" + text);
 }
 
 void GameFilters::Step(ValueFilter filter, const std::string& value) {

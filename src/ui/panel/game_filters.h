@@ -49,6 +49,7 @@ class GameFilters {
   void BuildCombos(QWidget* panel);
   void BuildCounters(QWidget* panel);
   void ReadTotal();
+  void TellWhyEmpty();
   void Step(ValueFilter filter, const std::string& value);
   void ReportMissingScan();
   void OnComboClick(ComboBox* combo);

@@ -1,4 +1,4 @@
-// The popup menu of a panel's lists: four short facts about one game.
+// The popup menu of a panel's lists: four short facts about one game, and what can be done.
 #pragma once
 
 #include <string_view>
@@ -21,13 +21,17 @@ class ListMenu {
   // `needs_selection`: not without one.
   void Serve(ListBox* list, bool needs_selection);
 
+  // "Find" was chosen in the menu of a list.
+  Event<ListBox*> Find;
+
   [[nodiscard]] const PopupMenu& Menu() const { return menu_; }
 
  private:
-  void Open(const ListBox& list, bool needs_selection, QPoint place);
+  void Open(ListBox* list, bool needs_selection, QPoint place);
 
   const Catalogue& games_;
   PopupMenu menu_;
+  ListBox* list_ = nullptr;  // whose menu it is
 };
 
 }  // namespace zarvo

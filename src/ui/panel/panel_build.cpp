@@ -58,6 +58,7 @@ void EmulatorPanel::BuildBehaviour() {
   }
   start_ = std::make_unique<GameStart>(emulator_, tools_, *game, *pages, *paths, recording.get());
   menu_ = std::make_unique<ListMenu>(emulator_, games->Games());
+  find = new FindField(this, games->Games(), [this](ListBox* list) { StartSelected(list); });
 }
 
 GameControls EmulatorPanel::ControlsOfGame() {
@@ -154,9 +155,16 @@ void EmulatorPanel::Wire() {
 }
 
 void EmulatorPanel::WireLists() {
+  menu_->Find.Connect([this](ListBox* list) { find->Open(list); });
   const auto serve = [this](ListBox* list, bool starts_empty) {
     list->DblClick.Connect([this, list] { StartSelected(list); });
     list->KeyDown.Connect([this, list, starts_empty](const KeyArgs& key) {
+      const bool is_slash = key.code == key::kSlash && key.shift <= kShiftDown;
+      if (is_slash || (key.code == key::kLetterF && key.shift == kControlDown)) {
+        list->SwallowKey();
+        find->Open(list);
+        return;
+      }
       if (key.code == key::kEnter && (starts_empty || !list->Text().empty())) StartSelected(list);
     });
   };

@@ -175,6 +175,8 @@ std::string PanelPages::FirstGame() {
 void PanelPages::OnSelected(const ListBox* list) {
   const bool guarded = list == games_->lstRom && emulator_.has_filters;
   if (guarded && games_->lblFilterHide == "FREE") return;
+  favourites_->lstPref->SetBright(list == favourites_->lstPref);
+  if (games_->lstRom != nullptr) games_->lstRom->SetBright(list == games_->lstRom);
   game_->TakeBack();
   ++cycles_;
   const std::string name = list->Text();

@@ -11,7 +11,7 @@ struct KeyRow {
   int code;
 };
 
-constexpr std::array<KeyRow, 23> kKeys = {{{Qt::Key_Backspace, key::kBackspace},
+constexpr std::array<KeyRow, 24> kKeys = {{{Qt::Key_Backspace, key::kBackspace},
                                            {Qt::Key_Tab, key::kTab},
                                            {Qt::Key_Backtab, key::kTab},
                                            {Qt::Key_Return, key::kEnter},
@@ -33,6 +33,7 @@ constexpr std::array<KeyRow, 23> kKeys = {{{Qt::Key_Backspace, key::kBackspace},
                                            {Qt::Key_Insert, key::kInsert},
                                            {Qt::Key_Delete, key::kDelete},
                                            {Qt::Key_Minus, key::kMinus},
+                                           {Qt::Key_Slash, key::kSlash},
                                            {Qt::Key_Menu, 93}}};
 
 constexpr int kF1 = 112;

@@ -26,8 +26,11 @@ inline constexpr int kInsert = 45;
 inline constexpr int kDelete = 46;
 inline constexpr int kDigit0 = 48;   // to 57 for 9
 inline constexpr int kNumpad0 = 96;  // to 105 for 9
+inline constexpr int kLetterF = 70;
 inline constexpr int kNumpadMinus = 109;
+inline constexpr int kF3 = 114;
 inline constexpr int kMinus = 189;
+inline constexpr int kSlash = 191;
 }  // namespace key
 
 // Bits of the shift state.

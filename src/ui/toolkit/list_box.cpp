@@ -29,6 +29,7 @@ constexpr quint64 kTypingPause = 1000;  // milliseconds after which typing start
 constexpr Colour kRow{0x33190F};
 constexpr Colour kOtherRow{0x3D2216};
 constexpr Colour kText{0xF0DDD2};
+constexpr Colour kDimSelection{0x5C3A2E};
 
 // A key that puts down a character, without Ctrl or Alt.
 bool IsTyping(const QKeyEvent& event) {
@@ -154,7 +155,7 @@ int ListBox::EntryAt(QPoint point) const { return Geometry().EntryAt(point); }
 void ListBox::UpdateScrollBars() {
   const ListGeometry geometry = Geometry();
   QScrollBar* const other = columns_ == 1 ? horizontalScrollBar() : verticalScrollBar();
-  Bar()->setRange(0, geometry.ScrollRange(height()));
+  Bar()->setRange(0, geometry.ScrollRange(height() - head_room_));
   Bar()->setPageStep(geometry.ScrollPage());
   other->setRange(0, 0);
   viewport()->update();
@@ -177,13 +178,35 @@ void ListBox::paintEvent(QPaintEvent* /*event*/) {
   for (int index = geometry.FirstSeen(); index < geometry.LastSeen(); ++index) {
     PaintEntry(painter, index, geometry.EntryRect(index));
   }
+  if (ListCount() == 0) {
+    constexpr int kMargin = 6;
+    painter.setPen(kText.ToQt());
+    painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                     Qt::AlignCenter | Qt::TextWordWrap, ToQt(empty_text_));
+  }
   painter.setPen(kOtherRow.ToQt().lighter(130));
-  for (int column = 1; column < columns_; ++column) {
+  for (int column = 1; column < columns_ && ListCount() > 0; ++column) {
     const int right = column * geometry.ColumnWidth() - 1;
     painter.drawLine(right, 0, right, height());
   }
   DrawSunkenEdge(painter, viewport()->rect());
   if (hasFocus()) DrawFocus(painter, viewport()->rect());
+}
+
+void ListBox::SetBright(bool bright) {
+  bright_ = bright;
+  viewport()->update();
+}
+
+void ListBox::SetEmptyText(std::string_view text) {
+  empty_text_ = text;
+  setAccessibleDescription(ToQt(text));
+  viewport()->update();
+}
+
+void ListBox::SetHeadRoom(int pixels) {
+  head_room_ = pixels;
+  setViewportMargins(0, pixels, 0, 0);
 }
 
 void ListBox::SetTextSize(int pixels) { setFont(InSize(font(), pixels)); }
@@ -211,7 +234,7 @@ bool ListBox::ShowWholeText(int index, const QPoint& place) {
 
 void ListBox::PaintEntry(QPainter& painter, int index, const QRect& rect) {
   const bool selected = index == index_;
-  const QColor back = selected    ? (hasFocus() ? kSlate : Colour{0x7A5248}).ToQt()
+  const QColor back = selected    ? (bright_ ? kSlate : kDimSelection).ToQt()
                       : index % 2 ? kOtherRow.ToQt()
                                   : kRow.ToQt();
   painter.fillRect(rect, back);

@@ -48,6 +48,14 @@ class ListBox : public QAbstractScrollArea, public Control {
   void SetColumns(int columns);
   // Height of the text in pixels; 11 unless set.
   void SetTextSize(int pixels);
+  // Whether its selected entry is the one that counts; true at first. The other's is painted dim.
+  void SetBright(bool bright);
+  [[nodiscard]] bool IsBright() const { return bright_; }
+  // Stands in the list, and is heard, while that has no entries.
+  void SetEmptyText(std::string_view text);
+  [[nodiscard]] const std::string& EmptyText() const { return empty_text_; }
+  // Keeps so many pixels above the entries free, for a control that stands in the list.
+  void SetHeadRoom(int pixels);
 
   Event<> Click;
   Event<> DblClick;
@@ -99,6 +107,9 @@ class ListBox : public QAbstractScrollArea, public Control {
   NameList items_;
   int index_ = -1;
   int columns_ = 1;
+  int head_room_ = 0;
+  bool bright_ = true;
+  std::string empty_text_;
   bool sorted_ = false;
   QElapsedTimer enter_ran_;  // since the end of a child that Enter started
   bool swallow_ = false;

@@ -1,5 +1,7 @@
 #include "ui/toolkit/popup_menu.h"
 
+#include <utility>
+
 #include "ui/toolkit/control.h"
 #include "ui/toolkit/input_gate.h"
 
@@ -17,6 +19,10 @@ PopupMenu::PopupMenu(std::string_view object_name, const std::vector<std::string
 
 void PopupMenu::SetCaption(int item, std::string_view caption) {
   items_[static_cast<std::size_t>(item)]->setText(ToQtCaption(caption));
+}
+
+void PopupMenu::SetAction(int item, std::function<void()> action) {
+  QObject::connect(items_[static_cast<std::size_t>(item)], &QAction::triggered, std::move(action));
 }
 
 std::string PopupMenu::Caption(int item) const {

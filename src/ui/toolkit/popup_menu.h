@@ -2,20 +2,22 @@
 #pragma once
 
 #include <QMenu>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zarvo {
 
-// Its items do nothing when chosen: the menu is a small display. Items are named once, their
-// captions change.
+// An item does nothing when chosen unless it is given an action: the menu is a small display. Items
+// are named once, their captions change.
 class PopupMenu {
  public:
   // Item names in order; an empty name is a separator.
   PopupMenu(std::string_view object_name, const std::vector<std::string>& item_names);
 
   void SetCaption(int item, std::string_view caption);
+  void SetAction(int item, std::function<void()> action);
   [[nodiscard]] std::string Caption(int item) const;
   // Returns when the menu has been closed.
   void ShowAt(QPoint global);
