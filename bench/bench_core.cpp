@@ -163,7 +163,7 @@ bool MeasureFind(Site& site, BarePass& pass, int games) {
   return Measure(
       {.name = "find, one key",
        .games = games,
-       .target = 4,
+       .target = 6,
        .bare = [&] { pass.CountLines(site.DataFile()); },
        .measured = [&] { Check(catalogue.Search("zzqx", all).empty(), "find nothing"); }});
 }

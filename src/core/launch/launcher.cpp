@@ -5,6 +5,7 @@
 #include <optional>
 #include <system_error>
 
+#include "core/launch/near_names.h"
 #include "core/platform/dos_path.h"
 #include "core/platform/dosbox.h"
 #include "core/platform/enter_folder.h"
@@ -16,6 +17,8 @@ namespace {
 
 // The set of shared roms; alone it starts no game.
 constexpr std::string_view kNeoGeo = "neogeo";
+
+constexpr std::string_view kArchive = ".zip";
 
 DosPath RomFolderOf(const Emulator& emulator, const DosPath& emulator_folder) {
   if (emulator.rom_sub_folder.empty()) return emulator_folder;
@@ -41,7 +44,7 @@ bool SameFolder(const DosFiles& files, const DosPath& left, const DosPath& right
 // The archive of a set, if its name is one that can't lead elsewhere.
 std::optional<FileName> ArchiveOf(const std::string& rom) {
   const std::optional<FileName> set = FileName::Plain(rom);
-  return set ? std::optional(set->With(".zip")) : std::nullopt;
+  return set ? std::optional(set->With(kArchive)) : std::nullopt;
 }
 
 class OneLaunch {
@@ -85,6 +88,7 @@ class OneLaunch {
 
   LaunchEnd NoRom();
   LaunchEnd Fail(std::string message);
+  [[nodiscard]] std::string WhatWasLookedFor() const;
   [[nodiscard]] std::string TitleOr(std::string_view title) const;
 
   // In the folder of the game's record, and in the emulator's own.
@@ -231,7 +235,8 @@ LaunchEnd OneLaunch::RunBatch() {
 }
 
 LaunchEnd OneLaunch::NoRom() {
-  tools_.boxes.Warn(TitleOr(emulator_.launch.no_rom_title), MsgNoRom);
+  tools_.boxes.Warn(TitleOr(emulator_.launch.no_rom_title),
+                    std::string(MsgNoRom) + WhatWasLookedFor());
   calls_.show_rom_picker();
   return LaunchEnd::kNoRom;
 }
@@ -239,6 +244,29 @@ LaunchEnd OneLaunch::NoRom() {
 LaunchEnd OneLaunch::Fail(std::string message) {
   failure_ = std::move(message);
   return LaunchEnd::kFailed;
+}
+
+// Below the message: file and folder, and the sets there whose names are near.
+std::string OneLaunch::WhatWasLookedFor() const {
+  if (!IsPlainName(rom_))
+    return "\r\rThe data file gives this game a set that no file can be called.";
+  std::string text = "\r\rZarvo looked for " + rom_ + ".zip";
+  if (IsPlainName(parent_) && !IsNeoGeo()) text += ", or its parent's " + parent_ + ".zip,";
+  text +=
+      given_folder_.IsEmpty() ? ", and no folder is given." : " in " + given_folder_.Text() + ".";
+  const auto entries = files_.ListFolder(given_folder_);
+  if (given_folder_.Drive() == 0 || !entries) return text;
+  std::vector<std::string> sets;
+  for (const FolderEntry& entry : *entries) {
+    if (!entry.is_folder && MatchesPattern(entry.name, "*.zip")) {
+      sets.push_back(entry.name.substr(0, entry.name.size() - kArchive.size()));
+    }
+  }
+  const std::vector<std::string> near = NearNames(rom_, sets);
+  for (const std::string& set : near) {
+    text += (&set == &near.front() ? "\rThere is " : ", ") + set + ".zip";
+  }
+  return text;
 }
 
 std::string OneLaunch::TitleOr(std::string_view title) const {

@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 
+#include "core/launch/near_names.h"
 #include "core/platform/dos_path.h"
 #include "core/platform/messages.h"
 #include "fakes/emulators.h"
@@ -114,6 +115,11 @@ class LauncherTest : public testing::Test {
     const std::string below = "\r\rYes runs the archive that stands in " + own_ +
                               ". Zarvo overwrites and deletes nothing there.";
     for (auto& box : boxes_.shown) {
+      looked_for_.clear();
+      if (box.text.starts_with(MsgNoRom)) {
+        looked_for_ = box.text.substr(MsgNoRom.size());
+        box.text.resize(MsgNoRom.size());
+      }
       box.text = InShort(InShort(box.text, MsgNoRom, "no rom"), MsgRomOverwrite, "overwrite?");
       EXPECT_EQ(box.icon, BoxIcon::kExclamation) << box.text;
       const bool is_question = box.buttons == BoxButtons::kYesNo;
@@ -144,6 +150,7 @@ class LauncherTest : public testing::Test {
   std::string own_;
   Status run_result_ = Success();
   std::string batch_;
+  std::string looked_for_;  // what the last box said below "Rom not found"
 };
 
 TEST_F(LauncherTest, TheBatchFileHoldsTheCommandLineAndIsGoneAfterTheRun) {
@@ -283,6 +290,45 @@ TEST_F(LauncherTest, MameAndTheArchiveOfTheParent) {
   UseMame("sf2");
   std::filesystem::remove(drive_.Host(own_));
   EXPECT_EQ(Start(), "ran with sf2.zip=mine") << "MAME makes its rom folder";
+}
+
+// The box names file and folder, and sets in that folder that may have been meant.
+TEST_F(LauncherTest, WhatIsMissingIsNamedWithWhatIsNear) {
+  const auto looked_for = [this](const std::string& mine, const std::string& parent = "-") {
+    UseMame(mine);
+    panel_.rom = "sf2ce";
+    panel_.parent = parent;
+    EXPECT_EQ(Start(), "no rom: no rom");
+    return looked_for_;
+  };
+  const std::string text = "\r\rZarvo looked for sf2ce.zip";
+  EXPECT_EQ(looked_for(""), text + " in C:\\Mine.");
+  EXPECT_EQ(looked_for("sf2 puckman SF2CEA sf2cd xx2yy"),
+            text + " in C:\\Mine.\rThere is SF2CEA.zip, sf2cd.zip, sf2.zip");
+  EXPECT_EQ(looked_for("", "sf2"), text + ", or its parent's sf2.zip, in C:\\Mine.");
+  EXPECT_EQ(looked_for("neogeo", "neogeo"), text + " in C:\\Mine.");
+  panel_.options.rom_folder.clear();
+  EXPECT_EQ(Start(), "no rom: no rom");
+  EXPECT_EQ(looked_for_, text + ", and no folder is given.");
+  panel_.rom = "..\\x";
+  EXPECT_EQ(Start(), "no rom: no rom");
+  EXPECT_EQ(looked_for_, "\r\rThe data file gives this game a set that no file can be called.");
+}
+
+TEST(NearNamesTest, AreThoseThatMayHaveBeenMeant) {
+  using Names = std::vector<std::string>;
+  const Names names = {"sf2",     "sf2ce",  "sf2j", "1942",    "pacman",
+                       "puckman", "pckman", "a",    "PUCKMANA"};
+  const std::pair<const char*, Names> cases[] = {
+      {"sf2", {"sf2j", "sf2ce"}},
+      {"puckman", {"PUCKMANA", "pckman", "pacman"}},
+      {"1943", {"1942"}},
+      {"b", {}},
+      {"galaga", {}},
+      {"", {}},
+  };
+  for (const auto& [wanted, near] : cases) EXPECT_EQ(NearNames(wanted, names), near) << wanted;
+  EXPECT_EQ(NearNames("abc", Names(9, "abcd")).size(), 5U);
 }
 
 TEST_F(LauncherTest, AStepThatFailsEndsTheLaunchAndRemovesWhatItMade) {
