@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/platform/dos_path.h"
 #include "core/platform/text.h"
 
 namespace zarvo {
@@ -21,7 +22,8 @@ std::size_t Beginning(Words words, std::string_view said) {
 // What of the words was a piece of the command line.
 struct Match {
   std::size_t taken = 0;  // words; 0: it isn't this piece
-  std::string today;
+  std::vector<std::string> today{};
+  bool goes_on = false;  // the first of them is the rest of the word in front
 };
 
 std::string Filled(std::string_view line, std::string_view value) {
@@ -36,6 +38,13 @@ std::string Filled(std::string_view line, std::string_view value) {
   return text;
 }
 
+// The words of a line, with the value in them; it stays one word whatever it holds.
+std::vector<std::string> FilledWords(std::string_view line, std::string_view value) {
+  std::vector<std::string> words = SplitAtBlanks(line);
+  for (std::string& word : words) word = Filled(word, value);
+  return words;
+}
+
 // One of a list's values; none of them begins as another does.
 Match MatchList(const Piece& piece, Words words) {
   for (std::size_t i = 0; i < piece.words.size(); ++i) {
@@ -44,7 +53,8 @@ Match MatchList(const Piece& piece, Words words) {
     if (taken == 0) continue;
     const std::string_view value =
         piece.today.values.empty() ? piece.words[i] : piece.today.values[i];
-    return {.taken = taken, .today = value.empty() ? "" : Filled(piece.today.line, value)};
+    if (value.empty()) return {.taken = taken};
+    return {.taken = taken, .today = FilledWords(piece.today.line, value)};
   }
   return {};
 }
@@ -53,14 +63,14 @@ Match MatchList(const Piece& piece, Words words) {
 Match MatchValue(const Piece& piece, Words words) {
   const std::size_t taken = Beginning(words, piece.word);
   if (taken == 0 || words.size() == taken) return {};
-  return {.taken = taken + 1, .today = Filled(piece.today.line, words[taken])};
+  return {.taken = taken + 1, .today = FilledWords(piece.today.line, words[taken])};
 }
 
 Match MatchPiece(const Piece& piece, Words words) {
   switch (piece.rule) {
     case PieceRule::kOn:
     case PieceRule::kOff:
-      return {.taken = Beginning(words, piece.word), .today = std::string(piece.today.line)};
+      return {.taken = Beginning(words, piece.word), .today = SplitAtBlanks(piece.today.line)};
     case PieceRule::kIndex:
       return MatchList(piece, words);
     case PieceRule::kText:
@@ -74,6 +84,7 @@ Match FindPiece(const CommandTable& command, Words words) {
   Match best;
   for (const Piece& piece : command.pieces) {
     Match match = MatchPiece(piece, words);
+    match.goes_on = !piece.today.line.starts_with(' ');
     if (match.taken > best.taken) best = std::move(match);
   }
   return best;
@@ -107,10 +118,10 @@ std::string SaidToday(const Today& today) {
 Result<std::vector<std::string>> Translate(const Emulator& emulator, Words words) {
   const CommandTable& command = emulator.command;
   words = words.subspan(Beginning(words, command.before_rom));
-  if (words.empty() || words.front().starts_with('-')) {
+  if (words.empty() || !IsPlainName(words.front())) {
     return Error{"There is no game on the command line of " + std::string(emulator.word) + "."};
   }
-  std::string line(words.front());
+  std::vector<std::string> today = {std::string(words.front())};
   words = words.subspan(1);
   words = words.subspan(Beginning(words, command.behind_rom));
   while (!words.empty()) {
@@ -119,10 +130,12 @@ Result<std::vector<std::string>> Translate(const Emulator& emulator, Words words
       return Error{std::string(emulator.word) + " has no option \"" + std::string(words.front()) +
                    "\"."};
     }
-    line += match.today;
+    auto added = match.today.begin();
+    if (match.goes_on && added != match.today.end()) today.back() += *added++;
+    today.insert(today.end(), added, match.today.end());
     words = words.subspan(match.taken);
   }
-  return SplitAtBlanks(line);
+  return today;
 }
 
 std::string TranslationTable() {

@@ -55,9 +55,19 @@ TEST(Translation, SaysEachPieceInTodaysWords) {
        "rtype -resolution 512x384 -frameskip 4 -autoror -samplerate 44100"},
       {kM72, "rtype -R 44100", "! M72 has no option \"-R\"."},
       {kM72, "-res 512x384", "! There is no game on the command line of M72."},
+      {kMame, "..\\x", "! There is no game on the command line of Mame."},
       {kMame, "", "! There is no game on the command line of Mame."},
   };
   for (const auto& [emulator, then, today] : rows) EXPECT_EQ(Today(emulator, then), today) << then;
+}
+
+// A word with a blank in it, which no batch file gives, stays one word.
+TEST(Translation, AWordStaysAWord) {
+  const std::string_view words[] = {"pong", "-record", "a -verbose"};
+  EXPECT_THAT(Translate(kMame, words).value(),
+              testing::ElementsAre("pong", "-input_directory", "INP", "-record", "a -verbose.inp"));
+  const std::string_view game[] = {"pong -verbose"};
+  EXPECT_FALSE(Translate(kMame, game));
 }
 
 // Whatever a panel can say is understood: every value of every option, and all options at once.

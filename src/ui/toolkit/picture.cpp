@@ -66,13 +66,17 @@ Result<Picture> Picture::FromFile(const DosFiles& files, const DosPath& path, in
       qint64{size.width()} * size.height() > kMostPixels) {
     return Error{"This is no picture that can be shown."};
   }
-  if (std::max(size.width(), size.height()) > longest_side) {
-    reader.setScaledSize(
-        size.scaled(longest_side, longest_side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-  }
+  const QSize smaller =
+      size.scaled(longest_side, longest_side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  const auto is_large = [&](const QSize& each) {
+    return std::max(each.width(), each.height()) > longest_side;
+  };
+  if (is_large(size)) reader.setScaledSize(smaller);
   Picture picture;
   picture.image_ = reader.read();
   if (picture.image_.isNull()) return Error{"The picture is broken."};
+  // Not every format minds what the reader was told.
+  if (is_large(picture.image_.size())) picture.image_ = picture.image_.scaled(smaller);
   return picture;
 }
 
