@@ -25,7 +25,7 @@ if __name__ == "__main__" and INSIDE not in os.environ:
                             env=os.environ | {INSIDE: "1"}, check=False).returncode)
 
 from e2e import Scenario, wait_until  # noqa: E402
-from driven_zarvo import CONFIGURATION, LAYOUTS, MAIN, PANEL, PANEL_TITLES, SELECTOR, TITLE  # noqa: E402
+from driven_zarvo import CONFIGURATION, GAMES, LAYOUTS, MAIN, PANEL, PANEL_TITLES, SELECTOR, TITLE  # noqa: E402
 
 PAGES = {"snapshot": "Snapshot", "settings": "Settings", "details": "Details", "help": "Help",
          "configuration": "Configuration"}
@@ -104,6 +104,11 @@ class Heard(Scenario):
                             if role == "push button" and name in PAGES.values()
                             and self.has(thing, "checked")] == [page]
                 wait_until(down, f"the page {where} to be told as the one that is open")
+            self.zarvo.click(panel, GAMES[emulator])
+            self.desktop.keys("ctrl+f")
+            self.desktop.write("e")
+            self.assert_finds(title, emulator)
+            self.desktop.keys("Escape")
             opened = self.assert_heard(TITLE, "main window")
             self.assertTrue(self.has(opened["push button", title], "checked"), emulator)
             self.zarvo.click(panel, PANEL["X"])
@@ -127,6 +132,15 @@ class Heard(Scenario):
             window = self.dialog(f"picker, {picker}")
             self.desktop.keys("Escape")
             self.desktop.wait_for_end(window)
+
+    def assert_finds(self, title, emulator):
+        """The field that finds games is heard, with what it has found."""
+        def told():
+            heard = self.assert_heard(f"{title} - {TITLE}", f"{emulator}, find")
+            found = [thing.name for thing in self.walk(self.frame(f"{title} - {TITLE}"))
+                     if thing.name.startswith("Found: 1 of ")]
+            return ("text", "Find a game by a part of its name") in heard and found
+        wait_until(told, f"the field that finds games of {emulator} to be heard")
 
     def dialog(self, where, below=None):
         """The dialog over the one below, heard."""

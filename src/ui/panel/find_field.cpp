@@ -52,7 +52,7 @@ FindField::FindField(QWidget* panel, const Catalogue& games,
       games_(games),
       start_(std::move(start)) {
   hide();
-  setAttribute(Qt::WA_NoMousePropagation);  // the list below has no entries here
+  setAttribute(Qt::WA_NoMousePropagation);  // the panel below has nothing here
   txtFind->SetName("txtFind");
   txtFind->SetAccessibleName("Find a game by a part of its name");
   lblFound->SetName("lblFound");
@@ -74,14 +74,17 @@ void FindField::Wire() {
 
 void FindField::Open(ListBox* list) {
   if (list_ != list) {
-    if (list_ != nullptr) Close();
+    if (list_ != nullptr) {
+      Close();
+      list_->removeEventFilter(this);
+    }
     list_ = list;
-    setParent(list);
     list->installEventFilter(this);
   }
   list->SetHeadRoom(ToPixels(kHeight));
   Fit();
   show();
+  raise();
   txtFind->setFocus();
   txtFind->selectAll();
   Tell(games_.Search(txtFind->Text(), list->Items()));
@@ -96,13 +99,15 @@ void FindField::Close() {
 }
 
 bool FindField::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == list_ && event->type() == QEvent::Resize) Fit();
+  const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+  if (watched == list_ && moved) Fit();
   return false;
 }
 
 void FindField::Fit() {
   const int width = list_->Width();
-  setGeometry(0, 0, list_->width(), ToPixels(kHeight));
+  setGeometry(
+      QRect(list_->mapTo(parentWidget(), QPoint()), QSize(list_->width(), ToPixels(kHeight))));
   const int inside = kHeight - 2 * kMargin;
   int right = width - kMargin;
   for (Control* const button :

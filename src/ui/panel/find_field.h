@@ -13,7 +13,7 @@
 
 namespace zarvo {
 
-// Stands at the top of the list that it looks through. While the player types, the selection goes
+// Stands over the top of the list that it looks through. While the player types, the selection goes
 // to the first game that is found; Down or F3 and Up or Shift+F3 go on, Enter starts the game,
 // Escape closes the field and leaves the selection. The list may be filtered meanwhile: every step
 // looks anew.
@@ -26,6 +26,8 @@ class FindField : public QWidget {
   // Opens it in a list, which may be another one than before, with its text selected.
   void Open(ListBox* list);
   void Close();
+  // The list that it was opened in last; nullptr at first.
+  [[nodiscard]] ListBox* List() const { return list_; }
 
   TextBox* txtFind;
   Label* lblFound;  // "3 of 41"
@@ -34,7 +36,7 @@ class FindField : public QWidget {
   Label* cmdCloseFind;
 
  protected:
-  // Follows the width of its list.
+  // Follows its list.
   bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

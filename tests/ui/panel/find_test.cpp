@@ -74,7 +74,8 @@ TEST_F(FindTest, TheFavouritesAreSearchedAndOtherListsAreLeftAlone) {
   EmulatorPanel& panel = OpenConfigured(kMame, {"Zaxxon", "Puck Man"});
   ListBox* const small = panel.favourites->lstPref;
   Key(small, Qt::Key_F, Qt::ControlModifier);
-  EXPECT_EQ(panel.find->parentWidget(), small);
+  EXPECT_EQ(panel.find->List(), small);
+  EXPECT_EQ(panel.find->pos(), small->pos());
   Type(panel, QStringLiteral("a"));
   EXPECT_EQ(Look(panel), "1 of 2: Puck Man");
   PressKey(panel.find->txtFind, Qt::Key_Down);
@@ -84,7 +85,7 @@ TEST_F(FindTest, TheFavouritesAreSearchedAndOtherListsAreLeftAlone) {
   PressKey(panel.find->txtFind, Qt::Key_Down);
   EXPECT_EQ(Look(panel), "1 of 1: Zaxxon") << "it looks anew";
   Key(&panel, Qt::Key_F, Qt::ControlModifier);
-  EXPECT_EQ(panel.find->parentWidget(), panel.games->lstRom) << "from anywhere in the panel";
+  EXPECT_EQ(panel.find->List(), panel.games->lstRom) << "from anywhere in the panel";
   Key(OpenConfigured(kM72).favourites->lstPref, Qt::Key_F, Qt::ControlModifier);
   EXPECT_TRUE(IsOpen(sections_.Panel(kM72)));
 }
