@@ -13,6 +13,7 @@
 #include "ui/panel/panel_pages.h"
 #include "ui/panel/panel_paths.h"
 #include "ui/panel/panel_sizes.h"
+#include "ui/shell/window_menu.h"
 #include "ui/toolkit/window.h"
 
 namespace zarvo {
@@ -82,6 +83,7 @@ class EmulatorPanel : public Window {
   SectionState& state_;
   std::unique_ptr<GameStart> start_;
   std::unique_ptr<ListMenu> menu_;
+  std::unique_ptr<WindowMenu> window_menu_;
   QWidget* right_edge_;
   QWidget* bottom_edge_;
   bool closed_ = false;  // saved and counted as closed

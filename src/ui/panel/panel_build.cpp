@@ -151,6 +151,7 @@ void EmulatorPanel::Wire() {
   logo->KeyDown.Connect([this](const KeyArgs& key) { MoveByKey(key); });
   Event<>& dock = emulator_.panel.docks_on_click ? logo->Click : logo->DblClick;
   dock.Connect([this] { Dock(); });
+  window_menu_ = std::make_unique<WindowMenu>(*this, *logo, [this] { Dock(); });
   WireHover(*this);
 }
 

@@ -50,7 +50,7 @@ void MainWindow::StartUp() {
   }
   Ignore(files_.MakeFolder("Cfg"));
   Ignore(files_.MakeFolder("Data"));
-  SetMainPlace(400, 500);
+  PutAtStart();
   Ignore(files_.ChangeFolder(folders_.ProgramFolder));
   actions_.autoload();
   Timer1.SetInterval(kTickerInterval);
@@ -65,6 +65,8 @@ void MainWindow::Appear() {
     for (std::size_t i = 0; i < facts.size(); ++i) TellFact(i);
   });
 }
+
+void MainWindow::PutAtStart() { SetMainPlace(400, 500); }
 
 void MainWindow::SetMainPlace(int top, int left) {
   SetTop(top);

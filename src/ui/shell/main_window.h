@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "core/platform/message_boxes.h"
 #include "core/platform/program.h"
 #include "ui/shell/section_host.h"
+#include "ui/shell/window_menu.h"
 #include "ui/toolkit/image_box.h"
 #include "ui/toolkit/label.h"
 #include "ui/toolkit/timer.h"
@@ -83,6 +85,7 @@ class MainWindow : public Window, public MainPlace {
   void Hover(const Emulator& emulator);
   void HoverGround(const MouseArgs& mouse);
   void MoveByMouse(const MouseArgs& mouse);
+  void PutAtStart();
   void TellFact(std::size_t index);
   void Turn();
   void ConfirmEnd(bool& refuse);
@@ -92,6 +95,7 @@ class MainWindow : public Window, public MainPlace {
   MessageBoxes& boxes_;
   HeaderReader read_header_;
   MainActions actions_;
+  std::unique_ptr<WindowMenu> window_menu_;
 };
 
 }  // namespace zarvo

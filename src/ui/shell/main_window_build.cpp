@@ -197,6 +197,7 @@ void MainWindow::Wire() {
   WireCommand(lblLays, lblAbout, [this] { actions_.show_layouts(); });
   WireCommand(lblAbout, lblLays, [this] { actions_.show_about(); });
   for (const Emulator& emulator : Emulators()) WireSelector(emulator);
+  window_menu_ = std::make_unique<WindowMenu>(*this, *imgZarvo, [this] { PutAtStart(); });
   Timer1.Tick.Connect([this] { Turn(); });
   Unload.Connect([this](bool& refuse) { ConfirmEnd(refuse); });
 }

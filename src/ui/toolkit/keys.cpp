@@ -34,7 +34,7 @@ constexpr std::array<KeyRow, 24> kKeys = {{{Qt::Key_Backspace, key::kBackspace},
                                            {Qt::Key_Delete, key::kDelete},
                                            {Qt::Key_Minus, key::kMinus},
                                            {Qt::Key_Slash, key::kSlash},
-                                           {Qt::Key_Menu, 93}}};
+                                           {Qt::Key_Menu, key::kMenu}}};
 
 constexpr int kF1 = 112;
 

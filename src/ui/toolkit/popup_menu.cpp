@@ -17,6 +17,8 @@ PopupMenu::PopupMenu(std::string_view object_name, const std::vector<std::string
   }
 }
 
+void PopupMenu::SetAccessibleName(std::string_view name) { menu_.setAccessibleName(ToQt(name)); }
+
 void PopupMenu::SetCaption(int item, std::string_view caption) {
   items_[static_cast<std::size_t>(item)]->setText(ToQtCaption(caption));
 }

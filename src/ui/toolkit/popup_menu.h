@@ -16,6 +16,8 @@ class PopupMenu {
   // Item names in order; an empty name is a separator.
   PopupMenu(std::string_view object_name, const std::vector<std::string>& item_names);
 
+  // What a screen reader says of the menu; "Facts about the game" at first.
+  void SetAccessibleName(std::string_view name);
   void SetCaption(int item, std::string_view caption);
   void SetAction(int item, std::function<void()> action);
   [[nodiscard]] std::string Caption(int item) const;

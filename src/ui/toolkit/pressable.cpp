@@ -39,7 +39,8 @@ void Pressable::mouseDoubleClickEvent(QMouseEvent* event) {
 void Pressable::keyPressEvent(QKeyEvent* event) {
   const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                        event->key() == Qt::Key_Enter;
-  if (!pressable_ || !presses || event->isAutoRepeat()) {
+  const bool alt = event->modifiers().testFlag(Qt::AltModifier);  // the window's own menu
+  if (!pressable_ || !presses || alt || event->isAutoRepeat()) {
     QWidget::keyPressEvent(event);
     return;
   }

@@ -1,7 +1,9 @@
 // The main window with real panels: start, ticker, hover, sections, end.
 #include "ui/shell/main_window.h"
 
+#include <QMenu>
 #include <QTest>
+#include <QTimer>
 
 #include "core/catalogue/data_file.h"
 #include "fakes/emulators.h"
@@ -231,6 +233,50 @@ TEST_F(MainWindowTest, TheBackgroundResetsTheClearLabelsOfOpenPanels) {
   ASSERT_EQ(Look(clear), "opaque 16576 65535");
   MoveMouse(&window_);
   EXPECT_EQ(Look(clear), "opaque 6061526 16777215");
+}
+
+// What a frame would offer, by the right button and by keys, on the logos of windows without one.
+TEST_F(MainWindowTest, TheLogosHaveAMenuForTheirWindow) {
+  window_.StartUp();
+  window_.Appear();
+  EmulatorPanel& panel = OpenConfigured(kMame);
+  const auto choose = [](QWidget* logo, const char* item, bool by_keys) {
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      EXPECT_EQ(menu->accessibleName(), QStringLiteral("Window menu"));
+      for (QAction* const action : menu->actions()) {
+        if (action->objectName() == QLatin1String(item)) action->trigger();
+      }
+      menu->close();
+    });
+    timer.start(0);
+    if (by_keys) {
+      QTest::keyClick(logo, Qt::Key_Space, Qt::AltModifier);
+    } else {
+      PressMouse(logo, {5, 5}, Qt::RightButton);
+      ReleaseMouse(logo, {5, 5}, Qt::RightButton);
+    }
+  };
+  window_.SetLeft(3000);
+  choose(window_.imgZarvo, "mnuPutBack", false);
+  EXPECT_EQ(std::pair(window_.Top(), window_.Left()), std::pair(400, 500));
+  const int docked = panel.Left();
+  panel.SetLeft(docked + 1500);
+  choose(panel.logo, "nothing", true);
+  EXPECT_EQ(panel.Left(), docked + 1500) << "Alt+Space doesn't press the logo";
+  choose(panel.logo, "mnuPutBack", true);
+  EXPECT_EQ(panel.Left(), docked);
+  choose(panel.logo, "mnuMove", true);
+  EXPECT_EQ(panel.focusWidget(), panel.logo);
+  choose(panel.logo, "mnuMinimise", true);
+  EXPECT_TRUE(panel.isMinimized());
+  choose(panel.logo, "mnuClose", false);
+  EXPECT_FALSE(sections_.IsOpen(kMame));
+  boxes_.answers = {BoxAnswer::kNo};
+  choose(window_.imgZarvo, "mnuClose", true);
+  EXPECT_THAT(TakeBoxes(), ElementsAre("? Do you really want to quit ?"));
 }
 
 }  // namespace
