@@ -85,8 +85,9 @@ class Catalogue {
   // can't be used the list stays as it was.
   void Filter(ValueFilter filter, std::string_view value, NameList& list) const;
 
-  // The entries of `list` that have `text` anywhere in their name, or are the game with the rom name
-  // `text`, without regard to case and accents; in the order of the list. None for an empty text.
+  // The entries of `list` that have `text` anywhere in their name, or are the game with the rom
+  // name `text`, without regard to case and accents; in the order of the list. None for an empty
+  // text.
   [[nodiscard]] std::vector<int> Search(std::string_view text, const NameList& list) const;
 
   // Looks for the archive of every game in `rom_folder` and writes the answers to `<Emu>.scn` in
