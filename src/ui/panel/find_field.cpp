@@ -1,11 +1,12 @@
 #include "ui/panel/find_field.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 #include <initializer_list>
 #include <string>
-#include <utility>
 
 #include "ui/panel/page_parts.h"
 #include "ui/toolkit/keys.h"
@@ -40,8 +41,7 @@ ImageBox* MakeArrow(QWidget* parent, const char* drawing, std::string_view name,
 
 }  // namespace
 
-FindField::FindField(QWidget* panel, const Catalogue& games,
-                     std::function<void(ListBox* list)> start)
+FindField::FindField(QWidget* panel, const Catalogue& games)
     : QWidget(panel),
       txtFind(new TextBox(this)),
       lblFound(new Label(this)),
@@ -49,8 +49,7 @@ FindField::FindField(QWidget* panel, const Catalogue& games,
       cmdPrevious(MakeArrow(this, "arrow_up", "cmdFindPrevious",
                             "Game that is found before (Up, Shift+F3)")),
       cmdCloseFind(MakeButton(this, ButtonKind::kClose, {}, "X")),
-      games_(games),
-      start_(std::move(start)) {
+      games_(games) {
   hide();
   setAttribute(Qt::WA_NoMousePropagation);  // the panel below has nothing here
   txtFind->SetName("txtFind");
@@ -66,6 +65,7 @@ FindField::~FindField() = default;
 
 void FindField::Wire() {
   txtFind->Change.Connect([this] { GoToFirst(); });
+  txtFind->installEventFilter(this);
   txtFind->KeyDown.Connect([this](const KeyArgs& key) { OnKey(key); });
   cmdNext->Click.Connect([this] { Step(1); });
   cmdPrevious->Click.Connect([this] { Step(-1); });
@@ -101,7 +101,11 @@ void FindField::Close() {
 bool FindField::eventFilter(QObject* watched, QEvent* event) {
   const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
   if (watched == list_ && moved) Fit();
-  return false;
+  // The list knows a key that is held from one that is pressed anew, and starts one game.
+  const bool is_key = watched == txtFind && event->type() == QEvent::KeyPress;
+  if (!is_key || KeyCodeOf(static_cast<const QKeyEvent&>(*event)) != key::kEnter) return false;
+  QApplication::sendEvent(list_, event);
+  return true;
 }
 
 void FindField::Fit() {
@@ -128,8 +132,6 @@ void FindField::OnKey(const KeyArgs& key) {
   const bool back = key.code == key::kUp || (key.code == key::kF3 && key.shift == kShiftDown);
   if (key.code == key::kDown || key.code == key::kF3 || back) {
     Step(back ? -1 : 1);
-  } else if (key.code == key::kEnter) {
-    if (!list_->Text().empty()) start_(list_);
   } else if (key.code == key::kEscape) {
     Close();
   } else {

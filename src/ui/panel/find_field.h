@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <vector>
 
 #include "core/catalogue/catalogue.h"
@@ -20,7 +19,7 @@ namespace zarvo {
 class FindField : public QWidget {
  public:
   // Hidden, until it is opened in a list.
-  FindField(QWidget* panel, const Catalogue& games, std::function<void(ListBox* list)> start);
+  FindField(QWidget* panel, const Catalogue& games);
   ~FindField() override;
 
   // Opens it in a list, which may be another one than before, with its text selected.
@@ -36,7 +35,7 @@ class FindField : public QWidget {
   Label* cmdCloseFind;
 
  protected:
-  // Follows its list.
+  // Follows its list, and hands Enter on to it.
   bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -51,7 +50,6 @@ class FindField : public QWidget {
   void Tell(const std::vector<int>& found);
 
   const Catalogue& games_;
-  std::function<void(ListBox* list)> start_;
   ListBox* list_ = nullptr;
 };
 

@@ -58,7 +58,7 @@ void EmulatorPanel::BuildBehaviour() {
   }
   start_ = std::make_unique<GameStart>(emulator_, tools_, *game, *pages, *paths, recording.get());
   menu_ = std::make_unique<ListMenu>(emulator_, games->Games());
-  find = new FindField(this, games->Games(), [this](ListBox* list) { StartSelected(list); });
+  find = new FindField(this, games->Games());
 }
 
 GameControls EmulatorPanel::ControlsOfGame() {

@@ -67,6 +67,11 @@ TEST_F(FindTest, EnterStartsTheGameThatWasFound) {
   PressKey(panel.find->txtFind, Qt::Key_Return);
   ASSERT_EQ(runs_.size(), 1U);
   EXPECT_THAT(runs_[0], testing::HasSubstr("Mame.exe zaxxon "));
+  for (int held = 0; held < 3; ++held) {
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(panel.find->txtFind, &again);
+  }
+  EXPECT_EQ(runs_.size(), 1U) << "held down it starts one game";
   EXPECT_TRUE(IsOpen(panel));
 }
 
