@@ -49,6 +49,7 @@ std::vector<std::string> NearNames(std::string_view wanted, const std::vector<st
   std::sort(near.begin(), near.end());
   if (near.size() > kMostNames) near.resize(kMostNames);
   std::vector<std::string> found;
+  found.reserve(near.size());
   for (auto& [distance, name] : near) found.push_back(std::move(name));
   return found;
 }

@@ -120,7 +120,8 @@ DosPath DosWorld::FullPath(const DosPath& path) const {
   if (!from_root && folder != folders_.end()) start = folder->second.Text();
 
   DosPath full = DosPath::Root(letter);
-  for (const std::string& component : DosPath(start + "\\" + rest).Components()) {
+  start.append("\\").append(rest);
+  for (const std::string& component : DosPath(start).Components()) {
     full = full / FileName::Own(component);
   }
   return full;

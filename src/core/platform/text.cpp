@@ -33,8 +33,7 @@ constexpr std::array<unsigned char, 256> MakeBareTable() {
   // The letters from 0xE0 on; a dot for those that have no accent.
   constexpr std::string_view kBare = "aaaaaa.ceeeeiiii.nooooo.ouuuuy.y";
   std::array<unsigned char, 256> table = kFold;
-  for (std::size_t byte = 0; byte < table.size(); ++byte) {
-    unsigned char& letter = table[byte];
+  for (unsigned char& letter : table) {
     if (letter >= 0xE0 && kBare[letter - 0xE0U] != '.') {
       letter = static_cast<unsigned char>(kBare[letter - 0xE0U]);
     }
